@@ -1,0 +1,28 @@
+# The only floors that know Qt and the audio libraries.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg DBus Network)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(PULSE REQUIRED IMPORTED_TARGET libpulse)
+pkg_check_modules(SNDFILE REQUIRED IMPORTED_TARGET sndfile)
+
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/src/desktop/ui)
+
+# Objects rather than an archive: a resource file registers itself only if its object is really linked.
+ventoria_floor(desktop TYPE OBJECT
+  LINKS ventoria_app Qt6::Widgets Qt6::Svg Qt6::DBus Qt6::Network PkgConfig::PULSE PkgConfig::SNDFILE)
+get_target_property(desktop_kind ventoria_desktop TYPE)
+if(NOT desktop_kind STREQUAL "INTERFACE_LIBRARY")
+  file(GLOB extras CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/*.h ${PROJECT_SOURCE_DIR}/src/desktop/ui/*.ui
+    ${PROJECT_SOURCE_DIR}/src/desktop/*.qrc)
+  target_sources(ventoria_desktop PRIVATE ${extras})
+endif()
+ventoria_program(ventoria desktop LINKS ventoria_desktop)
+
+ventoria_floor(stage LINKS ventoria_desktop ventoria_console)
+ventoria_program(ventoria-stage stage LINKS ventoria_stage ventoria_desktop)
+
+set(CMAKE_AUTOMOC OFF)
+set(CMAKE_AUTOUIC OFF)
+set(CMAKE_AUTORCC OFF)

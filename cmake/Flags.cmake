@@ -1,0 +1,15 @@
+# One interface target that carries the project's own flags; third-party code never sees them.
+add_library(ventoria_flags INTERFACE)
+target_compile_options(ventoria_flags INTERFACE
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion>)
+if(VENTORIA_WERROR)
+  target_compile_options(ventoria_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Werror>)
+endif()
+if(VENTORIA_SANITIZE)
+  target_compile_options(ventoria_flags INTERFACE
+    $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer>)
+  target_link_options(ventoria_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(VENTORIA_FUZZ)
+  target_compile_options(ventoria_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=fuzzer-no-link>)
+endif()

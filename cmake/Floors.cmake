@@ -1,0 +1,31 @@
+# A floor is one folder of src/ and one library, ventoria_<floor>. A folder of headers alone, or one that does not
+# exist yet, is an interface library, so that what links it need not know.
+
+# ventoria_floor(<floor> [TYPE STATIC|OBJECT] [LINKS <target>...])
+function(ventoria_floor floor)
+  cmake_parse_arguments(ARG "" "TYPE" "LINKS" ${ARGN})
+  if(NOT ARG_TYPE)
+    set(ARG_TYPE STATIC)
+  endif()
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${floor}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  if(sources)
+    add_library(ventoria_${floor} ${ARG_TYPE} ${sources})
+    set(scope PUBLIC)
+  else()
+    add_library(ventoria_${floor} INTERFACE)
+    set(scope INTERFACE)
+  endif()
+  target_include_directories(ventoria_${floor} ${scope} ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(ventoria_${floor} ${scope} ventoria_flags ${ARG_LINKS})
+endfunction()
+
+# ventoria_program(<name> <floor> LINKS <target>...): the program of src/<floor>/main.cpp, if there is one.
+function(ventoria_program name floor)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  file(GLOB main CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${floor}/main.cpp)
+  if(main)
+    add_executable(${name} ${main})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS})
+  endif()
+endfunction()
