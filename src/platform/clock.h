@@ -1,0 +1,48 @@
+// The clock is handed in: simulated for the console and tests, real on the desktop.
+#pragma once
+
+#include <chrono>
+
+namespace platform {
+
+using Instant = std::chrono::milliseconds;  // since the program's start, never going back
+using LocalTime = std::chrono::local_time<std::chrono::milliseconds>;  // date and time on the wall, no zone
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  [[nodiscard]] virtual Instant now() const = 0;
+  [[nodiscard]] virtual LocalTime localTime() const = 0;
+  // Lets time pass until `when`, or shorter if something else wants attention (input, a device).
+  // Fires nothing by itself; at once when `when` has passed.
+  virtual void sleepUntil(Instant when) = 0;
+};
+
+// Time passes only when somebody sleeps or moves it.
+class SimulatedClock final : public Clock {
+ public:
+  explicit SimulatedClock(LocalTime start) : start_(start) {}
+  [[nodiscard]] Instant now() const override { return now_; }
+  [[nodiscard]] LocalTime localTime() const override { return start_ + now_; }
+  void sleepUntil(Instant when) override {
+    if (when > now_) now_ = when;
+  }
+
+ private:
+  LocalTime start_;
+  Instant now_{0};
+};
+
+// The machine's clock. Sleeps the thread; a front with an event loop of its own overrides sleepUntil.
+class RealClock : public Clock {
+ public:
+  RealClock();
+  [[nodiscard]] Instant now() const override;
+  [[nodiscard]] LocalTime localTime() const override;
+  void sleepUntil(Instant when) override;
+
+ private:
+  std::chrono::steady_clock::time_point start_;
+};
+
+}  // namespace platform

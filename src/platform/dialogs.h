@@ -1,0 +1,40 @@
+// Modal questions to the rider: message boxes and file choosers.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace platform {
+
+enum class MessageKind { Information, Exclamation, Critical };
+enum class MessageButtons { Ok, OkCancel, YesNoCancel };
+enum class Answer { Ok, Cancel, Yes, No };
+
+struct Message {
+  MessageKind kind = MessageKind::Information;
+  MessageButtons buttons = MessageButtons::Ok;
+  std::string title;
+  std::string text;  // lines parted by '\n'
+};
+
+enum class FilePurpose { Open, OpenSeveral, Save, Folder };
+
+struct FileRequest {
+  FilePurpose purpose = FilePurpose::Open;
+  std::string title;
+  std::string folder;        // where the chooser starts
+  std::string filter;        // pairs "words|pattern" parted by '|'
+  std::string proposedName;  // for Save
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  // Closing the box counts as Cancel where there is one, else as Ok.
+  virtual Answer message(const Message& message) = 0;
+  // The chosen absolute paths; none when the rider cancelled. Save gives one path, with the filter's
+  // extension added where the rider typed none; asking before overwriting is the caller's business.
+  virtual std::vector<std::string> chooseFiles(const FileRequest& request) = 0;
+};
+
+}  // namespace platform

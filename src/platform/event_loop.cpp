@@ -1,0 +1,135 @@
+#include "platform/event_loop.h"
+
+#include <algorithm>
+
+#include "platform/timer.h"
+
+namespace platform {
+
+struct EventLoop::Entry {
+  Timer* timer;
+  std::uint64_t order;
+  Instant due{0};
+  bool queued = false;
+  bool running = false;
+  bool released = false;
+  std::string lastFault;  // so that a timer that fails at every tick says so once
+};
+
+EventLoop::EventLoop(Clock& clock) : clock_(clock) {}
+
+EventLoop::~EventLoop() {
+  for (const auto& entry : entries_) {
+    if (entry->timer != nullptr) entry->timer->scheduler_ = nullptr;
+  }
+}
+
+EventLoop::Entry* EventLoop::entryOf(const Timer& timer) const {
+  const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                  [&](const auto& entry) { return entry->timer == &timer; });
+  return found == entries_.end() ? nullptr : found->get();
+}
+
+void EventLoop::schedule(Entry& entry, Instant due) {
+  entry.due = due;
+  entry.queued = true;
+  const auto place = std::find_if(queue_.begin(), queue_.end(), [&](const Entry* other) {
+    return other->due > due || (other->due == due && other->order > entry.order);
+  });
+  queue_.insert(place, &entry);
+}
+
+void EventLoop::unschedule(Entry& entry) {
+  if (!entry.queued) return;
+  queue_.erase(std::find(queue_.begin(), queue_.end(), &entry));
+  entry.queued = false;
+}
+
+void EventLoop::adopt(Timer& timer) {
+  std::erase_if(entries_, [](const auto& entry) { return entry->released && !entry->running; });
+  entries_.push_back(std::make_unique<Entry>(Entry{&timer, created_++, {}, false, false, false, {}}));
+  timer.scheduler_ = this;
+  restart(timer);
+}
+
+void EventLoop::release(Timer& timer) {
+  Entry* entry = entryOf(timer);
+  if (entry == nullptr) return;
+  unschedule(*entry);
+  timer.scheduler_ = nullptr;
+  entry->timer = nullptr;
+  entry->released = true;  // its handler may be on the stack: the entry goes at the next adoption
+}
+
+void EventLoop::restart(Timer& timer) {
+  Entry* entry = entryOf(timer);
+  if (entry == nullptr) return;
+  unschedule(*entry);
+  if (timer.enabled && timer.interval > 0) schedule(*entry, clock_.now() + Instant{timer.interval.get()});
+  if (rescheduled_) rescheduled_();
+}
+
+EventLoop::Entry* EventLoop::firstDue(Instant horizon) const {
+  for (Entry* entry : queue_) {
+    if (entry->due > horizon) return nullptr;
+    if (!entry->running) return entry;
+  }
+  return nullptr;
+}
+
+std::optional<Instant> EventLoop::nextDue() const {
+  for (const Entry* entry : queue_) {
+    if (!entry->running) return entry->due;
+  }
+  return std::nullopt;
+}
+
+void EventLoop::fire(Entry& entry) {
+  const Instant now = clock_.now();
+  const Instant period{entry.timer->interval.get()};
+  const auto passed = (now - entry.due) / period + 1;
+  unschedule(entry);
+  schedule(entry, entry.due + passed * period);
+  entry.running = true;
+  try {
+    entry.timer->tick();
+    entry.lastFault.clear();
+  } catch (const std::exception& fault) {
+    if (entry.lastFault != fault.what()) {
+      entry.lastFault = fault.what();
+      if (faultHandler_) faultHandler_(fault.what());
+    }
+  }
+  entry.running = false;
+}
+
+void EventLoop::serveEvents() {
+  if (blocked()) return;
+  // Only what is due now: handlers that take longer than their own period must not keep the caller here.
+  const Instant horizon = clock_.now();
+  while (!quitting_ && !blocked()) {
+    Entry* entry = firstDue(horizon);
+    if (entry == nullptr) break;
+    fire(*entry);
+  }
+  if (pump_ && !blocked()) pump_();
+}
+
+void EventLoop::runUntil(Instant when) {
+  for (;;) {
+    serveEvents();
+    if (quitting_ || clock_.now() >= when) return;
+    const std::optional<Instant> next = nextDue();
+    clock_.sleepUntil(next && *next < when ? *next : when);
+  }
+}
+
+void EventLoop::guard(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception& fault) {
+    if (faultHandler_) faultHandler_(fault.what());
+  }
+}
+
+}  // namespace platform

@@ -1,0 +1,82 @@
+// The program's one loop: it owns the timers and the clock, and everything runs on its thread.
+//
+// Due timers fire in order of due time, then of creation. A late timer fires once, not once for each period
+// missed, and keeps its phase. A timer whose handler runs is not entered again by its own event, however deep
+// the waits inside it. A blocking sound stops the loop: see Blocking.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/form.h"
+
+namespace platform {
+
+class EventLoop final : public TimerScheduler {
+ public:
+  explicit EventLoop(Clock& clock);
+  ~EventLoop() override;
+
+  [[nodiscard]] Clock& clock() const { return clock_; }
+
+  // Fires what is due and lets the front handle the rider's input. Nothing while a sound blocks the loop.
+  void serveEvents();
+  // Serves events until `when`, sleeping from one due time to the next. Ends early when quitting.
+  void runUntil(Instant when);
+  // When the next timer that may fire falls due.
+  [[nodiscard]] std::optional<Instant> nextDue() const;
+
+  // Runs something on behalf of the rider or a timer: an exception ends it and goes to the fault handler.
+  void guard(const std::function<void()>& action);
+
+  void onInput(std::function<void()> pump) { pump_ = std::move(pump); }
+  void onFault(std::function<void(const std::string&)> handler) { faultHandler_ = std::move(handler); }
+  // Told when the next due time may have changed, for a front that sleeps on a timer of its own.
+  void onReschedule(std::function<void()> handler) { rescheduled_ = std::move(handler); }
+
+  // Ends the program: waits and sounds return at once, no timer fires any more.
+  void quit() { quitting_ = true; }
+  [[nodiscard]] bool quitting() const { return quitting_; }
+
+  // While one lives, no timer fires and no input is handled.
+  class Blocking {
+   public:
+    explicit Blocking(EventLoop& loop) : loop_(loop) { ++loop_.blocked_; }
+    ~Blocking() { --loop_.blocked_; }
+    Blocking(const Blocking&) = delete;
+    Blocking& operator=(const Blocking&) = delete;
+
+   private:
+    EventLoop& loop_;
+  };
+  [[nodiscard]] bool blocked() const { return blocked_ > 0; }
+
+  void adopt(Timer& timer) override;
+  void release(Timer& timer) override;
+  void restart(Timer& timer) override;
+
+ private:
+  struct Entry;
+  [[nodiscard]] Entry* entryOf(const Timer& timer) const;
+  void schedule(Entry& entry, Instant due);
+  void unschedule(Entry& entry);
+  void fire(Entry& entry);
+  [[nodiscard]] Entry* firstDue(Instant horizon) const;
+
+  Clock& clock_;
+  std::vector<std::unique_ptr<Entry>> entries_;
+  std::vector<Entry*> queue_;  // the timers that are on, by due time, then creation
+  std::uint64_t created_ = 0;
+  std::function<void()> pump_;
+  std::function<void(const std::string&)> faultHandler_;
+  std::function<void()> rescheduled_;
+  int blocked_ = 0;
+  bool quitting_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,138 @@
+#include "platform/grid.h"
+
+#include <algorithm>
+
+namespace platform {
+
+using What = GridChange::What;
+
+void Grid::tell(const GridChange& change) const {
+  for (const GridWatcher& watcher : watchers_) watcher(change);
+}
+
+void Grid::clearColumns() {
+  columns_.clear();
+  tell({What::Columns});
+}
+
+void Grid::addColumn(GridColumn column) {
+  columns_.push_back(std::move(column));
+  for (Row& row : rows_) {
+    row.cells.resize(columns_.size());
+    row.looks.resize(columns_.size());
+  }
+  tell({What::Columns});
+}
+
+void Grid::setColumnWidth(int column, int twips) {
+  if (column < 1 || column > columnCount() || columns_[at(column)].width == twips) return;
+  columns_[at(column)].width = twips;
+  tell({What::Columns, 0, column});
+}
+
+int Grid::columnLeft(int column) const {
+  int edge = 0;
+  for (int c = 1; c < column && c <= columnCount(); ++c) edge += columns_[at(c)].width;
+  return edge;
+}
+
+void Grid::addRow(std::vector<std::string> cells) {
+  insertRow(rowCount() + 1, std::move(cells));
+}
+
+void Grid::insertRow(int row, std::vector<std::string> cells) {
+  const int place = std::clamp(row, 1, rowCount() + 1);
+  cells.resize(columns_.size());
+  Row fresh{std::move(cells), std::vector<CellLook>(columns_.size()), false};
+  rows_.insert(rows_.begin() + (place - 1), std::move(fresh));
+  if (selected_ >= place) ++selected_;
+  tell({What::RowInserted, place, 0});
+}
+
+void Grid::removeRow(int row) {
+  if (row < 1 || row > rowCount()) return;
+  rows_.erase(rows_.begin() + (row - 1));
+  if (selected_ == row) selected_ = 0;
+  if (selected_ > row) --selected_;
+  if (pointedRow_ > rowCount()) pointedRow_ = 0;
+  tell({What::RowRemoved, row, 0});
+}
+
+void Grid::clearRows() {
+  rows_.clear();
+  selected_ = 0;
+  pointedRow_ = 0;
+  tell({What::Cleared});
+}
+
+bool Grid::holds(int row, int column) const {
+  return row >= 1 && row <= rowCount() && column >= 1 && column <= columnCount();
+}
+
+const std::string& Grid::text(int row, int column) const {
+  static const std::string none;
+  return holds(row, column) ? rows_[at(row)].cells[at(column)] : none;
+}
+
+void Grid::setText(int row, int column, const std::string& text) {
+  if (!holds(row, column)) return;
+  std::string& cell = rows_[at(row)].cells[at(column)];
+  if (cell == text) return;
+  cell = text;
+  tell({What::Text, row, column});
+}
+
+CellLook Grid::look(int row, int column) const {
+  return holds(row, column) ? rows_[at(row)].looks[at(column)] : CellLook{};
+}
+
+void Grid::setLook(int row, int firstColumn, int lastColumn, const CellLook& look) {
+  if (!holds(row, firstColumn) || !holds(row, lastColumn)) return;
+  bool changed = false;
+  for (int c = firstColumn; c <= lastColumn; ++c) {
+    CellLook& present = rows_[at(row)].looks[at(c)];
+    if (present == look) continue;
+    present = look;
+    changed = true;
+  }
+  if (changed) tell({What::Look, row, 0});
+}
+
+bool Grid::checked(int row) const {
+  return holds(row, 1) && rows_[at(row)].checked;
+}
+
+void Grid::setChecked(int row, bool on) {
+  if (!holds(row, 1) || rows_[at(row)].checked == on) return;
+  rows_[at(row)].checked = on;
+  tell({What::Checked, row, 0});
+}
+
+void Grid::tickRow(int row, bool on) {
+  if (!holds(row, 1)) return;
+  setChecked(row, on);
+  rowTicked(row);
+}
+
+void Grid::select(int row) {
+  const int wanted = row >= 1 && row <= rowCount() ? row : 0;
+  if (selected_ == wanted) return;
+  selected_ = wanted;
+  tell({What::Selection, wanted, 0});
+}
+
+void Grid::pointAt(int row, int column) {
+  pointedRow_ = row >= 1 && row <= rowCount() ? row : 0;
+  pointedColumn_ = column;
+  pointerMoved();
+}
+
+void Grid::pressAt(int row, int column, MouseButton button) {
+  pointAt(row, column);
+  pressed(button);
+  if (pointedRow_ == 0) return;
+  select(pointedRow_);
+  if (button == MouseButton::Left) click();
+}
+
+}  // namespace platform

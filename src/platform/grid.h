@@ -1,0 +1,124 @@
+// A report-style list: rows of text cells with a colour and a bold flag each. Rows and columns count from 1.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/control.h"
+
+namespace platform {
+
+enum class Alignment { Left, Centre };
+enum class MouseButton { Left, Right };
+
+struct GridColumn {
+  std::string header;
+  int width = 0;  // twips; 0 hides the column, which keeps its cells
+  Alignment alignment = Alignment::Left;
+};
+
+struct CellLook {
+  Colour colour;
+  bool bold = false;
+  bool operator==(const CellLook&) const = default;
+};
+
+// What changed in a grid, for the fronts. A row of 0 stands for all rows, a column of 0 for all columns.
+struct GridChange {
+  enum class What {
+    Columns,
+    RowInserted,
+    RowRemoved,
+    Cleared,
+    Text,
+    Look,
+    Checked,
+    Selection,
+    Reveal,
+    Focus
+  };
+  What what;
+  int row = 0;
+  int column = 0;
+};
+
+class Grid final : public Control {
+ public:
+  using GridWatcher = std::function<void(const GridChange&)>;
+
+  Grid(Form& form, std::string name, const Design& design = {})
+      : Control(form, ControlKind::Grid, std::move(name), design) {}
+
+  // Columns.
+  void clearColumns();
+  void addColumn(GridColumn column);
+  void setColumnWidth(int column, int twips);
+  [[nodiscard]] int columnCount() const { return static_cast<int>(columns_.size()); }
+  [[nodiscard]] const GridColumn& column(int column) const { return columns_[at(column)]; }
+  // Twips from the list's left to the column's left edge.
+  [[nodiscard]] int columnLeft(int column) const;
+
+  // Rows.
+  [[nodiscard]] int rowCount() const { return static_cast<int>(rows_.size()); }
+  void addRow(std::vector<std::string> cells);  // at the end; missing cells are empty
+  void insertRow(int row, std::vector<std::string> cells);
+  void removeRow(int row);
+  void clearRows();
+
+  // Cells. A place outside the grid reads as empty, and writing there does nothing.
+  [[nodiscard]] const std::string& text(int row, int column) const;
+  void setText(int row, int column, const std::string& text);
+  [[nodiscard]] CellLook look(int row, int column) const;
+  void setLook(int row, int firstColumn, int lastColumn, const CellLook& look);
+  // Check boxes, where the list has them. A tick by the rider is `tickRow`.
+  [[nodiscard]] bool checked(int row) const;
+  void setChecked(int row, bool on);
+  void tickRow(int row, bool on);
+
+  // Selection: one row, or 0 for none. Goes with its row when rows move.
+  [[nodiscard]] int selectedRow() const { return selected_; }
+  void select(int row);
+  // Scrolls so that the row shows, or gives the list the keyboard's focus: told to the front.
+  void reveal(int row) { tell({GridChange::What::Reveal, row, 0}); }
+  void focus() { tell({GridChange::What::Focus}); }
+
+  // Where the rider's pointer is; 0 outside. Kept by the front before it raises the mouse events.
+  [[nodiscard]] int pointedRow() const { return pointedRow_; }
+  [[nodiscard]] int pointedColumn() const { return pointedColumn_; }
+  // Which rows the list shows at present; a list without a screen shows all.
+  void setVisibleRows(int first, int last) { firstVisible_ = first, lastVisible_ = last; }
+  [[nodiscard]] bool rowShows(int row) const { return row >= firstVisible_ && row <= lastVisible_; }
+
+  // The mouse. pointAt moves the pointer; pressAt is a whole press of a button at a cell, in a list's order:
+  // the pointer moves, the button goes down, the row is selected, and with the left button it is clicked.
+  void pointAt(int row, int column);
+  void pressAt(int row, int column, MouseButton button);
+  Event<> pointerMoved;
+  Event<MouseButton> pressed;
+  Event<int> rowTicked;
+  Event<int> headerClicked;
+
+  void watchGrid(GridWatcher watcher) { watchers_.push_back(std::move(watcher)); }
+
+ private:
+  struct Row {
+    std::vector<std::string> cells;
+    std::vector<CellLook> looks;
+    bool checked = false;
+  };
+  [[nodiscard]] static std::size_t at(int number) { return static_cast<std::size_t>(number - 1); }
+  [[nodiscard]] bool holds(int row, int column) const;
+  void tell(const GridChange& change) const;
+
+  std::vector<GridColumn> columns_;
+  std::vector<Row> rows_;
+  std::vector<GridWatcher> watchers_;
+  int selected_ = 0;
+  int pointedRow_ = 0;
+  int pointedColumn_ = 0;
+  int firstVisible_ = 1;
+  int lastVisible_ = 1 << 30;
+};
+
+}  // namespace platform

@@ -1,0 +1,20 @@
+// All that the logic may reach outside the forms, handed in as one.
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/file_system.h"
+#include "platform/screen_saver.h"
+#include "platform/sound_output.h"
+
+namespace platform {
+
+struct Outside {
+  Clock& clock;
+  SoundOutput& sound;
+  Dialogs& dialogs;
+  FileSystem& files;
+  ScreenSaver& screenSaver;
+};
+
+}  // namespace platform

@@ -1,0 +1,14 @@
+// The desktop's screen saver, as far as a ride needs it: is it armed, arm it, hold it off.
+#pragma once
+
+namespace platform {
+
+class ScreenSaver {
+ public:
+  virtual ~ScreenSaver() = default;
+  // True while the saver may come on. False without a saver, or while it is held off.
+  virtual bool active() = 0;
+  virtual void setActive(bool active) = 0;
+};
+
+}  // namespace platform

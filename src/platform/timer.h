@@ -1,0 +1,29 @@
+// A repeating timer of a form; the event loop fires it while it is on and its form is loaded.
+#pragma once
+
+#include "platform/form.h"
+
+namespace platform {
+
+class Timer final : public Component {
+ public:
+  Timer(Form& form, std::string name, int intervalMs, bool on = false)
+      : Component(&form, ControlKind::Timer, std::move(name)),
+        interval(*this, Prop::Interval, intervalMs),
+        enabled(*this, Prop::Enabled, on) {}
+
+  Property<int> interval;  // ms, above 0
+  Property<bool> enabled;
+  Event<> tick;
+
+ private:
+  friend class EventLoop;
+  void propertyChanged(Prop id) override {
+    tellWatchers(id);
+    if (scheduler_ != nullptr) scheduler_->restart(*this);
+  }
+
+  TimerScheduler* scheduler_ = nullptr;
+};
+
+}  // namespace platform
