@@ -1,0 +1,45 @@
+// The composition root: makes the forms, the shared state, the loop and the logic, and ties them together.
+// A front constructs one Program over its devices, watches the forms, and calls start().
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "forms/screens.h"
+#include "model/shared_state.h"
+#include "platform/event_loop.h"
+#include "platform/outside.h"
+
+namespace app {
+
+struct Setup {
+  std::string folder;   // the program's folder; everything that the program keeps lies in it
+  std::string version;  // shown in the main menu
+};
+
+class Program {
+ public:
+  Program(const platform::Outside& outside, Setup setup);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // The program's start, as the rider sees it: folders, settings, first prompt, the idle screen.
+  // A folder that cannot be made is told to the rider and gives false: the front ends with status 1.
+  [[nodiscard]] bool start();
+
+  [[nodiscard]] forms::Screens& screens() { return screens_; }
+  [[nodiscard]] platform::EventLoop& loop() { return loop_; }
+  [[nodiscard]] model::SharedState& state() { return state_; }
+
+ private:
+  struct Logic;
+
+  platform::Outside outside_;
+  platform::EventLoop loop_;
+  forms::Screens screens_;
+  model::SharedState state_;
+  std::unique_ptr<Logic> logic_;
+};
+
+}  // namespace app

@@ -1,0 +1,60 @@
+// What the subsystems share beside the controls: the plan, the state of a ride, the sound slot, the order to
+// the music. Everything belongs to the event loop's thread.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "model/run_plan.h"
+#include "model/time_value.h"
+
+namespace model {
+
+struct SharedState {
+  // The plan and its companions.
+  RunPlan plan;
+  int nbSequences = 0;            // rows kept in the plan; 0: nothing is programmed
+  int nbSeances = 0;              // passes through the plan
+  std::string seanceTitre;        // the session's title
+  TimeValue dureeTotale = 0;      // time left of the whole run
+  std::string dureeChrono;        // length of the start countdown, whole seconds as text
+
+  // The ride.
+  int sequenceCourante = 0;       // row being ridden; 0 before the first
+  int seanceCourante = 0;         // number of the pass being ridden
+  TimeValue dureeSequence = 0;    // 0 stops the chrono at its next tick
+  TimeValue pasChrono = 0;        // one second, set at start-up
+  TimeValue ecouleSequence = 0;   // ridden of the present sequence
+  TimeValue restantSequence = 0;  // left of the present sequence, whole seconds
+  std::string moitieSequence;     // half of dureeSequence, "hh:nn:ss"
+  std::string etatFin;            // "terminer" once a run has ended with the voice off
+  int modeAffichageFC = 1;        // how the target is shown: 1 beats, 2 percentage, 3 both in turn
+  int alternanceFC = 0;           // in mode 3, which of the two comes next: 1 or 2
+  std::string ecranVeilleActif;   // "oui" when the last look found the screen saver active
+
+  // The voice: the one slot of every sound, a name and then a number, and the names of a boundary.
+  std::variant<std::string, int> sonDemande;
+  std::string sonSeance;
+  std::string sonNumSequence;
+  std::string sonSequence;
+  std::string sonCadence;
+  std::string sonBraquet;
+  std::string sonPlateau;
+
+  // The order to the music player: "oui" to go on, "non" to hold, empty when none waits.
+  std::string musiqueSuit;
+
+  // The program's folders, each ending in a separator.
+  std::string dossierProgramme;
+  std::string dossierSeances;
+  std::string dossierAnnonces;
+};
+
+// The value of a shared variable as text: texts as they stand, time values as "hh:nn:ss"; none for an
+// unknown name.
+[[nodiscard]] std::optional<std::string> variableText(const SharedState& state, std::string_view name);
+[[nodiscard]] std::vector<std::string> variableNames();
+
+}  // namespace model
