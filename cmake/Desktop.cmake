@@ -3,6 +3,7 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg DBus Network)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(PULSE REQUIRED IMPORTED_TARGET libpulse)
 pkg_check_modules(SNDFILE REQUIRED IMPORTED_TARGET sndfile)
+pkg_check_modules(SAMPLERATE REQUIRED IMPORTED_TARGET samplerate)
 
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
@@ -11,7 +12,8 @@ set(CMAKE_AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/src/desktop/ui)
 
 # Objects rather than an archive: a resource file registers itself only if its object is really linked.
 ventoria_floor(desktop TYPE OBJECT
-  LINKS ventoria_app Qt6::Widgets Qt6::Svg Qt6::DBus Qt6::Network PkgConfig::PULSE PkgConfig::SNDFILE)
+  LINKS ventoria_app Qt6::Widgets Qt6::Svg Qt6::DBus Qt6::Network PkgConfig::PULSE PkgConfig::SNDFILE
+    PkgConfig::SAMPLERATE)
 get_target_property(desktop_kind ventoria_desktop TYPE)
 if(NOT desktop_kind STREQUAL "INTERFACE_LIBRARY")
   file(GLOB extras CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/*.h ${PROJECT_SOURCE_DIR}/src/desktop/ui/*.ui
