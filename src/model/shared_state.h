@@ -15,11 +15,11 @@ namespace model {
 struct SharedState {
   // The plan and its companions.
   RunPlan plan;
-  int nbSequences = 0;            // rows kept in the plan; 0: nothing is programmed
-  int nbSeances = 0;              // passes through the plan
-  std::string seanceTitre;        // the session's title
-  TimeValue dureeTotale = 0;      // time left of the whole run
-  std::string dureeChrono;        // length of the start countdown, whole seconds as text
+  int nbSequences = 0;        // rows kept in the plan; 0: nothing is programmed
+  int nbSeances = 0;          // passes through the plan
+  std::string seanceTitre;    // the session's title
+  TimeValue dureeTotale = 0;  // time left of the whole run
+  std::string dureeChrono;    // length of the start countdown, whole seconds as text
 
   // The ride.
   int sequenceCourante = 0;       // row being ridden; 0 before the first

@@ -1,5 +1,6 @@
 // Time as a calendar value: a double-precision number of days, made only by converting texts such as
-// "00:00:01", and brought back to whole seconds by formatting and converting again. It cannot express 24 hours.
+// "00:00:01", and brought back to whole seconds by formatting and converting again. It cannot express 24
+// hours.
 #pragma once
 
 #include <optional>

@@ -1,0 +1,107 @@
+#include "model/grid_rows.h"
+
+#include "model/vocabulary.h"
+
+namespace model {
+namespace {
+
+std::string dashes() {
+  return std::string(noMeaning);
+}
+
+}  // namespace
+
+std::vector<platform::GridColumn> gridColumns(bool cycleMode) {
+  using platform::Alignment;
+  return {{"X", 0, Alignment::Left},
+          {"Nom de Cycle", cycleMode ? cycleColumnWidth : 0, Alignment::Centre},
+          {"Nom de Séance", freshSessionColumnWidth, Alignment::Left},
+          {"Séquence", 1250, Alignment::Centre},
+          {"Cadence", 1200, Alignment::Centre},
+          {"Plateau", 1300, Alignment::Centre},
+          {"Braquet", 1300, Alignment::Centre},
+          {"Répéter", 1100, Alignment::Centre},
+          {"Fois", 800, Alignment::Centre},
+          {"Durée H:M:S", 1835, Alignment::Centre},
+          {"Annonces", 1400, Alignment::Centre},
+          {"X", 600, Alignment::Centre},
+          {"Fréquence Cardiaque", 1250, Alignment::Centre}};
+}
+
+std::vector<std::string> firstRow() {
+  const std::string none = dashes();
+  return {"1",
+          "Nouveau Cycle ",
+          "Nouvelle Séance",
+          none,
+          none,
+          none,
+          none,
+          "Non",
+          "0",
+          std::string(noDuration),
+          none,
+          "--",
+          "Fréq./Card."};
+}
+
+std::vector<std::string> handMadeRow(int number, const std::string& cycleName) {
+  const std::string none = dashes();
+  const std::string blank(emptyCell);
+  return {std::to_string(number),
+          cycleName,
+          std::string(handMade),
+          blank,
+          blank,
+          blank,
+          blank,
+          none,
+          none,
+          std::string(noDuration),
+          none,
+          "x",
+          std::string(noTarget)};
+}
+
+std::vector<std::string> loadedRow(int number, const std::string& sessionName, const SequenceTexts& texts) {
+  const std::string none = dashes();
+  const bool spoken = texts.sequence == vocalAnnouncement;
+  return {std::to_string(number),
+          none,
+          sessionName,
+          texts.sequence,
+          texts.cadence,
+          texts.chainring,
+          texts.gear,
+          none,
+          none,
+          texts.duration,
+          spoken ? texts.announcement : none,
+          "x",
+          texts.heartRate};
+}
+
+std::vector<std::string> closingRow(int number, const std::string& sessionName) {
+  const std::string none = dashes();
+  return {std::to_string(number), none, sessionName, none, none, none, none, none, none, none, none, "x",
+          std::string(noTarget)};
+}
+
+bool lastRowUnfinished(const platform::Grid& grid) {
+  const int last = grid.rowCount();
+  return last > 0 &&
+         (grid.text(last, column::sequence) == emptyCell || grid.text(last, column::duration) == noDuration);
+}
+
+bool isUnfinished(const platform::Grid& grid, int row) {
+  const std::string& sequence = grid.text(row, column::sequence);
+  if (sequence == emptyCell || grid.text(row, column::duration) == noDuration) return true;
+  return sequence == vocalAnnouncement && grid.text(row, column::announcement) == emptyCell;
+}
+
+bool isSequence(const platform::Grid& grid, int row) {
+  const std::string& sequence = grid.text(row, column::sequence);
+  return sequence != emptyCell && sequence != noMeaning;
+}
+
+}  // namespace model

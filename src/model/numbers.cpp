@@ -1,0 +1,59 @@
+#include "model/numbers.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "platform/fault.h"
+#include "platform/text.h"
+
+namespace model {
+
+double lenientNumber(std::string_view text) {
+  std::string digits;
+  bool point = false;
+  for (const char c : text) {
+    if (c == ' ') continue;
+    const bool sign = digits.empty() && (c == '-' || c == '+');
+    const bool decimal = c == '.' && !point;
+    if (!sign && !decimal && (c < '0' || c > '9')) break;
+    point = point || decimal;
+    if (c != '+') digits += c;
+  }
+  double value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return value;
+}
+
+int lenientInteger(std::string_view text) {
+  const double value = lenientNumber(text);
+  constexpr double most = std::numeric_limits<int>::max();
+  return static_cast<int>(std::clamp(value, -most, most));
+}
+
+double strictNumber(std::string_view text) {
+  const std::string trimmed = platform::trim(text);
+  std::string digits = trimmed;
+  std::replace(digits.begin(), digits.end(), ',', '.');
+  if (!digits.empty() && digits.front() == '+') digits.erase(0, 1);
+  double value = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (error != std::errc{} || end != digits.data() + digits.size() || !std::isfinite(value)) {
+    throw platform::Fault("Le texte « " + trimmed + " » n'est pas un nombre.");
+  }
+  return value;
+}
+
+std::string plainNumber(double value) {
+  char text[32];
+  const auto [end, error] = std::to_chars(std::begin(text), std::end(text), value);
+  return error == std::errc{} ? std::string(text, end) : std::string();
+}
+
+std::string formatBpm(double value) {
+  const double rounded = std::round(value);
+  return rounded == 0 ? std::string() : plainNumber(rounded);
+}
+
+}  // namespace model

@@ -1,0 +1,184 @@
+#include "model/session_file.h"
+
+#include <algorithm>
+#include <array>
+
+#include "model/grid_rows.h"
+#include "model/numbers.h"
+#include "model/record.h"
+#include "model/vocabulary.h"
+#include "platform/fault.h"
+#include "platform/text.h"
+
+namespace model {
+namespace {
+
+// EnregSeance, and in its first eight fields EnregSeanceAncien.
+namespace field {
+constexpr Field nbEnreg{"nbEnreg", 0, 15};
+constexpr Field sequence{"sequence", 15, 15};
+constexpr Field cadence{"cadence", 30, 15};
+constexpr Field plateau{"plateau", 45, 13};
+constexpr Field braquet{"braquet", 58, 13};
+constexpr Field repeter{"repeter", 71, 3};
+constexpr Field fois{"fois", 74, 2};
+constexpr Field duree{"duree", 76, 8};
+constexpr Field annonce{"annonce", 84, 50};
+constexpr Field freqCard{"freqCard", 134, 11};
+constexpr Field reserve{"reserve", 145, 5};
+}  // namespace field
+
+constexpr std::array fields{field::nbEnreg, field::sequence, field::cadence, field::plateau,
+                            field::braquet, field::repeter,  field::fois,    field::duree,
+                            field::annonce, field::freqCard, field::reserve};
+constexpr std::size_t oldFieldCount = 8;
+constexpr std::size_t recordWidth = 150;
+constexpr std::size_t oldRecordWidth = 84;
+constexpr std::string_view versionTag = "ver2";
+constexpr std::size_t extensionLength = 4;
+
+// A count above this is no count but damage: no list of a rider comes near, and the rows would fill memory.
+constexpr int mostRecords = 32767;
+constexpr int mostRows = 200000;
+
+// What a cell's text is in the file, by field; the grid shows exactly what the file holds.
+struct CellField {
+  const Field& field;
+  int column;
+};
+constexpr std::array<CellField, 7> cellFields{{{field::sequence, column::sequence},
+                                               {field::cadence, column::cadence},
+                                               {field::plateau, column::chainring},
+                                               {field::braquet, column::gear},
+                                               {field::duree, column::duration},
+                                               {field::annonce, column::announcement},
+                                               {field::freqCard, column::heartRate}}};
+
+Record blankRecord() {
+  Record record(recordWidth);
+  record.blank(fields);
+  return record;
+}
+
+SessionHeader headerOf(const Record& record) {
+  return {lenientInteger(record.get(field::nbEnreg)), std::max(0, lenientInteger(record.get(field::fois))),
+          record.trimmed(field::annonce)};
+}
+
+std::string withoutExtension(const std::string& path) {
+  const std::size_t all = platform::length(path);
+  return platform::left(path, all > extensionLength ? all - extensionLength : 0);
+}
+
+SequenceTexts textsOf(const Record& record) {
+  std::string announcement = record.get(field::annonce);
+  if (announcement.find('\0') != std::string::npos) announcement = record.trimmed(field::annonce);
+  return {record.trimmed(field::sequence), record.trimmed(field::cadence), record.trimmed(field::plateau),
+          record.trimmed(field::braquet),  record.trimmed(field::duree),   announcement,
+          record.trimmed(field::freqCard)};
+}
+
+// One pass over the file's sequences: rows numbered 1 to n in the session column.
+void appendPass(platform::RandomFile& file, int nbEnreg, const std::string& name, platform::Grid& grid) {
+  Record record(recordWidth);
+  const std::string total = std::to_string(nbEnreg - 1);
+  for (int number = 2; number <= nbEnreg; ++number) {
+    record.read(file, static_cast<std::uint64_t>(number));
+    const std::string place = name + " (" + std::to_string(number - 1) + "/" + total + ")";
+    grid.addRow(loadedRow(grid.rowCount() + 1, place, textsOf(record)));
+    grid.setLook(grid.rowCount(), column::sessionName, column::deleteMark, look::finished);
+  }
+}
+
+void refuseDamage(const SessionHeader& header, int passes, const std::string& path) {
+  const bool tooMany = header.nbEnreg > mostRecords || header.nbEnreg > mostRows / passes;
+  if (!tooMany) return;
+  throw platform::Fault("Le fichier « " + path + " » est endommagé : il annonce " +
+                        std::to_string(header.nbEnreg) + " enregistrements.");
+}
+
+}  // namespace
+
+void ecrireSeance(platform::FileSystem& files, const std::string& chemin, const platform::Grid& grille) {
+  const auto file = files.open(chemin, platform::OpenMode::ReadWriteCreate);
+  int counter = 1;
+  for (int row = 2; row <= grille.rowCount(); ++row) {
+    if (!isSequence(grille, row)) continue;
+    Record record = blankRecord();
+    for (const CellField& cell : cellFields) record.set(cell.field, grille.text(row, cell.column));
+    ++counter;
+    record.write(*file, static_cast<std::uint64_t>(counter));
+  }
+  Record header = blankRecord();
+  header.set(field::nbEnreg, std::to_string(counter));
+  header.set(field::repeter, grille.text(1, column::repeat));
+  header.set(field::fois, grille.text(1, column::times));
+  header.set(field::annonce, versionTag);
+  header.write(*file, 1);
+}
+
+SessionHeader lireEnTete(platform::FileSystem& files, const std::string& chemin) {
+  const auto file = files.open(chemin, platform::OpenMode::Read);
+  Record record(recordWidth);
+  record.read(*file, 1);
+  return headerOf(record);
+}
+
+std::string convertirAncien(platform::FileSystem& files, const std::string& chemin) {
+  // The blanks keep the work file's name as long as the old one, so that it ends by the same cut.
+  const std::string base = withoutExtension(chemin);
+  const std::string work = base + ".   ";
+  const std::string target = withoutExtension(work) + ".tq2";
+  if (target != chemin && files.exists(target)) {
+    throw platform::FileFault("de convertir vers", target, "ce fichier existe déjà");
+  }
+  if (files.exists(work)) files.remove(work);
+  {
+    const auto old = files.open(chemin, platform::OpenMode::Read);
+    Record before(oldRecordWidth);
+    before.read(*old, 1);
+    const int count = lenientInteger(before.get(field::nbEnreg));
+    if (count > mostRecords) refuseDamage({count, 0, {}}, 1, chemin);
+    const auto fresh = files.open(work, platform::OpenMode::ReadWriteCreate);
+    for (int number = 1; number <= count; ++number) {
+      before.read(*old, static_cast<std::uint64_t>(number));
+      Record after = blankRecord();
+      for (std::size_t i = 0; i < oldFieldCount; ++i) after.set(fields.at(i), before.get(fields.at(i)));
+      if (number == 1) after.set(field::annonce, versionTag);
+      after.write(*fresh, static_cast<std::uint64_t>(number));
+    }
+  }
+  files.remove(chemin);
+  files.rename(work, target);
+  return target;
+}
+
+void ajouterSeance(platform::FileSystem& files, const std::string& chemin, platform::Grid& grille) {
+  const std::optional<std::string> name = sessionName(chemin);
+  if (!name) return;
+  const auto file = files.open(chemin, platform::OpenMode::Read);
+  Record record(recordWidth);
+  record.read(*file, 1);
+  const SessionHeader header = headerOf(record);
+  // 1 and 2 both give two passes: the count of the header is that of the passes only from 2 on.
+  const int repeats = header.fois > 1 ? header.fois - 1 : header.fois;
+  refuseDamage(header, repeats + 1, chemin);
+  if (lastRowUnfinished(grille)) grille.removeRow(grille.rowCount());
+  for (int pass = 1; pass <= repeats + 1; ++pass) {
+    appendPass(*file, header.nbEnreg, *name, grille);
+    if (repeats == 0) continue;
+    const std::string announced = "-----Répète--(" + std::to_string(pass + 1) + ")";
+    grille.addRow(closingRow(grille.rowCount() + 1, pass <= repeats ? announced : std::string(endOfList)));
+    grille.setLook(grille.rowCount(), column::sessionName, column::deleteMark, look::finished);
+  }
+}
+
+std::optional<std::string> sessionName(const std::string& chemin) {
+  const std::size_t slash = chemin.rfind('/');
+  const std::string last = slash == std::string::npos ? chemin : chemin.substr(slash + 1);
+  const std::size_t dot = last.find('.');
+  if (dot == std::string::npos) return std::nullopt;
+  return last.substr(0, dot);
+}
+
+}  // namespace model

@@ -1,0 +1,48 @@
+#include "model/settings_file.h"
+
+#include "model/numbers.h"
+#include "model/record.h"
+
+namespace model {
+namespace {
+
+constexpr std::size_t recordWidth = 30;
+constexpr Field countdownField{"Combo5", 12, 2};
+constexpr Field filler{"filler", 15, 15};
+constexpr std::size_t validatedBoxes = 12;  // the thirteenth came later and was never checked
+constexpr unsigned char greatestCountdownCode = 60;
+
+// The thirteenth box stands behind the countdown.
+constexpr Field boxField(std::size_t index) {
+  return {"Check", static_cast<std::uint16_t>(index < validatedBoxes ? index : 14), 1};
+}
+
+}  // namespace
+
+std::optional<Settings> readSettings(platform::FileSystem& files, const std::string& path) {
+  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
+  Record record(recordWidth);
+  record.read(*file, 1);
+  Settings settings;
+  for (std::size_t i = 0; i < settingsBoxCount; ++i) {
+    settings.boxes.at(i) = lenientInteger(record.get(boxField(i)));
+    if (i < validatedBoxes && settings.boxes.at(i) > 1) return std::nullopt;
+  }
+  settings.countdown = record.get(countdownField);
+  // The test is on the character, not on the value: a number above 60 passes.
+  if (static_cast<unsigned char>(settings.countdown.front()) > greatestCountdownCode) return std::nullopt;
+  return settings;
+}
+
+void writeSettings(platform::FileSystem& files, const std::string& path, const Settings& settings) {
+  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
+  Record record(recordWidth);
+  for (std::size_t i = 0; i < settingsBoxCount; ++i) {
+    record.set(boxField(i), std::to_string(settings.boxes.at(i)));
+  }
+  record.set(countdownField, settings.countdown);
+  record.set(filler, "");
+  record.write(*file, 1);
+}
+
+}  // namespace model
