@@ -1,0 +1,70 @@
+#include "desktop/dbus_screen_saver.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <utility>
+
+namespace desktop {
+
+namespace {
+
+constexpr int kPatienceMs = 300;
+constexpr qint64 kAbsenceMs = 60'000;
+
+const QString kService = QStringLiteral("org.freedesktop.ScreenSaver");
+
+QDBusMessage saverCall(const QString& method, const QVariantList& arguments) {
+  auto call = QDBusMessage::createMethodCall(kService, QStringLiteral("/org/freedesktop/ScreenSaver"),
+                                             kService, method);
+  call.setArguments(arguments);
+  return call;
+}
+
+}  // namespace
+
+DbusScreenSaver::DbusScreenSaver(QDBusConnection bus) : bus_(std::move(bus)) {}
+
+QString DbusScreenSaver::owner() {
+  if (!bus_.isConnected()) return {};
+  if (absentSince_.isValid() && !absentSince_.hasExpired(kAbsenceMs)) return {};
+  auto question = QDBusMessage::createMethodCall(
+      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetNameOwner"));
+  question.setArguments({kService});
+  const QDBusReply<QString> answer = bus_.call(question, QDBus::Block, kPatienceMs);
+  if (answer.isValid()) {
+    absentSince_.invalidate();
+    return answer.value();
+  }
+  absentSince_.start();
+  return {};
+}
+
+bool DbusScreenSaver::active() {
+  const QString now = owner();
+  if (now != holder_) cookie_.reset();
+  return !now.isEmpty() && !cookie_;
+}
+
+void DbusScreenSaver::setActive(bool active) {
+  if (active) {
+    if (cookie_) bus_.send(saverCall(QStringLiteral("UnInhibit"), {*cookie_}));
+    cookie_.reset();
+    return;
+  }
+  const QString now = owner();
+  if (now.isEmpty() || (cookie_ && now == holder_)) return;
+  const QDBusReply<quint32> answer =
+      bus_.call(saverCall(QStringLiteral("Inhibit"),
+                          {QStringLiteral("Ventoria"), QStringLiteral("Séance d'entraînement en cours")}),
+                QDBus::Block, kPatienceMs);
+  if (answer.isValid()) {
+    cookie_ = answer.value();
+    holder_ = now;
+  } else {
+    absentSince_.start();  // a saver that refuses or hangs is asked no more often than one that is missing
+  }
+}
+
+}  // namespace desktop

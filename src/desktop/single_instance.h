@@ -1,0 +1,32 @@
+// One running program for each rider and program folder: a second one wakes the first, and ends.
+#pragma once
+
+#include <QLocalServer>
+#include <QLockFile>
+#include <QString>
+#include <functional>
+
+namespace desktop {
+
+class SingleInstance {
+ public:
+  // `woken` comes through the event loop of the first program, with the text that a later one sent.
+  SingleInstance(const QString& programFolder, std::function<void(QString)> woken);
+  SingleInstance(const SingleInstance&) = delete;
+  SingleInstance& operator=(const SingleInstance&) = delete;
+
+  [[nodiscard]] bool first() const { return first_; }
+  // For a program that is not the first: false if the first does not listen.
+  bool wakeFirst(const QString& text = {}) const;
+
+ private:
+  void listen();
+
+  QString address_;
+  std::function<void(QString)> woken_;
+  QLockFile lock_;
+  QLocalServer server_;
+  bool first_ = false;
+};
+
+}  // namespace desktop
