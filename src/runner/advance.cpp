@@ -1,0 +1,225 @@
+#include "runner/advance.h"
+
+#include "model/vocabulary.h"
+#include "platform/text.h"
+#include "runner/boundary_sounds.h"
+#include "runner/visibility.h"
+
+namespace runner {
+
+Advance::Advance(const voice::Toolbox& tools, const Reset& reset)
+    : tools_(tools), reset_(reset), main_(tools.screens.main), state_(tools.state) {}
+
+void Advance::avancerSequence() {
+  if (state_.nbSequences == 0) return;
+  // A boundary can come up inside the waits of the one before it: each knows its own beginning.
+  const std::uint64_t outer = cancelsBefore_;
+  cancelsBefore_ = reset_.cancels();
+  try {
+    crossBoundary();
+  } catch (const Cancelled&) {
+    // The cancel has put everything to rest.
+  }
+  cancelsBefore_ = outer;
+}
+
+void Advance::crossBoundary() {
+  choosePass();
+  if (isOver()) {
+    endRun();
+    return;
+  }
+  showRideFields();
+  state_.ecouleSequence = 0;
+  ++state_.sequenceCourante;
+  sayPass();
+  showRow();
+  pause();
+  nameSounds();
+  showTarget();
+  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
+  main_.Label12.caption = state_.plan.planRemarque.at(row);
+  state_.dureeSequence = model::timeValue(state_.plan.planDuree.at(row));
+  playOwnAnnouncement();
+  saySequenceNumber();
+  // From here on time runs, although the voice that follows still delays the first tick. A ride that was
+  // paused during the waits above stays paused.
+  if (main_.Command7.caption == "Pause") main_.Timer1.enabled = true;
+  sayRow();
+  if (main_.Check7.value == 1 && !state_.sonBraquet.empty()) tools_.voice.dire(state_.sonBraquet);
+  const bool musicPlaysInRide = main_.Check10.value == 1 || main_.Check11.value == 1;
+  if (main_.Check2.value == 1 && tools_.voice.musiqueChargee() && musicPlaysInRide)
+    state_.musiqueSuit = "oui";
+}
+
+void Advance::choosePass() {
+  if (state_.nbSeances > 1) {
+    if (state_.sequenceCourante != 0 && state_.sequenceCourante != state_.nbSequences) return;
+    ++state_.seanceCourante;
+    state_.sequenceCourante = 0;
+  } else {
+    state_.seanceCourante = 1;
+  }
+  state_.sonSeance = passSound(state_.seanceCourante);
+}
+
+bool Advance::isOver() const {
+  if (state_.seanceCourante > state_.nbSeances) return true;
+  return state_.nbSeances == 1 && state_.sequenceCourante == state_.nbSequences;
+}
+
+void Advance::endRun() {
+  main_.Picture6.visible = false;
+  if (main_.Check2.value == 1) {
+    state_.sequenceCourante = 0;  // so that the cancel below says nothing
+    hold();
+    showMessage(main_, "Séance d'Entraînement Terminée");
+    pause();
+    tools_.voice.dire("finentrainement.wav");
+    tools_.voice.dire("pensezIdrater.wav");
+    showIdlePicture(main_);
+    main_.Label43.caption = "";
+    tools_.voice.relacherMusique();
+  } else {
+    state_.etatFin = "terminer";
+  }
+  main_.MyButton4.click();
+  main_.MyButton1.click();
+}
+
+void Advance::showRideFields() {
+  const std::string passes = std::to_string(state_.nbSeances);
+  main_.Label17.caption = (state_.nbSeances > 1 ? std::to_string(state_.seanceCourante) : "1") + "/" + passes;
+  show({&main_.Label1, &main_.Label2, &main_.Label3});
+  hideTimeBoxesUnderSettings(main_);
+  show({&main_.Label10, &main_.Label11, &main_.Label15, &main_.Label20, &main_.Label16, &main_.Label17,
+        &main_.Label28, &main_.Label29});
+  hide({&main_.Label12, &main_.Label39, &main_.Label18, &main_.Image2, &main_.Image4});
+}
+
+// The hold and the release come at every boundary, the number only before the first row of a pass.
+void Advance::sayPass() {
+  if (main_.Check2.value != 1 || main_.Check3.value != 1 || state_.sonSeance.empty()) return;
+  hold();
+  if (state_.sequenceCourante == 1) tools_.voice.dire(state_.sonSeance);
+  tools_.voice.relacherMusique();
+}
+
+void Advance::showRow() {
+  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
+  const model::RunPlan& plan = state_.plan;
+  const std::string& duration = plan.planDuree.at(row);
+  main_.Combo1.text = platform::left(duration, 2);
+  main_.Combo2.text = platform::mid(duration, 4, 2);
+  main_.Combo3.text = platform::right(duration, 2);
+  const bool spoken = plan.planSequence.at(row) == model::vocalAnnouncement;
+  main_.Label10.caption = spoken ? std::string() : plan.planCadence.at(row);
+  main_.Label11.caption = plan.planSequence.at(row);
+  main_.Label15.caption = spoken ? std::string() : plan.planBraquet.at(row);
+  main_.Label20.caption = spoken ? std::string() : plan.planPlateau.at(row);
+  main_.Label16.caption = std::to_string(row) + "/" + std::to_string(state_.nbSequences);
+  if (!spoken) composeGearText();
+}
+
+void Advance::composeGearText() {
+  const std::string& gear = main_.Label15.caption;
+  const std::string& chainring = main_.Label20.caption;
+  const bool inWords = gear == "Grand Braquet" || gear == "Petit Braquet" || chainring == "Grand Plateau" ||
+                       chainring == "Petit Plateau";
+  main_.Label39.caption =
+      inWords ? chainring + " * " + gear : "Braquet de (" + chainring + " x " + gear + ")";
+}
+
+// By what stands on the screen, not in the plan.
+void Advance::nameSounds() {
+  state_.sonSequence = sequenceSound(main_.Label11.caption);
+  state_.sonCadence = cadenceSound(main_.Label10.caption);
+  state_.sonBraquet = gearSound(main_.Label15.caption);
+  state_.sonPlateau = chainringSound(main_.Label20.caption);
+}
+
+void Advance::showTarget() {
+  main_.Label44.caption = "";
+  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
+  const std::string target = platform::trim(state_.plan.planFreqCard.at(row));
+  if (target.empty() || target == "---" || target == model::noTarget) {
+    showMessage(main_, "Fréquence de Travail NON Définie\n");
+    return;
+  }
+  main_.Label44.size = 80;
+  main_.Label44.top = -180;
+  main_.Label44.visible = false;
+  state_.alternanceFC = 1;
+  main_.Label44.visible = true;
+}
+
+void Advance::playOwnAnnouncement() {
+  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
+  if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) return;
+  hold();
+  if (main_.Check9.value == 1) tools_.voice.jouerAnnonce(state_.plan.planAnnonce.at(row));
+}
+
+void Advance::saySequenceNumber() {
+  state_.sonNumSequence = sequenceNumberSound(state_.sequenceCourante);
+  if (main_.Check4.value == 1 && !isAnnouncement()) sayHolding(state_.sonNumSequence);
+}
+
+void Advance::sayRow() {
+  main_.Label16.caption = std::to_string(state_.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
+  if (main_.Check2.value == 1) {
+    sayKind();
+    if (main_.Check5.value == 1 && !state_.sonCadence.empty()) tools_.voice.dire(state_.sonCadence);
+    sayChainring();
+    pause();
+  }
+  if (!isAnnouncement()) tools_.voice.relacherMusique();
+}
+
+// The cadence alone holds the music, too, but does not say the kind.
+void Advance::sayKind() {
+  const bool wanted = main_.Check5.value == 1 || main_.Check13.value == 1;
+  if (!wanted || isAnnouncement() || state_.sonSequence.empty()) return;
+  state_.sonDemande = state_.sonSequence;
+  tools_.voice.nommerSon();
+  hold();
+  if (main_.Check13.value == 1) tools_.voice.jouerSon();
+}
+
+void Advance::sayChainring() {
+  if (main_.Check6.value != 1 || state_.sonPlateau.empty()) return;
+  // By the sound's first letter, so that of the two words only the big chainring keeps its own field.
+  const bool inOneText = state_.sonPlateau.front() == 'P';
+  main_.Label15.visible = !inOneText;
+  main_.Label20.visible = !inOneText;
+  main_.Label39.visible = inOneText;
+  tools_.voice.dire(state_.sonPlateau);
+}
+
+bool Advance::isAnnouncement() const {
+  return main_.Label11.caption == std::string(model::vocalAnnouncement);
+}
+
+void Advance::pause() {
+  tools_.voice.attendre(1);
+  leaveIfCancelled();
+}
+
+void Advance::hold() {
+  tools_.voice.retenirMusique();
+  leaveIfCancelled();
+}
+
+void Advance::sayHolding(const std::string& name) {
+  state_.sonDemande = name;
+  tools_.voice.nommerSon();
+  hold();
+  tools_.voice.jouerSon();
+  tools_.voice.relacherMusique();
+}
+
+void Advance::leaveIfCancelled() const {
+  if (reset_.cancels() != cancelsBefore_ || tools_.loop.quitting()) throw Cancelled{};
+}
+
+}  // namespace runner

@@ -1,0 +1,118 @@
+#include "runner/chrono.h"
+
+#include <algorithm>
+
+#include "model/numbers.h"
+#include "model/vocabulary.h"
+#include "platform/text.h"
+#include "runner/visibility.h"
+
+namespace runner {
+namespace {
+
+constexpr std::size_t beatsLength = 3;    // "132" of "132-75 %"
+constexpr std::size_t beforePercent = 4;  // "132-"
+
+// What of the target's text mode 2 shows; nothing where the cell is too short to be cut.
+std::string percentPart(const std::string& target) {
+  return platform::length(target) < beforePercent ? std::string() : platform::mid(target, beforePercent + 1);
+}
+
+}  // namespace
+
+Chrono::Chrono(const voice::Toolbox& tools, Advance& advance, const Reset& reset)
+    : tools_(tools), advance_(advance), reset_(reset), main_(tools.screens.main), state_(tools.state) {
+  main_.Timer1.tick.handle([this] { tickChrono(); });
+  main_.Timer3.tick.handle([this] { tickSurveillance(); });
+  main_.Timer9.tick.handle([this] { tickEcranVeille(); });
+  main_.Timer10.tick.handle([this] { tickPanneau(); });
+  main_.Picture6.hover.handle([this] { stepAsidePanel(); });
+  main_.Label40.hover.handle([this] { stepAsidePanel(); });
+  main_.Label44.hover.handle([this] { stepAsidePanel(); });
+}
+
+void Chrono::tickChrono() {
+  showTarget();
+  countTotal();
+  if (state_.dureeSequence != 0 && !countSecond()) return;
+  main_.Timer1.enabled = false;
+  for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) box->text = "00";
+  if (state_.nbSequences == 0) return;
+  hide({&main_.Label18, &main_.Image4});
+  advance_.avancerSequence();
+}
+
+void Chrono::showTarget() {
+  const std::string& target = state_.plan.planFreqCard.at(static_cast<std::size_t>(state_.sequenceCourante));
+  const bool inTurn = state_.modeAffichageFC == 3 && state_.alternanceFC != 0;
+  if (state_.modeAffichageFC == 1 || (inTurn && state_.alternanceFC == 1)) {
+    main_.Label44.caption = platform::left(target, beatsLength);
+  } else if (state_.modeAffichageFC == 2 || inTurn) {
+    main_.Label44.caption = percentPart(target);
+  }
+  if (inTurn) state_.alternanceFC = state_.alternanceFC == 1 ? 2 : 1;
+}
+
+// The total is kept in the label and read back from it, and so always in whole seconds.
+void Chrono::countTotal() {
+  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
+  if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) {
+    main_.Label40.caption = model::formatTime(state_.dureeTotale - state_.pasChrono);
+  }
+  state_.dureeTotale = model::timeValue(main_.Label40.caption.get());
+}
+
+bool Chrono::countSecond() {
+  const std::uint64_t before = reset_.cancels();
+  main_.Label16.caption = std::to_string(state_.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
+  state_.ecouleSequence += state_.pasChrono;
+  // Through the text and back: sums of many seconds drift off the whole ones, and the test below needs them.
+  const std::string left = model::formatTime(state_.dureeSequence - state_.ecouleSequence);
+  state_.restantSequence = model::timeValue(left);
+  main_.Label4.caption = platform::left(left, 2);
+  main_.Label5.caption = platform::mid(left, 4, 2);
+  main_.Label6.caption = platform::right(left, 2);
+  state_.moitieSequence = model::formatTime(state_.dureeSequence / 2);
+  if (model::timeValue(state_.moitieSequence) == state_.restantSequence && main_.Check8.value == 1) {
+    tools_.voice.direEnRetenant("miparcours.wav");
+    if (reset_.cancels() != before) return false;
+  }
+  for (const auto* digits : {&main_.Label4, &main_.Label5, &main_.Label6}) {
+    if (model::lenientNumber(digits->caption.get()) != 0) return false;
+  }
+  main_.Label6.caption = "00";
+  tools_.voice.attendre(1);
+  return reset_.cancels() == before && !tools_.loop.quitting();
+}
+
+void Chrono::tickSurveillance() {
+  const bool open = state_.dureeSequence != 0;
+  for (auto* button : {&main_.MyButton1, &main_.MyButton4, &main_.Command7}) button->enabled = open;
+  const auto boxes = {&main_.Check3, &main_.Check4, &main_.Check5, &main_.Check6,
+                      &main_.Check7, &main_.Check8, &main_.Check9, &main_.Check13};
+  if (std::all_of(boxes.begin(), boxes.end(), [](const auto* box) { return box->value == 0; })) {
+    main_.Check2.value = 0;
+  }
+}
+
+void Chrono::tickPanneau() {
+  main_.Timer10.enabled = false;
+  main_.Picture6.visible = true;
+}
+
+void Chrono::stepAsidePanel() {
+  // The large message outlives the ride: with no panel to step aside, nothing is to come back.
+  if (!main_.Picture6.visible && !main_.Timer10.enabled) return;
+  main_.Picture6.visible = false;
+  // Off and on: the second counts from the last move.
+  main_.Timer10.enabled = false;
+  main_.Timer10.enabled = true;
+}
+
+void Chrono::tickEcranVeille() {
+  const bool active = tools_.outside.screenSaver.active();
+  state_.ecranVeilleActif = active ? "oui" : "non";
+  if (active) tools_.outside.screenSaver.setActive(false);
+}
+
+}  // namespace runner

@@ -1,0 +1,118 @@
+#include "runner/countdown.h"
+
+#include "model/numbers.h"
+#include "runner/visibility.h"
+
+namespace runner {
+
+Countdown::Countdown(const voice::Toolbox& tools, Advance& advance)
+    : tools_(tools), advance_(advance), main_(tools.screens.main), state_(tools.state) {
+  main_.MyButton3.click.handle([this] { lancerCompteRebours(); });
+  main_.Timer2.tick.handle([this] { tickCompteRebours(); });
+  main_.Command7.click.handle([this] { basculerPause(); });
+  main_.MyButton2.click.handle([this] { leaveFrame(); });
+  main_.MyButton5.click.handle([this] { goToEditor(); });
+  main_.MyButton9.click.handle([this] {
+    main_.MyFrame2.visible = false;
+    main_.Command7.enabled = true;
+    main_.MyButton4.enabled = true;
+  });
+  main_.Combo5.click.handle([this] { chooseLength(); });
+  for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) {
+    box->click.handle([this] { chooseManualTime(); });
+  }
+  main_.Timer4.tick.handle([this] {
+    main_.Timer4.enabled = false;
+    main_.MyButton1.click();
+  });
+  main_.Timer6.tick.handle([this] {
+    main_.Timer6.enabled = false;
+    main_.MyButton4.click();
+  });
+}
+
+void Countdown::lancerCompteRebours() {
+  main_.Command7.caption = "Pause";
+  if (main_.MyButton3.caption == "Redémarrer Chrono") main_.MyButton3.caption = "Démarrer Chrono";
+  main_.Label9.caption = main_.Combo5.text;
+  main_.Timer2.enabled = true;
+  main_.MyButton3.enabled = false;
+  showDigits(main_);
+  if (main_.Check2.value != 1) return;
+  state_.musiqueSuit = "non";
+  showMessage(main_, "Démarrage Séance d'Entraînement");
+  main_.Image7.visible = false;
+  tools_.voice.dire("topdepartentrainement.wav");
+}
+
+void Countdown::tickCompteRebours() {
+  main_.Label9.visible = false;
+  main_.Label9.caption = std::to_string(model::lenientInteger(main_.Label9.caption.get()) - 1);
+  main_.Label9.visible = true;
+  if (state_.nbSequences != 0) {
+    if (main_.Label9.caption != "0") return;
+    main_.MyFrame2.visible = false;
+    hideTimeBoxesUnderSettings(main_);
+    main_.Combo4.visible = false;
+    if (main_.Check2.value == 1 && state_.nbSequences > 0) {
+      main_.Label18.caption = "Séance en Cours";
+      tools_.voice.dire("dementrainement.wav");
+      tools_.screens.announcements.Timer12.enabled = true;
+    }
+  }
+  main_.MyFrame2.visible = false;
+  hideTimeBoxesUnderSettings(main_);
+  main_.Timer2.enabled = false;
+  main_.Label40.caption = model::formatTime(state_.dureeTotale);
+  main_.Picture6.visible = true;
+  if (state_.nbSequences == 0) {
+    // No countdown has shown the digits of a manual chrono.
+    showDigits(main_);
+    main_.Timer1.enabled = true;
+  } else {
+    advance_.avancerSequence();
+  }
+}
+
+void Countdown::basculerPause() {
+  if (main_.Command7.caption == "Pause") {
+    main_.Timer1.enabled = false;
+    main_.Timer2.enabled = false;
+    if (main_.Check2.value == 1) tools_.voice.dire("pausedemande.wav");
+    main_.Command7.caption = "REPRENDRE";
+  } else if (main_.Command7.caption == "REPRENDRE") {
+    tools_.voice.dire("repriseentrainement.wav");
+    main_.Timer1.enabled = true;
+    main_.Timer2.enabled = false;
+    main_.Timer10.enabled = true;
+    main_.Command7.caption = "Pause";
+  }
+}
+
+void Countdown::leaveFrame() {
+  main_.MyButton4.click();
+  hide({&main_.Combo1, &main_.Combo2, &main_.Combo3});
+  tools_.voice.dire("seanceAnnule.wav");
+  main_.MyFrame2.visible = false;
+  hideTimeBoxesUnderSettings(main_);
+}
+
+void Countdown::chooseLength() {
+  main_.MyButton10.enabled = main_.Check12.value == 1 && main_.Combo5.text != state_.dureeChrono;
+  main_.Label9.caption = main_.Combo5.text;
+}
+
+void Countdown::chooseManualTime() {
+  state_.dureeSequence = model::timeValue(main_.Combo1.text.get() + ":" + main_.Combo2.text.get() + ":" +
+                                          main_.Combo3.text.get());
+  state_.ecouleSequence = 0;
+}
+
+void Countdown::goToEditor() {
+  main_.Picture6.visible = false;
+  main_.Timer10.enabled = false;
+  if (main_.Command7.caption == "Pause") main_.MyButton4.click();
+  main_.mnCreat.click();
+}
+
+}  // namespace runner

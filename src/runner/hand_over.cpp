@@ -1,0 +1,92 @@
+#include "runner/hand_over.h"
+
+#include "model/grid_rows.h"
+#include "model/numbers.h"
+#include "model/vocabulary.h"
+#include "platform/text.h"
+#include "runner/visibility.h"
+
+namespace runner {
+
+HandOver::HandOver(const voice::Toolbox& tools)
+    : tools_(tools), main_(tools.screens.main), editor_(tools.screens.editor), state_(tools.state) {
+  editor_.MyButton5.click.handle([this] { validerSeance(); });
+}
+
+void HandOver::validerSeance() {
+  settleOtherForms();
+  if (main_.Command7.caption == "REPRENDRE") {
+    // A paused ride keeps its plan; the edits stay in the grid.
+    editor_.mnSortir.click();
+    return;
+  }
+  resetRide();
+  editor_.hide();
+  main_.show();
+  const platform::Grid& grid = editor_.ListView1;
+  state_.nbSequences = grid.rowCount() - 1;
+  state_.dureeTotale = model::timeValue(grid.text(1, model::column::duration));
+  const int times = model::lenientInteger(grid.text(1, model::column::times));
+  state_.nbSeances = times > 0 ? times : 1;
+  if (grid.rowCount() < 2) return;
+  fillPlan();
+  // Only to open the start button, until the first sequence replaces it.
+  state_.dureeSequence = model::timeValue("00:00:03");
+  showTitle();
+  main_.Timer4.enabled = true;
+  main_.Timer9.enabled = true;
+}
+
+void HandOver::settleOtherForms() {
+  editor_.Command1.click();
+  if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
+  main_.MyButton19.visible = !tools_.screens.announcements.File1.lines().empty();
+  if (tools_.screens.volume.visible) tools_.screens.volume.unload();
+  if (state_.dureeChrono.empty()) state_.dureeChrono = "16";
+  main_.Combo5.text = state_.dureeChrono;
+}
+
+void HandOver::resetRide() {
+  show({&main_.Label4, &main_.Label5, &main_.Label6, &main_.Image4});
+  state_.sequenceCourante = 0;
+  state_.seanceCourante = 0;
+  state_.nbSequences = 0;
+  main_.MyButton1.caption = "Start";
+  main_.Command7.caption = "Pause";
+  state_.sonSeance = "";
+}
+
+void HandOver::fillPlan() {
+  const platform::Grid& grid = editor_.ListView1;
+  model::RunPlan& plan = state_.plan;
+  plan.allocate(state_.nbSequences);
+  std::size_t kept = 0;
+  for (int row = 2; row <= grid.rowCount(); ++row) {
+    const std::string& duration = grid.text(row, model::column::duration);
+    const std::string& announcement = grid.text(row, model::column::announcement);
+    if (duration == model::noMeaning && announcement == model::noMeaning) continue;
+    if (duration == model::noDuration) continue;
+    ++kept;
+    plan.planSequence[kept] = grid.text(row, model::column::sequence);
+    plan.planCadence[kept] = grid.text(row, model::column::cadence);
+    plan.planPlateau[kept] = grid.text(row, model::column::chainring);
+    plan.planBraquet[kept] = grid.text(row, model::column::gear);
+    plan.planAnnonce[kept] = platform::trim(announcement);
+    plan.planFreqCard[kept] = grid.text(row, model::column::heartRate);
+    plan.planRemarque[kept] = "";
+    const bool spoken = plan.planSequence[kept] == model::vocalAnnouncement;
+    plan.planDuree[kept] = spoken ? std::string(model::noDuration) : duration;
+  }
+  state_.nbSequences = static_cast<int>(kept);
+}
+
+void HandOver::showTitle() {
+  if (state_.seanceTitre.empty()) state_.seanceTitre = model::untitledSession;
+  const std::string total = model::formatTime(state_.dureeTotale);
+  main_.Label19.caption = "(" + state_.seanceTitre + ")\n(Durée = " + total + ")";
+  const std::string title = "(" + state_.seanceTitre + ")  =>  (Durée : " + total + ")";
+  editor_.Label8.caption = title;
+  main_.MyFrame1.caption = title;
+}
+
+}  // namespace runner

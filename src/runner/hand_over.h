@@ -1,0 +1,26 @@
+// From the editor to the ride: the grid's rows become the run plan, and the main screen comes back.
+#pragma once
+
+#include "voice/toolbox.h"
+
+namespace runner {
+
+class HandOver {
+ public:
+  explicit HandOver(const voice::Toolbox& tools);
+
+  void validerSeance();
+
+ private:
+  void settleOtherForms();
+  void resetRide();
+  void fillPlan();
+  void showTitle();
+
+  voice::Toolbox tools_;
+  forms::MainForm& main_;
+  forms::CreerCycle& editor_;
+  model::SharedState& state_;
+};
+
+}  // namespace runner

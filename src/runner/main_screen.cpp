@@ -1,0 +1,99 @@
+#include "runner/main_screen.h"
+
+#include "model/vocabulary.h"
+#include "runner/visibility.h"
+
+namespace runner {
+MainScreen::MainScreen(const voice::Toolbox& tools, SettingsPage& settings, std::string folder,
+                       std::string version)
+    : tools_(tools),
+      settings_(settings),
+      main_(tools.screens.main),
+      state_(tools.state),
+      folder_(std::move(folder)),
+      version_(std::move(version)) {
+  connectMenus();
+  connectHoverHelp();
+  main_.Command4.click.handle([this] { quitterProgramme(); });
+  main_.Image13.click.handle([this] { main_.Picture3.visible = !main_.Picture3.visible; });
+  main_.MyButton20.click.handle([this] { main_.Picture12.visible = false; });
+}
+
+void MainScreen::demarrerProgramme() {
+  makeFolders();
+  fillLists();
+  main_.MyFrame1.caption = "Ventoria";
+  state_.dureeSequence = model::timeValue("00:00:00");
+  state_.pasChrono = model::timeValue("00:00:01");
+  main_.show();
+  tools_.screens.editor.load();
+  tools_.loop.guard([this] { settings_.lireOuCreer(); });
+  main_.mnVerAct.caption = "Version Actuelle du Logiciel (" + version_ + ")";
+  tools_.voice.dire(main_.Check2.value == 1 ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
+  tools_.screens.volume.load();
+  tools_.screens.announcements.load();
+  tools_.screens.player.load();
+}
+
+void MainScreen::makeFolders() {
+  state_.dossierProgramme = folder_ + "/";
+  state_.dossierSeances = state_.dossierProgramme + "chronodat/";
+  state_.dossierAnnonces = state_.dossierProgramme + "annonces/";
+  for (const std::string& folder :
+       {folder_, state_.dossierProgramme + "chronodat", state_.dossierProgramme + "annonces",
+        state_.dossierProgramme + "ambiances", state_.dossierProgramme + "Vid"}) {
+    if (!tools_.outside.files.exists(folder)) tools_.outside.files.makeFolder(folder);
+  }
+}
+
+void MainScreen::fillLists() {
+  main_.Combo1.setLines(model::twoDigits(23));
+  main_.Combo2.setLines(model::twoDigits(59));
+  main_.Combo3.setLines(model::twoDigits(59));
+  main_.Combo5.setLines(model::numbers(1, 60));
+  main_.Combo5.text = "16";
+}
+
+void MainScreen::connectMenus() {
+  main_.mnCreat.click.handle([this] { openEditor(); });
+  main_.mnsons.click.handle([this] { settings_.ouvrir(); });
+  main_.Command2.click.handle([this] { main_.mnMenuPrincipal.popUp(); });
+  main_.MyButton19.alternate.handle([this] { main_.mnMenu1.popUp(); });
+  main_.MyButton21.alternate.handle([this] { main_.mnMenu2.popUp(); });
+}
+
+void MainScreen::openEditor() {
+  main_.hide();
+  if (main_.Command7.caption == "Pause") main_.MyFrame2.visible = true;
+  tools_.screens.editor.show();
+}
+
+void MainScreen::connectHoverHelp() {
+  const auto explain = [this](platform::Control& control, const char* text) {
+    control.hover.handle([this, text] { main_.Label35.caption = text; });
+  };
+  explain(main_.Command2,
+          "La Commande (Menu) vous offre divers Sous-Menus, tel que Paramètres, Mise à Jour, Créations, "
+          "Ambiances "
+          "Musicales ou Vocales, Propriétés Audios pour vos Préférences Sonores...");
+  explain(main_.Command4, "Cliquez sur cette Commande et vous Quitterez le Programme tout simplement...");
+  explain(
+      main_.Command7,
+      "en Cliquant sur cette Commande, vous pourez faire une (Pause) ou (Reprendre) la Séance d'Entrainement "
+      "en cours...");
+  explain(main_.MyButton4,
+          "Cliquez sur cette Commande et vous Annulerez Immédiatement la Séances d'Entrainement en cours...");
+  explain(main_.MyButton5,
+          "Cliquez sur cette Commande et vous Afficherez la Page des Création et Compositions de Séances "
+          "d'Entrainement...");
+  explain(main_.Image15, "Si vous avez besoin d'Aide Visuellement, Cliquez ici et consultez les Vidéos...");
+}
+
+void MainScreen::quitterProgramme() {
+  tools_.screens.player.Timer3.enabled = true;
+  tools_.voice.attendre(1);
+  if (state_.ecranVeilleActif == "oui") tools_.outside.screenSaver.setActive(true);
+  tools_.loop.quit();
+}
+
+}  // namespace runner

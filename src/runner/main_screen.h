@@ -1,0 +1,34 @@
+// The main screen around the ride: the program's start and end, the menus, the help on hover.
+#pragma once
+
+#include <string>
+
+#include "runner/settings_page.h"
+#include "voice/toolbox.h"
+
+namespace runner {
+
+class MainScreen {
+ public:
+  MainScreen(const voice::Toolbox& tools, SettingsPage& settings, std::string folder, std::string version);
+
+  // A platform::FileFault where one of the program's folders cannot be made.
+  void demarrerProgramme();
+  void quitterProgramme();
+
+ private:
+  void makeFolders();
+  void fillLists();
+  void connectMenus();
+  void connectHoverHelp();
+  void openEditor();
+
+  voice::Toolbox tools_;
+  SettingsPage& settings_;
+  forms::MainForm& main_;
+  model::SharedState& state_;
+  std::string folder_;
+  std::string version_;
+};
+
+}  // namespace runner

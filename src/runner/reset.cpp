@@ -1,0 +1,70 @@
+#include "runner/reset.h"
+
+#include "runner/visibility.h"
+
+namespace runner {
+
+Reset::Reset(const voice::Toolbox& tools) : tools_(tools), main_(tools.screens.main), state_(tools.state) {
+  main_.MyButton4.click.handle([this] { annulerSeance(); });
+  main_.MyButton1.click.handle([this] { boutonStart(); });
+}
+
+void Reset::annulerSeance() {
+  ++cancels_;
+  main_.Picture6.visible = false;
+  main_.Timer10.enabled = false;
+  if (state_.etatFin != "terminer") {
+    if (state_.sequenceCourante > 0) {
+      showIdlePicture(main_);
+      tools_.voice.dire("seanceAnnule.wav");
+    }
+    main_.Command7.caption = "Pause";
+  }
+  showIdlePicture(main_);
+  main_.Label18.caption = "Prêt pour une Nouvelle Séance d'Entraînement";
+  hide({&main_.Label1, &main_.Label2, &main_.Label3, &main_.Combo1, &main_.Combo2, &main_.Combo3,
+        &main_.Label10, &main_.Label11, &main_.Label39, &main_.Label15, &main_.Label20, &main_.Label12,
+        &main_.Label16, &main_.Label17, &main_.Label28, &main_.Label29, &main_.Image2});
+  show({&main_.Label18, &main_.Image4});
+  main_.Timer1.enabled = false;
+  main_.Timer2.enabled = false;
+  state_.ecouleSequence = 0;
+  state_.sequenceCourante = 0;
+  state_.dureeSequence = model::timeValue("00:00:00");
+  for (auto* digits : {&main_.Label4, &main_.Label5, &main_.Label6}) digits->caption = "00";
+  for (auto* field : {&main_.Label10, &main_.Label11, &main_.Label12, &main_.Label15, &main_.Label20}) {
+    field->caption = "";
+  }
+  for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) box->text = "00";
+  if (state_.ecranVeilleActif == "oui") tools_.outside.screenSaver.setActive(true);
+}
+
+void Reset::boutonStart() {
+  if (state_.nbSequences == 0) {
+    startManualChrono();
+    return;
+  }
+  annulerSeance();
+  if (main_.MyButton1.caption == "Start") {
+    main_.MyButton1.caption = "Stop";
+    hide({&main_.Combo1, &main_.Combo2, &main_.Combo3, &main_.Combo4});
+    main_.MyFrame2.visible = true;
+    main_.MyButton3.enabled = true;
+  } else if (main_.MyButton1.caption == "Stop") {
+    main_.MyButton3.caption = "Démarrer Chrono";
+    tools_.voice.retenirMusique();
+    main_.MyButton1.caption = "Start";
+    main_.Timer1.enabled = false;
+  }
+}
+
+// With nothing programmed the time boxes are ridden: their time outlives the cancel that begins every start.
+void Reset::startManualChrono() {
+  const model::TimeValue chosen = state_.dureeSequence;
+  annulerSeance();
+  state_.dureeSequence = chosen;
+  state_.dureeTotale = chosen;
+  main_.Timer2.enabled = true;
+}
+
+}  // namespace runner

@@ -1,0 +1,136 @@
+#include "runner/settings_page.h"
+
+#include "model/numbers.h"
+#include "runner/visibility.h"
+
+namespace runner {
+namespace {
+
+constexpr int longestCountdown = 60;  // s
+constexpr std::array<int, model::settingsBoxCount> defaultBoxes{0, 1, 0, 1, 0, 0, 0, 0, 1, 1, 0, 1, 1};
+// The file differs from the boxes on purpose: it stores continuous music and a short countdown.
+constexpr std::array<int, model::settingsBoxCount> defaultFile{0, 1, 0, 1, 0, 0, 0, 0, 1, 0, 1, 1, 1};
+constexpr const char* defaultFileCountdown = "2 ";
+
+}  // namespace
+
+SettingsPage::SettingsPage(const voice::Toolbox& tools)
+    : tools_(tools),
+      main_(tools.screens.main),
+      state_(tools.state),
+      boxes_{&main_.Check1,  &main_.Check2,  &main_.Check3, &main_.Check4, &main_.Check5,
+             &main_.Check6,  &main_.Check7,  &main_.Check8, &main_.Check9, &main_.Check10,
+             &main_.Check11, &main_.Check12, &main_.Check13},
+      announcements_{&main_.Check3, &main_.Check4, &main_.Check5, &main_.Check6,
+                     &main_.Check7, &main_.Check8, &main_.Check9, &main_.Check13} {
+  coupleBoxes();
+  main_.MyButton7.click.handle([this] { enregistrerParametres(); });
+  main_.MyButton8.click.handle([this] {
+    parametresParDefaut();
+    tools_.voice.dire("parametrespardefautenr.wav");
+  });
+  main_.MyButton16.click.handle([this] { lireParametres(); });
+  main_.MyButton10.click.handle([this] { enregistrerParametres(); });
+  main_.MyButton6.click.handle([this] { close(); });
+  main_.Timer8.tick.handle([this] {
+    main_.Timer8.enabled = false;
+    ouvrir();
+  });
+}
+
+void SettingsPage::coupleBoxes() {
+  main_.Check1.click.handle([this] { main_.Check2.value = main_.Check1.value == 1 ? 0 : 1; });
+  main_.Check2.click.handle([this] {
+    const bool on = main_.Check2.value == 1;
+    setAnnouncements(on ? 1 : 0);
+    tools_.voice.dire(on ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
+  });
+  for (platform::CheckBox* box : announcements_) {
+    box->click.handle([this, box] {
+      if (box->value == 1) main_.Check2.value = 1;
+    });
+  }
+  const auto exclude = [this](platform::CheckBox& box, platform::CheckBox& other) {
+    box.click.handle([this, &box, &other] {
+      if (box.value == 1) {
+        if (main_.Check2.value == 0) main_.Check2.value = 1;
+        other.value = 0;
+      } else {
+        other.value = 1;
+      }
+    });
+  };
+  exclude(main_.Check10, main_.Check11);
+  exclude(main_.Check11, main_.Check10);
+}
+
+void SettingsPage::setAnnouncements(int value) {
+  for (platform::CheckBox* box : announcements_) box->value = value;
+}
+
+std::string SettingsPage::path() const {
+  return state_.dossierProgramme + "par.tq3";
+}
+
+void SettingsPage::lireOuCreer() {
+  if (tools_.outside.files.exists(path())) {
+    lireParametres();
+  } else {
+    parametresParDefaut();
+  }
+}
+
+void SettingsPage::lireParametres() {
+  const std::optional<model::Settings> settings = model::readSettings(tools_.outside.files, path());
+  if (!settings) {
+    repair();
+    return;
+  }
+  for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_.at(i)->value = settings->boxes.at(i);
+  const int countdown = model::lenientInteger(settings->countdown);
+  main_.Combo5.text = countdown == 0 ? "16" : std::to_string(countdown);
+  state_.dureeChrono = main_.Combo5.text;
+  if (countdown > longestCountdown) state_.dureeChrono = std::to_string(longestCountdown);
+}
+
+void SettingsPage::repair() {
+  tools_.outside.dialogs.message(
+      {platform::MessageKind::Critical, platform::MessageButtons::Ok, "Fichier Paramètres à Réinitialiser...",
+       "Le Fichier de Données des Paramètres des Avertissement Sonores, a Subit des Modifications Néfastes "
+       "au "
+       "Bon Fonctionnement du Programme...\n"
+       "je vais donc Réinitialiser ses Données par (Défaut), si ces Paramètres ne vous conviennent pas, vous "
+       "pourez les Changer par le Menu (Paramètres des Annonces Sonores)..."});
+  parametresParDefaut();
+}
+
+void SettingsPage::parametresParDefaut() {
+  for (std::size_t i = 0; i < boxes_.size(); ++i) {
+    boxes_.at(i)->value = defaultBoxes.at(i);
+    if (boxes_.at(i) == &main_.Check2) tools_.voice.attendre(2);
+  }
+  model::writeSettings(tools_.outside.files, path(), {defaultFile, defaultFileCountdown});
+}
+
+void SettingsPage::enregistrerParametres() {
+  model::Settings settings;
+  for (std::size_t i = 0; i < boxes_.size(); ++i) settings.boxes.at(i) = boxes_.at(i)->value;
+  settings.countdown = main_.Combo5.text;
+  model::writeSettings(tools_.outside.files, path(), settings);
+  state_.dureeChrono = main_.Combo5.text;
+  main_.MyButton10.enabled = false;
+  tools_.voice.dire("parPersoenr.wav");
+}
+
+void SettingsPage::ouvrir() {
+  hide({&main_.Combo1, &main_.Combo2, &main_.Combo3});
+  main_.Picture1.visible = true;
+}
+
+// The time boxes come back where a manual chrono can still be chosen: at rest, with nothing programmed.
+void SettingsPage::close() {
+  main_.Picture1.visible = false;
+  if (state_.nbSequences == 0 && !main_.Timer1.enabled) show({&main_.Combo1, &main_.Combo2, &main_.Combo3});
+}
+
+}  // namespace runner

@@ -1,0 +1,39 @@
+// The sound-warning settings: the boxes with their couplings, and the file that keeps them.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "model/settings_file.h"
+#include "voice/toolbox.h"
+
+namespace runner {
+
+class SettingsPage {
+ public:
+  explicit SettingsPage(const voice::Toolbox& tools);
+
+  // At start-up: reads the file, or makes it.
+  void lireOuCreer();
+  void lireParametres();
+  void parametresParDefaut();
+  void enregistrerParametres();
+  // Opens the page over the time boxes.
+  void ouvrir();
+
+ private:
+  void coupleBoxes();
+  void close();
+  void setAnnouncements(int value);
+  void repair();
+  [[nodiscard]] std::string path() const;
+
+  voice::Toolbox tools_;
+  forms::MainForm& main_;
+  model::SharedState& state_;
+  // Check1 to Check13, and of them those that say what is announced.
+  std::array<platform::CheckBox*, model::settingsBoxCount> boxes_;
+  std::array<platform::CheckBox*, 8> announcements_;
+};
+
+}  // namespace runner

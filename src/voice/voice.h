@@ -1,0 +1,54 @@
+// Speaking: naming and playing prompts, the one wait, holding and releasing the music around a prompt.
+#pragma once
+
+#include <string>
+
+#include "forms/lect_mci.h"
+#include "forms/main_form.h"
+#include "model/shared_state.h"
+#include "platform/event_loop.h"
+#include "platform/sound_output.h"
+
+namespace voice {
+
+class Voice {
+ public:
+  Voice(model::SharedState& state, platform::EventLoop& loop, platform::SoundOutput& sound,
+        const forms::MainForm& main, const forms::LectMCI& player)
+      : state_(state), loop_(loop), sound_(sound), main_(main), player_(player) {}
+
+  // Replaces the name in `sonDemande` by its number; a name that is not in the bank stays.
+  void nommerSon();
+  // Plays what `sonDemande` asks for and returns at its end; no event is served meanwhile. A name that is
+  // not in the bank repeats the sound before it.
+  void jouerSon();
+  // Plays a personal announcement from the announcements' folder, without any test.
+  void jouerAnnonce(const std::string& fileName);
+  // Serves events for `seconds`, counted from the present time of day rounded to the whole second: it lasts
+  // up to half a second less or more.
+  void attendre(int seconds);
+  // Where the settings let the music yield and a piece is loaded: orders it to hold, and waits a second so
+  // that the player has done it before the voice speaks.
+  void retenirMusique();
+  // Under the same test: orders it to go on. The player does so when events are next served.
+  void relacherMusique();
+
+  // Names and plays in one.
+  void dire(const std::string& name);
+  // The same with the music held before and released behind.
+  void direEnRetenant(const std::string& name);
+
+  [[nodiscard]] bool musiqueChargee() const { return !player_.Text1.text.get().empty(); }
+
+ private:
+  [[nodiscard]] bool musiqueCede() const { return main_.Check10.value == 1 && musiqueChargee(); }
+
+  model::SharedState& state_;
+  platform::EventLoop& loop_;
+  platform::SoundOutput& sound_;
+  const forms::MainForm& main_;
+  const forms::LectMCI& player_;
+  const platform::SoundClip* sonOctets_ = nullptr;  // the sound played last
+};
+
+}  // namespace voice
