@@ -1,0 +1,239 @@
+// Plays at a real sound server and listens to what comes out; run it under with-sound-server.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <list>
+#include <string>
+#include <thread>
+
+#include "desktop/pulse_sound_output.h"
+#include "desktop/wav_decoder.h"
+
+namespace desktop {
+namespace {
+
+using namespace std::chrono_literals;
+using Samples = std::vector<std::int16_t>;
+using Bytes = std::vector<unsigned char>;
+
+constexpr std::size_t kPerMs = WavDecoder::kRate * WavDecoder::kChannels / 1000;
+
+std::string bankPath(const std::string& number) {
+  return VENTORIA_SOURCE_DIR "/assets/voice/bank/" + number + ".wav";
+}
+
+Bytes bank(const std::string& number) {
+  std::ifstream file(bankPath(number), std::ios::binary);
+  return Bytes(std::istreambuf_iterator<char>(file), {});
+}
+
+// What the loudspeaker gives from its making to its stop.
+class Recording {
+ public:
+  Recording() {
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC,
+                                     0600);
+    std::string words[] = {
+        "parec",        "--device=test_out.monitor", "--raw", "--format=s16le", "--rate=44100",
+        "--channels=2", "--latency-msec=5"};
+    std::vector<char*> arguments;
+    for (std::string& word : words) arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    EXPECT_EQ(posix_spawnp(&process_, "parec", &actions, nullptr, arguments.data(), environ), 0);
+    posix_spawn_file_actions_destroy(&actions);
+    waitForMore(100 * kPerMs);
+  }
+  ~Recording() {
+    kill(process_, SIGTERM);
+    waitpid(process_, nullptr, 0);
+  }
+  Recording(const Recording&) = delete;
+  Recording& operator=(const Recording&) = delete;
+
+  // All until now and half a second beyond.
+  Samples samples() {
+    waitForMore(500 * kPerMs);
+    std::ifstream file(path_, std::ios::binary);
+    const std::string raw(std::istreambuf_iterator<char>(file), {});
+    Samples samples(raw.size() / 2);
+    std::copy_n(raw.data(), samples.size() * 2, reinterpret_cast<char*>(samples.data()));
+    return samples;
+  }
+
+ private:
+  std::uintmax_t size() const {
+    std::error_code none;
+    const auto bytes = std::filesystem::file_size(path_, none);
+    return none ? 0 : bytes / 2;
+  }
+  void waitForMore(std::size_t count) const {
+    for (const auto from = size(); size() < from + count;) std::this_thread::sleep_for(5ms);
+  }
+
+  std::string path_ = testing::TempDir() + "/heard-" + std::to_string(getpid()) + ".raw";
+  pid_t process_ = 0;
+};
+
+bool sounding(std::int16_t sample) {
+  return sample != 0;
+}
+
+// The sounding part of a sound.
+std::span<const std::int16_t> core(const Samples& samples) {
+  const auto first = std::find_if(samples.begin(), samples.end(), sounding);
+  const auto last = std::find_if(samples.rbegin(), std::make_reverse_iterator(first), sounding).base();
+  return {first, last};
+}
+
+bool holds(const Samples& heard, const Samples& whole) {
+  const auto wanted = core(whole);
+  return std::search(heard.begin(), heard.end(), wanted.begin(), wanted.end()) != heard.end();
+}
+
+class PulseSound : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_NE(std::getenv("SOUND_SERVER_PID_FILE"), nullptr) << "not under with-sound-server";
+  }
+
+  static pid_t serverPid() {
+    pid_t pid = 0;
+    std::ifstream(std::getenv("SOUND_SERVER_PID_FILE")) >> pid;
+    return pid;
+  }
+
+  void play(const std::string& number) {
+    const Bytes& wav = kept_.emplace_back(bank(number));
+    output_.play({0, "", number, wav});
+  }
+
+  PulseConnection connection_{"Ventoria"};
+  std::list<Bytes> kept_;
+  std::vector<std::string> spoken_;
+  bool quitting_ = false;
+  int repaints_ = 0;
+  std::function<void()> meanwhile_;
+  PulseSoundOutput output_{
+      connection_,
+      {[this] {
+         ++repaints_;
+         if (meanwhile_) meanwhile_();
+       },
+       [this] { return quitting_; },
+       [this](const platform::SoundClip* clip) { spoken_.emplace_back(clip ? clip->spoken : "-"); }}};
+};
+
+// Every sample of every prompt, in turn, and hardly anything between them.
+TEST_F(PulseSound, PromptsFollowEachOtherWholeAndWithoutAGap) {
+  const std::vector<std::string> chain{"101", "195", "196", "150", "101", "196"};
+  ASSERT_TRUE(output_.hasDevice());
+  Recording recording;
+  for (const std::string& number : chain) play(number);
+  const Samples heard = recording.samples();
+
+  auto end = heard.begin();
+  std::ptrdiff_t widest = 0;
+  for (const std::string& number : chain) {
+    SCOPED_TRACE(number);
+    const Samples whole = decodeWav(bank(number));
+    const auto wanted = core(whole);
+    const auto at = std::search(end, heard.end(), wanted.begin(), wanted.end());
+    ASSERT_NE(at, heard.end()) << "not heard whole";
+    const auto begin =
+        at - (wanted.data() - whole.data());  // with the silence that the recording begins with
+    if (end != heard.begin()) {
+      const auto added = std::distance(end, begin);
+      widest = std::max(widest, added);
+      EXPECT_GE(added, 0);
+    }
+    end = begin + static_cast<std::ptrdiff_t>(whole.size());
+  }
+  RecordProperty("widest_gap_in_samples", static_cast<int>(widest));
+  EXPECT_LT(widest, 40 * static_cast<std::ptrdiff_t>(kPerMs));
+  EXPECT_TRUE(std::none_of(end, heard.end(), sounding));
+  EXPECT_EQ(spoken_, (std::vector<std::string>{"101", "-", "195", "-", "196", "-", "150", "-", "101", "-",
+                                               "196", "-"}));
+  EXPECT_GT(repaints_, 100);  // of about 900 ticks
+}
+
+TEST_F(PulseSound, FilesPlayWholeAndAMissingOneBeeps) {
+  Recording recording;
+  output_.playFile(bankPath("195"));
+  Samples heard = recording.samples();
+  EXPECT_TRUE(holds(heard, decodeWav(bank("195"))));
+
+  const auto before = static_cast<std::ptrdiff_t>(heard.size());
+  output_.playFile("/nonexistent/annonce.wav");
+  heard = recording.samples();
+  heard.erase(heard.begin(), heard.begin() + before);
+  const auto beep = core(heard);
+  EXPECT_NEAR(double(beep.size()), 200.0 * kPerMs, 5.0 * kPerMs);
+  EXPECT_GT(*std::max_element(beep.begin(), beep.end()), 5000);
+}
+
+TEST_F(PulseSound, TheTailSoundsWhenTheProgramEnds) {
+  Recording recording;
+  const Bytes wav = bank("101");
+  {
+    PulseSoundOutput brief(connection_, {});
+    brief.play({101, "", "", wav});
+  }
+  EXPECT_TRUE(holds(recording.samples(), decodeWav(wav)));
+}
+
+TEST_F(PulseSound, QuittingCutsAPrompt) {
+  Recording recording;
+  meanwhile_ = [this] { quitting_ = repaints_ >= 20; };
+  play("101");
+  const Samples heard = recording.samples();
+  EXPECT_LT(core(heard).size(), core(decodeWav(bank("101"))).size() / 2);
+  EXPECT_EQ(spoken_.back(), "-");
+}
+
+TEST_F(PulseSound, WithoutAServerThereIsNoDeviceUntilOneComes) {
+  const std::string server = std::getenv("PULSE_SERVER");
+  setenv("PULSE_SERVER", "unix:/nonexistent", 1);
+  EXPECT_FALSE(output_.hasDevice());
+  play("101");
+  output_.playFile(bankPath("101"));
+  EXPECT_TRUE(spoken_.empty());
+  EXPECT_EQ(repaints_, 0);
+
+  setenv("PULSE_SERVER", server.c_str(), 1);
+  EXPECT_TRUE(output_.hasDevice());
+}
+
+// The play comes back though nothing takes its sound any more, and the server that follows is found.
+TEST_F(PulseSound, AServerThatDiesOrHangsIsOvercome) {
+  for (const int harm : {SIGKILL, SIGSTOP}) {
+    SCOPED_TRACE(harm);
+    ASSERT_TRUE(output_.hasDevice());
+    const pid_t server = serverPid();
+    repaints_ = 0;
+    meanwhile_ = [&] {
+      if (repaints_ == 20) kill(server, harm);
+    };
+    play("101");
+    EXPECT_GE(repaints_, 20);
+    meanwhile_ = {};
+    kill(server, SIGKILL);
+    while (serverPid() == server || !output_.hasDevice()) std::this_thread::sleep_for(20ms);
+    Recording recording;
+    play("196");
+    EXPECT_TRUE(holds(recording.samples(), decodeWav(bank("196"))));
+  }
+}
+
+}  // namespace
+}  // namespace desktop

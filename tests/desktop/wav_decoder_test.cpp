@@ -1,0 +1,101 @@
+#include "desktop/wav_decoder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <numbers>
+
+namespace desktop {
+namespace {
+
+using Bytes = std::vector<unsigned char>;
+using Samples = std::vector<std::int16_t>;
+
+struct Format {
+  const char* name;
+  int rate;
+  int channels;
+  int coding;
+  double tolerance;  // what the coding itself may cost, of full scale
+};
+
+constexpr int kHertz = 400;
+
+double tone(int channel, double seconds) {  // a quarter of the level in the second channel
+  return (channel == 0 ? 0.5 : 0.125) * std::sin(2 * std::numbers::pi * kHertz * seconds);
+}
+
+// One second of a tone, in a file.
+std::string writeTone(const Format& format) {
+  const auto path = std::filesystem::path(testing::TempDir()) / (std::string(format.name) + ".wav");
+  std::vector<float> samples;
+  for (int frame = 0; frame < format.rate; ++frame) {
+    for (int channel = 0; channel < format.channels; ++channel) {
+      samples.push_back(static_cast<float>(tone(channel, double(frame) / format.rate)));
+    }
+  }
+  SF_INFO info{0, format.rate, format.channels, SF_FORMAT_WAV | format.coding, 0, 0};
+  SNDFILE* file = sf_open(path.c_str(), SFM_WRITE, &info);
+  sf_writef_float(file, samples.data(), format.rate);
+  sf_close(file);
+  return path;
+}
+
+Bytes readAll(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return Bytes(std::istreambuf_iterator<char>(file), {});
+}
+
+class WavFormats : public testing::TestWithParam<Format> {};
+
+TEST_P(WavFormats, SoundTheSameFromMemoryAndFromDisk) {
+  const Format& format = GetParam();
+  const std::string path = writeTone(format);
+  const Samples samples = decodeWav(readAll(path));
+
+  // A coding in blocks pads the last one.
+  EXPECT_NEAR(double(samples.size()), 2.0 * WavDecoder::kRate, 2.0 * WavDecoder::kRate / 20);
+  double worst = 0;
+  for (std::size_t frame = 500; frame < WavDecoder::kRate - 500U; ++frame) {
+    for (int channel = 0; channel < 2; ++channel) {
+      const double wanted = tone(format.channels == 1 ? 0 : channel, double(frame) / WavDecoder::kRate);
+      const double heard = samples.at(frame * 2 + static_cast<std::size_t>(channel)) / 32768.0;
+      worst = std::max(worst, std::abs(heard - wanted));
+    }
+  }
+  EXPECT_LT(worst, format.tolerance);
+
+  WavDecoder decoder(path);
+  Samples pieces;
+  Samples piece(998);  // no divisor of anything
+  while (const std::size_t count = decoder.read(piece)) {
+    pieces.insert(pieces.end(), piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(count));
+  }
+  EXPECT_EQ(pieces, samples);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, WavFormats,
+                         testing::Values(Format{"bank", 11025, 1, SF_FORMAT_PCM_U8, 0.01},
+                                         Format{"wide", 22050, 2, SF_FORMAT_PCM_16, 0.001},
+                                         Format{"packed", 22050, 1, SF_FORMAT_MS_ADPCM, 0.05},
+                                         Format{"studio", 48000, 2, SF_FORMAT_PCM_24, 0.001},
+                                         Format{"native", 44100, 2, SF_FORMAT_PCM_16, 0.0001},
+                                         Format{"surround", 44100, 6, SF_FORMAT_PCM_16, 0.0001}),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST(WavDecoder, RefusesWhatIsNoSound) {
+  Bytes noise(5000, 'x');
+  Bytes cut = readAll(VENTORIA_SOURCE_DIR "/assets/voice/bank/101.wav");
+  ASSERT_GT(cut.size(), 1000U);
+  cut.resize(20);
+  for (const Bytes& bytes : {Bytes{}, noise, cut}) EXPECT_TRUE(decodeWav(bytes).empty());
+  EXPECT_FALSE(WavDecoder(std::string("/nonexistent.wav")).opened());
+  EXPECT_FALSE(WavDecoder(std::string("/dev/zero")).opened());
+}
+
+}  // namespace
+}  // namespace desktop
