@@ -1,0 +1,11 @@
+// Where the program keeps what it keeps when nobody says otherwise.
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+// The executable's own folder if it can be written, else the user's data folder: $XDG_DATA_HOME/ventoria.
+[[nodiscard]] std::string programFolder();
+
+}  // namespace platform
