@@ -184,7 +184,8 @@ TEST_F(PulseSound, FilesPlayWholeAndAMissingOneBeeps) {
 
 TEST_F(PulseSound, TheTailSoundsWhenTheProgramEnds) {
   Recording recording;
-  const Bytes wav = bank("101");
+  Bytes wav = bank("101");
+  wav.resize(wav.size() / 2);  // ends within a word, not in silence
   {
     PulseSoundOutput brief(connection_, {});
     brief.play({101, "", "", wav});
