@@ -2,6 +2,7 @@
 // A front constructs one Program over its devices, watches the forms, and calls start().
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -15,6 +16,7 @@ namespace app {
 struct Setup {
   std::string folder;   // the program's folder; everything that the program keeps lies in it
   std::string version;  // shown in the main menu
+  std::function<void(const std::string&)> faultObserver;  // told each fault before the rider is
 };
 
 class Program {

@@ -24,8 +24,9 @@ bool isEnabled(const Control& control) {
 
 void ComboBox::setLines(std::vector<std::string> lines) {
   lines_ = std::move(lines);
+  const auto found = std::find(lines_.begin(), lines_.end(), text.get());
   following_ = true;
-  index = -1;
+  index = found == lines_.end() ? -1 : static_cast<int>(found - lines_.begin());
   following_ = false;
   tellWatchers(Prop::Lines);
 }

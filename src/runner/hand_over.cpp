@@ -1,5 +1,7 @@
 #include "runner/hand_over.h"
 
+#include <algorithm>
+
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/vocabulary.h"
@@ -24,7 +26,7 @@ void HandOver::validerSeance() {
   editor_.hide();
   main_.show();
   const platform::Grid& grid = editor_.ListView1;
-  state_.nbSequences = grid.rowCount() - 1;
+  state_.nbSequences = std::max(0, grid.rowCount() - 1);
   state_.dureeTotale = model::timeValue(grid.text(1, model::column::duration));
   const int times = model::lenientInteger(grid.text(1, model::column::times));
   state_.nbSeances = times > 0 ? times : 1;

@@ -1,5 +1,8 @@
 #include "runner/reset.h"
 
+#include <array>
+#include <string>
+
 #include "runner/visibility.h"
 
 namespace runner {
@@ -58,12 +61,15 @@ void Reset::boutonStart() {
   }
 }
 
-// With nothing programmed the time boxes are ridden: their time outlives the cancel that begins every start.
+// With nothing programmed the time boxes are ridden: what they hold outlives the cancel that begins every
+// start.
 void Reset::startManualChrono() {
-  const model::TimeValue chosen = state_.dureeSequence;
+  const std::array boxes{&main_.Combo1, &main_.Combo2, &main_.Combo3};
+  const std::array<std::string, 3> chosen{main_.Combo1.text, main_.Combo2.text, main_.Combo3.text};
   annulerSeance();
-  state_.dureeSequence = chosen;
-  state_.dureeTotale = chosen;
+  for (std::size_t i = 0; i < boxes.size(); ++i) boxes.at(i)->text = chosen.at(i);
+  state_.dureeSequence = model::timeValue(chosen[0] + ":" + chosen[1] + ":" + chosen[2]);
+  state_.dureeTotale = state_.dureeSequence;
   main_.Timer2.enabled = true;
 }
 

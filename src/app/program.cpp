@@ -1,0 +1,87 @@
+#include "app/program.h"
+
+#include "editor/page.h"
+#include "platform/fault.h"
+#include "runner/advance.h"
+#include "runner/chrono.h"
+#include "runner/countdown.h"
+#include "runner/hand_over.h"
+#include "runner/main_screen.h"
+#include "runner/reset.h"
+#include "runner/settings_page.h"
+#include "voice/toolbox.h"
+
+namespace app {
+
+struct Program::Logic {
+  Logic(Program& program, const Setup& setup)
+      : voice(program.state_, program.loop_, program.outside_.sound, program.screens_.main,
+              program.screens_.player),
+        tools{program.screens_, program.state_, program.loop_, program.outside_, voice},
+        reset(tools),
+        advance(tools, reset),
+        chrono(tools, advance, reset),
+        countdown(tools, advance),
+        handOver(tools),
+        settings(tools),
+        mainScreen(tools, settings, setup.folder, setup.version),
+        editorPage(tools) {}
+
+  voice::Voice voice;
+  voice::Toolbox tools;
+  runner::Reset reset;
+  runner::Advance advance;
+  runner::Chrono chrono;
+  runner::Countdown countdown;
+  runner::HandOver handOver;
+  runner::SettingsPage settings;
+  runner::MainScreen mainScreen;
+  editor::Page editorPage;
+};
+
+namespace {
+
+void tellFault(platform::Dialogs& dialogs, const std::string& text) {
+  dialogs.message(
+      {platform::MessageKind::Critical, platform::MessageButtons::Ok, "Une Erreur est Survenue...", text});
+}
+
+// The orders to the music's engine are one-shot timers, each of which ends with its own first tick.
+void endAfterOneTick(platform::Timer& timer) {
+  timer.tick.handle([&timer] { timer.enabled = false; });
+}
+
+}  // namespace
+
+Program::Program(const platform::Outside& outside, Setup setup)
+    : outside_(outside), loop_(outside_.clock), logic_() {
+  for (platform::Form* form : screens_.all()) {
+    form->attach(loop_);
+    for (platform::Component* component : form->components()) {
+      if (auto* list = dynamic_cast<platform::FileList*>(component)) {
+        list->readThrough([this](const std::string& folder) { return outside_.files.list(folder); });
+      }
+    }
+  }
+  loop_.onFault([this, observer = setup.faultObserver](const std::string& text) {
+    if (observer) observer(text);
+    tellFault(outside_.dialogs, text);
+  });
+  endAfterOneTick(screens_.announcements.Timer12);
+  endAfterOneTick(screens_.player.Timer3);
+  logic_ = std::make_unique<Logic>(*this, setup);
+}
+
+Program::~Program() = default;
+
+bool Program::start() {
+  try {
+    logic_->mainScreen.demarrerProgramme();
+    return true;
+  } catch (const platform::Fault& fault) {
+    tellFault(outside_.dialogs, fault.what());
+    return false;
+  }
+}
+
+}  // namespace app

@@ -1,0 +1,271 @@
+#include "editor/cell_editor.h"
+
+#include <utility>
+
+#include "editor/cell_texts.h"
+#include "editor/layout.h"
+#include "editor/row_rules.h"
+#include "model/grid_rows.h"
+#include "model/numbers.h"
+#include "model/vocabulary.h"
+#include "platform/text.h"
+
+namespace editor {
+namespace {
+
+namespace column = model::column;
+
+constexpr const char* refusal = "Cette Zone n'est pas Modifiable";
+const platform::Colour refusalColour = platform::Colour::rgb(255, 255, 255);
+const platform::Colour deletionColour = platform::Colour::rgb(0, 0, 128);
+
+}  // namespace
+
+CellEditor::CellEditor(const voice::Toolbox& tools, heartrate::Calculator& calculator)
+    : tools_(tools), calculator_(calculator), form_(tools.screens.editor), grid_(form_.ListView1) {
+  grid_.click.handle([this] { cliquerCellule(); });
+  grid_.pressed.handle([this](platform::MouseButton button) { presserCellule(button); });
+  grid_.pointerMoved.handle([this] { movePointer(); });
+  grid_.headerClicked.handle([this](int) { recalerColonnes(form_); });
+  form_.Command1.click.handle([this] { endEditing(); });
+  form_.Combo1.click.handle([this] { validerChoix(); });
+  form_.Combo1.enter.handle([this] { validerSaisie(); });
+  for (auto* box : {&form_.Combo2, &form_.Combo3, &form_.Combo4}) {
+    box->click.handle([this] { validerDuree(); });
+  }
+  form_.Timer1.tick.handle([this] { placerEditeur(); });
+  form_.Timer2.tick.handle([this] { hideBadge(); });
+  form_.Timer3.tick.handle([this] { keepDurationPanelInside(); });
+}
+
+void CellEditor::endEditing() {
+  form_.Picture2.visible = false;
+  form_.Combo1.visible = false;
+  form_.Timer1.enabled = false;
+  form_.Timer3.enabled = false;
+}
+
+void CellEditor::movePointer() {
+  colonneCliquee_ = grid_.pointedColumn();
+  form_.Combo13.visible =
+      grid_.rowCount() >= 2 && grid_.pointedRow() == 1 && grid_.pointedColumn() == column::heartRate;
+}
+
+void CellEditor::cliquerCellule() {
+  if (grid_.rowCount() == 0) return;
+  form_.Timer3.enabled = false;
+  form_.Timer4.enabled = false;
+  if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
+  if (tools_.screens.volume.visible) tools_.screens.volume.unload();
+  colonneEdit_ = colonneCliquee_;
+  const int row = grid_.selectedRow();
+  const std::string cell = grid_.text(row, colonneEdit_);
+  form_.Label24.visible = false;
+  form_.Label23.caption = columnHelp(colonneEdit_, cell);
+  if (colonneEdit_ == column::sessionName) grid_.toolTip = cell;
+  form_.Timer3.enabled = colonneEdit_ == column::duration;
+  form_.Timer4.enabled = colonneEdit_ == column::duration;
+  showDuration();
+  if (colonneEdit_ == column::deleteMark) {
+    if (model::lenientInteger(grid_.text(row, column::number)) != 1) return;
+    form_.Label23.caption = dashHelp;
+    refuse();
+    return;
+  }
+  readOut();
+  form_.Timer1.enabled = true;
+  recalerColonnes(form_);
+  chargerListeCellule();
+  if (colonneEdit_ == column::number) return;
+  if (colonneEdit_ == column::duration && !form_.Label7.caption.get().starts_with(model::noMeaning)) {
+    const std::string duration = form_.Label7.caption;
+    form_.Combo2.text = platform::left(duration, 2);
+    form_.Combo3.text = platform::mid(duration, 4, 2);
+    form_.Combo4.text = platform::mid(duration, 7, 2);
+  }
+  selectPresentText();
+  placerEditeur();
+}
+
+// The duration of the row in hand; a row without one stands at zero.
+void CellEditor::showDuration() {
+  const std::string& duration = grid_.text(grid_.selectedRow(), column::duration);
+  form_.Label7.caption = duration == model::noMeaning ? std::string(model::noDuration) : duration;
+}
+
+void CellEditor::readOut() {
+  const std::pair<forms::Label*, int> fields[] = {
+      {&form_.Label10, column::sequence},  {&form_.Label11, column::cadence},
+      {&form_.Label12, column::chainring}, {&form_.Label15, column::gear},
+      {&form_.Label16, column::repeat},    {&form_.Label17, column::times},
+      {&form_.Label18, column::duration},  {&form_.Label32, column::heartRate}};
+  for (const auto& [label, col] : fields) label->caption = grid_.text(grid_.selectedRow(), col);
+}
+
+void CellEditor::chargerListeCellule() {
+  form_.Combo1.setLines(cellEntries(form_, colonneEdit_));
+}
+
+// The entry that equals the cell; a value that the list lacks shows as typed. A text from code is no pick.
+void CellEditor::selectPresentText() {
+  form_.Combo1.text = grid_.text(grid_.selectedRow(), colonneEdit_);
+}
+
+void CellEditor::placerEditeur() {
+  if (grid_.rowCount() == 0 || colonneEdit_ <= column::number) return;
+  const int row = grid_.selectedRow();
+  const std::string cell = grid_.text(row, colonneEdit_);
+  if (colonneEdit_ == column::cycleName || colonneEdit_ == column::sessionName) {
+    refuse();
+    return;
+  }
+  if (cell.starts_with("--")) {
+    form_.Label23.caption = dashHelp;
+    refuse();
+    return;
+  }
+  if (cell.starts_with("séance")) {
+    endEditing();
+    return;
+  }
+  if (row == 1) explainFirstRow();
+  const bool untouchable = colonneEdit_ == column::duration
+                               ? grid_.text(1, column::sessionName).starts_with("Nouvelle Séance")
+                               : colonneEdit_ == column::heartRate && cell.starts_with("Fréq./Card.");
+  if (row == 1 && untouchable) {
+    refuse();
+    return;
+  }
+  placeOverCell();
+}
+
+void CellEditor::explainFirstRow() {
+  if (colonneEdit_ == column::repeat) {
+    form_.Label23.caption =
+        "Cette Zone Permet de Déterminer éventuellement la Répétition de la Séance d'Entrainement en "
+        "cours...";
+  } else if (colonneEdit_ == column::times) {
+    form_.Label23.caption =
+        "Cette Zone Permet de Déterminer éventuellement le (Nombre de fois) que la Séance d'Entrainement "
+        "Affichée doit-être Répétée...";
+  } else if (colonneEdit_ == column::duration) {
+    form_.Label23.caption =
+        "Cette Zone sur la Première Ligne ne peut être Modifiée, elle représente la Durée Totale de la "
+        "Séance "
+        "d'Entrainement qui est Listée ou que vous êtes en train de Réaliser...";
+  }
+}
+
+void CellEditor::placeOverCell() {
+  const int row = grid_.selectedRow();
+  form_.Picture1.visible = false;
+  if (colonneEdit_ == column::duration) {
+    form_.Combo1.visible = false;
+    if (row != 0) form_.Picture2.visible = grid_.rowShows(row);
+    showDuration();
+    return;
+  }
+  form_.Picture2.visible = false;
+  form_.Timer3.enabled = false;
+  if (row == 0) return;
+  form_.Combo1.left = grid_.columnLeft(colonneEdit_);
+  form_.Combo1.width = grid_.column(colonneEdit_).width;
+  form_.Combo1.visible = grid_.rowShows(row);
+}
+
+// No editor stays open on a refused cell, so that the badge can go by itself.
+void CellEditor::refuse() {
+  endEditing();
+  showBadge(refusal, refusalColour);
+}
+
+void CellEditor::showBadge(const std::string& text, const platform::Colour& colour) {
+  form_.Label4.caption = text;
+  form_.Label4.colour = colour;
+  form_.Picture1.left = grid_.columnLeft(grid_.pointedColumn());
+  form_.Picture1.visible = true;
+  form_.Timer2.enabled = true;
+}
+
+void CellEditor::hideBadge() {
+  form_.Combo1.visible = false;
+  form_.Picture1.visible = false;
+  form_.Timer2.enabled = false;
+}
+
+void CellEditor::keepDurationPanelInside() {
+  form_.Picture2.visible = grid_.rowShows(grid_.selectedRow());
+}
+
+void CellEditor::presserCellule(platform::MouseButton button) {
+  const bool onDelete = grid_.pointedColumn() == column::deleteMark;
+  const std::string& cell = grid_.text(grid_.pointedRow(), grid_.pointedColumn());
+  if (button == platform::MouseButton::Left && onDelete && cell == "x") {
+    form_.Label23.caption =
+        "Si vous Cliquez sur la Croix d'une Ligne, vous pourrez la Supprimer en le Confirmant par le "
+        "Clik-Droit "
+        "de votre Sourie.";
+    form_.Picture2.visible = false;
+    form_.Timer3.enabled = false;
+    showBadge("Click-Droit pour Supprimer", deletionColour);
+    return;
+  }
+  form_.Label4.caption = refusal;
+  form_.Label4.colour = refusalColour;
+  const bool menu = button == platform::MouseButton::Right && onDelete;
+  if (menu) endEditing();
+  form_.mnSupprimer.enabled = menu;
+  if (menu) form_.mnSupprimer.popUp();
+}
+
+void CellEditor::validerChoix() {
+  if (colonneEdit_ <= column::number || grid_.selectedRow() == 0) return;
+  const int row = grid_.selectedRow();
+  const std::string picked = form_.Combo1.text;
+  if (colonneEdit_ == column::sequence) explainKind(picked);
+  grid_.setText(row, colonneEdit_, picked);
+  applyRowRules(grid_, row, form_.Label7.caption);
+  const bool repetition = colonneEdit_ == column::repeat || colonneEdit_ == column::times;
+  if (repetition) repeatFirstRow(picked);
+  if (colonneEdit_ == column::announcement) grid_.setText(row, column::announcement, picked);
+  if (colonneEdit_ == column::heartRate) calculator_.viserCellule(row, picked);
+  form_.Combo1.visible = false;
+  form_.Timer1.enabled = false;
+  if (colonneEdit_ == column::times) form_.Timer4.enabled = true;
+}
+
+void CellEditor::explainKind(const std::string& picked) {
+  if (picked != model::vocalAnnouncement) {
+    form_.Label23.caption = "Choisissez votre (Nom de Séquence).";
+    return;
+  }
+  form_.Timer4.enabled = true;
+  form_.Label24.visible = false;
+  form_.Label23.caption =
+      "Si vous Choisissez (Annonce Vocale), cela signifie que vous en avez déjà Réalisé, vous devez donc la "
+      "Choisir dans (l'avant-Dernière) colonne de Droite intitulée (Annonces).";
+}
+
+void CellEditor::repeatFirstRow(const std::string& picked) {
+  if (applyRepetition(grid_, colonneEdit_, picked)) return;
+  form_.Combo1.text = colonneEdit_ == column::times ? "0" : "Non";
+  form_.Combo1.visible = false;
+  tools_.outside.dialogs.message(
+      {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Pas assez de Séquences...",
+       "Pour Répéter une (Séance), elle doit être composée d'au moins (1 Séquences)...!"});
+}
+
+void CellEditor::validerSaisie() {
+  if (colonneEdit_ <= column::number || grid_.selectedRow() == 0) return;
+  grid_.setText(grid_.selectedRow(), colonneEdit_, form_.Combo1.text);
+  form_.Timer1.enabled = false;
+  form_.Combo1.visible = false;
+}
+
+void CellEditor::validerDuree() {
+  if (colonneEdit_ != column::duration || grid_.rowCount() == 0) return;
+  grid_.setText(grid_.selectedRow(), column::duration,
+                form_.Combo2.text.get() + ":" + form_.Combo3.text.get() + ":" + form_.Combo4.text.get());
+}
+
+}  // namespace editor

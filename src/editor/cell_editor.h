@@ -1,0 +1,46 @@
+// Editing a cell: the click that opens the shared editor over it or refuses, and what a pick writes.
+#pragma once
+
+#include <string>
+
+#include "heartrate/calculator.h"
+#include "voice/toolbox.h"
+
+namespace editor {
+
+class CellEditor {
+ public:
+  CellEditor(const voice::Toolbox& tools, heartrate::Calculator& calculator);
+
+  void cliquerCellule();
+  void presserCellule(platform::MouseButton button);
+  void placerEditeur();
+  void validerChoix();
+  void validerSaisie();
+  void validerDuree();
+
+ private:
+  void endEditing();
+  void movePointer();
+  void readOut();
+  void chargerListeCellule();
+  void showDuration();
+  void selectPresentText();
+  void explainFirstRow();
+  void placeOverCell();
+  void refuse();
+  void showBadge(const std::string& text, const platform::Colour& colour);
+  void keepDurationPanelInside();
+  void hideBadge();
+  void explainKind(const std::string& picked);
+  void repeatFirstRow(const std::string& picked);
+
+  voice::Toolbox tools_;
+  heartrate::Calculator& calculator_;
+  forms::CreerCycle& form_;
+  platform::Grid& grid_;
+  int colonneCliquee_ = 0;  // under the pointer at its last move
+  int colonneEdit_ = 0;     // of the open editor
+};
+
+}  // namespace editor

@@ -1,0 +1,37 @@
+#include "editor/layout.h"
+
+#include "model/grid_rows.h"
+
+namespace editor {
+namespace {
+
+constexpr int gridWidth = 14565;    // twips
+constexpr int gridHeight = 4090;    // twips
+constexpr int largeurExtra = 2600;  // twips that the maximised list adds to the grid and the session column
+
+int extraWidth(const forms::CreerCycle& form) {
+  return form.maximised ? largeurExtra : 0;
+}
+
+}  // namespace
+
+bool inCycleMode(const forms::CreerCycle& form) {
+  return form.MyButton3.caption != "Créer un Cycle";
+}
+
+void recalerColonnes(forms::CreerCycle& form) {
+  const auto columns = model::gridColumns(inCycleMode(form));
+  for (int c = 1; c <= form.ListView1.columnCount(); ++c) {
+    const bool session = c == model::column::sessionName;
+    form.ListView1.setColumnWidth(c, session ? model::sessionColumnWidth + extraWidth(form)
+                                             : columns[static_cast<std::size_t>(c - 1)].width);
+  }
+}
+
+void sizeGrid(forms::CreerCycle& form) {
+  form.ListView1.width = gridWidth + extraWidth(form);
+  if (!form.maximised) form.ListView1.height = gridHeight;
+  form.ListView1.setColumnWidth(model::column::sessionName, model::sessionColumnWidth + extraWidth(form));
+}
+
+}  // namespace editor

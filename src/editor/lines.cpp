@@ -1,0 +1,230 @@
+#include "editor/lines.h"
+
+#include <algorithm>
+
+#include "editor/layout.h"
+#include "model/grid_rows.h"
+#include "model/numbers.h"
+#include "model/vocabulary.h"
+
+namespace editor {
+
+namespace column = model::column;
+
+Lines::Lines(const voice::Toolbox& tools)
+    : tools_(tools),
+      form_(tools.screens.editor),
+      grid_(form_.ListView1),
+      main_(tools.screens.main),
+      state_(tools.state) {
+  form_.MyButton2.click.handle([this] { creerSeance(); });
+  form_.MyButton3.click.handle([this] { basculerCycle(); });
+  form_.MyButton1.click.handle([this] { ajouterSequence(); });
+  form_.Command4.click.handle([this] { viderListe(); });
+  form_.mnsupprim.click.handle([this] { supprimerLigne(); });
+  form_.mnAjouterLigne.click.handle([this] { insererLigne(); });
+}
+
+void Lines::preambule() {
+  form_.Command1.click();
+  dernierClic_ = "onclic";
+  if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
+  if (tools_.screens.volume.visible) tools_.screens.volume.unload();
+}
+
+void Lines::creerSeance() {
+  preambule();
+  form_.Label8.caption = "Aucune Séance Programmée";
+  main_.MyFrame1.caption = "Aucune Séance Programmée";
+  recalerColonnes(form_);
+  form_.Label7.caption = "00:00:00";
+  if (grid_.rowCount() > 0) {
+    // A new session ends cycle mode, too; its column stays until the list is rebuilt.
+    grid_.setColumnWidth(column::cycleName, inCycleMode(form_) ? model::cycleColumnWidth : 0);
+    form_.MyButton3.caption = "Créer un Cycle";
+    if (model::lastRowUnfinished(grid_)) {
+      refuseUnfinished("Vous voulez Créer une Nouvelle (Séance), mais l'Actuelle n'est pas Terminée...!",
+                       "Vous devez finir celle en cours...");
+      return;
+    }
+  }
+  form_.Timer1.enabled = false;
+  form_.Combo1.visible = false;
+  form_.Label9.caption = "Création d'une Séance d'Entraînement";
+  compteLignes_ = 0;
+  buildList();
+  form_.Timer3.enabled = false;
+  form_.Picture2.visible = false;
+  grid_.select(1);
+  recalerColonnes(form_);
+  showTotalTitle();
+}
+
+void Lines::buildList() {
+  grid_.clearRows();
+  grid_.clearColumns();
+  for (platform::GridColumn& made : model::gridColumns(inCycleMode(form_))) grid_.addColumn(std::move(made));
+  form_.File2.refresh();
+  grid_.addRow(model::firstRow());
+  grid_.setLook(1, column::cycleName, column::duration, model::look::firstRow);
+  grid_.addRow(model::handMadeRow(2, std::string(model::noMeaning)));
+  grid_.setLook(2, column::sessionName, column::deleteMark, model::look::finished);
+}
+
+void Lines::showTotalTitle() {
+  const std::string name = state_.seanceTitre.empty() ? "Aucune Séance Programmée" : state_.seanceTitre;
+  const std::string title = "(" + name + ")  =>  (Durée : " + grid_.text(1, column::duration) + ")";
+  form_.Label8.caption = title;
+  main_.MyFrame1.caption = title;
+}
+
+void Lines::viderListe() {
+  preambule();
+  main_.Timer6.enabled = true;
+  state_.seanceTitre = "";
+  grid_.clearRows();
+  form_.Label8.caption = "Ventoria";
+  main_.MyFrame1.caption = "Ventoria";
+  creerSeance();
+}
+
+void Lines::refuseUnfinished(const std::string& text, const std::string& title) {
+  tools_.outside.dialogs.message(
+      {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, title, text});
+}
+
+void Lines::refuseAddition() {
+  form_.Label24.visible = false;
+  form_.Label23.caption =
+      "Pour Ajouter une Nouvelle Séquence à votre Liste, vous devez d'abord finir celle en cours.";
+  refuseUnfinished("Vous voulez Ajouter une Nouvelle (Séquence), mais l'Actuelle n'est pas Terminée...!",
+                   "Données Manquantes...");
+}
+
+bool Lines::announcementMissing() const {
+  const int last = grid_.rowCount();
+  return grid_.text(last, column::sequence) == model::vocalAnnouncement &&
+         grid_.text(last, column::announcement) == model::emptyCell;
+}
+
+// Whether another row may follow. A spoken row with its announcement may, whatever its duration; so may the
+// first row, whose duration is the total.
+bool Lines::lastRowClosed() const {
+  const int last = grid_.rowCount();
+  const std::string& sequence = grid_.text(last, column::sequence);
+  if (sequence == model::vocalAnnouncement && !grid_.text(last, column::announcement).empty()) return true;
+  if (sequence == model::emptyCell) return false;
+  return last <= 1 || grid_.text(last, column::duration) != model::noDuration;
+}
+
+void Lines::ajouterSequence() {
+  preambule();
+  recalerColonnes(form_);
+  form_.Label7.caption = "00:00:00";
+  form_.Label9.caption = "Ajouter une Séquence d'Entraînement";
+  if (announcementMissing()) {
+    form_.Label24.visible = false;
+    form_.Label23.caption =
+        "Pour Ajouter une Nouvelle Séquence à votre Liste, vous devez d'abord finir celle en cours, il vous "
+        "reste à choisir l'annonce en question...";
+    return;
+  }
+  if (!lastRowClosed()) {
+    refuseAddition();
+    return;
+  }
+  forgetNameForOwnRows();
+  appendBlankRow(model::look::unfinished);
+  grid_.reveal(grid_.rowCount());
+  grid_.select(grid_.rowCount());
+  grid_.focus();
+}
+
+// A name that came from a file is lost as soon as a row is added by hand.
+void Lines::forgetNameForOwnRows() {
+  compteLignes_ = 0;
+  for (int row = 2; row <= grid_.rowCount(); ++row) {
+    if (!grid_.text(row, column::sessionName).starts_with(model::noMeaning)) ++compteLignes_;
+  }
+  if (compteLignes_ == 0) return;
+  state_.seanceTitre = model::untitledSession;
+  form_.Label8.caption = std::string(model::untitledSession);
+  main_.MyFrame1.caption = "Ventoria";
+}
+
+void Lines::appendBlankRow(const platform::CellLook& look) {
+  grid_.addRow(model::handMadeRow(grid_.rowCount() + 1, std::string(model::endOfList)));
+  grid_.setLook(grid_.rowCount(), column::sessionName, column::deleteMark, look);
+}
+
+void Lines::ajouterSequenceVariante() {
+  preambule();
+  recalerColonnes(form_);
+  form_.Label7.caption = "00:00:00";
+  form_.Label9.caption = "Ajouter une Séquence d'Entraînement";
+  const bool spoken = grid_.text(grid_.rowCount(), column::sequence) == model::vocalAnnouncement;
+  if (!spoken && model::lastRowUnfinished(grid_)) {
+    refuseAddition();
+    return;
+  }
+  ++compteLignes_;
+  appendBlankRow(model::look::finished);
+  recalerColonnes(form_);
+}
+
+// A row is inserted by moving what stands behind it, and the place comes from the number in the first column,
+// which deletions leave behind the rows' real places. Nothing is renumbered.
+void Lines::insererLigne() {
+  if (grid_.selectedRow() == 0) return;
+  const int pointed = grid_.pointedRow();
+  const int place = model::lenientInteger(grid_.text(grid_.selectedRow(), column::number)) + 1;
+  const int before = grid_.rowCount();
+  ajouterSequence();
+  if (grid_.rowCount() == pointed + 1) return;
+  for (int row = place; row <= before; ++row) {
+    std::vector<std::string> cells{std::to_string(row)};
+    for (int c = column::cycleName; c <= model::columnCount; ++c) cells.push_back(grid_.text(row, c));
+    grid_.addRow(std::move(cells));
+  }
+  for (int moved = place; moved <= before; ++moved) grid_.removeRow(place);
+}
+
+void Lines::supprimerLigne() {
+  if (grid_.selectedRow() == 0) return;
+  if (grid_.selectedRow() == 1) {
+    refuseUnfinished("La Première ligne ne peut pas être Supprimée...!", "Suppression de Ligne...");
+    return;
+  }
+  grid_.removeRow(grid_.selectedRow());
+  --compteLignes_;
+  if (grid_.text(grid_.rowCount(), column::sessionName).starts_with(model::noMeaning)) {
+    grid_.removeRow(grid_.rowCount());
+    --compteLignes_;
+  }
+  compteLignes_ = std::max(compteLignes_, 0);
+}
+
+void Lines::basculerCycle() {
+  form_.Timer1.enabled = false;
+  form_.Combo1.visible = false;
+  form_.Label9.caption = "Création d'un Cycle d'Entraînement";
+  if (!inCycleMode(form_)) {
+    form_.MyButton3.caption = "Annuler ce Cycle";
+    form_.MyButton4.caption = "Ajouter une Séance";
+    grid_.setColumnWidth(column::cycleName, model::cycleColumnWidth);
+    sizeGrid(form_);
+  } else {
+    form_.Timer4.enabled = false;
+    grid_.clearRows();
+    form_.MyButton3.caption = "Créer un Cycle";
+    form_.MyButton4.caption = "Ajouter une Séquence";
+    form_.Label9.caption = "Création d'une Séance d'Entraînement";
+    grid_.setColumnWidth(column::cycleName, 0);
+    grid_.setColumnWidth(column::sessionName, 0);
+    creerSeance();
+  }
+  grid_.setColumnWidth(column::sequence, 1250);
+  recalerColonnes(form_);
+}
+
+}  // namespace editor

@@ -1,0 +1,44 @@
+// The commands that make and unmake rows: a new list, an added or inserted or deleted row, cycle mode.
+#pragma once
+
+#include <string>
+
+#include "voice/toolbox.h"
+
+namespace editor {
+
+class Lines {
+ public:
+  explicit Lines(const voice::Toolbox& tools);
+
+  // What every command begins with: the cell editors go, a preview stops, the volume dialog closes.
+  void preambule();
+  void creerSeance();
+  void viderListe();
+  void ajouterSequence();
+  // MyButton4 while its caption adds rows and not sessions.
+  void ajouterSequenceVariante();
+  void insererLigne();
+  void supprimerLigne();
+  void basculerCycle();
+
+ private:
+  void buildList();
+  void showTotalTitle();
+  void refuseUnfinished(const std::string& text, const std::string& title);
+  void refuseAddition();
+  [[nodiscard]] bool announcementMissing() const;
+  [[nodiscard]] bool lastRowClosed() const;
+  void forgetNameForOwnRows();
+  void appendBlankRow(const platform::CellLook& look);
+
+  voice::Toolbox tools_;
+  forms::CreerCycle& form_;
+  platform::Grid& grid_;
+  forms::MainForm& main_;
+  model::SharedState& state_;
+  int compteLignes_ = 0;
+  std::string dernierClic_;
+};
+
+}  // namespace editor

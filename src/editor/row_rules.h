@@ -1,0 +1,17 @@
+// What a pick in one cell does to the others of its row, and how the first row's two repeat cells keep step.
+#pragma once
+
+#include <string>
+
+#include "platform/grid.h"
+
+namespace editor {
+
+// Brings the row in line with its kind of sequence. `duration` is what the row's duration cell takes where it
+// has one. A target goes with every pick, and so must be chosen last.
+void applyRowRules(platform::Grid& grid, int row, const std::string& duration);
+
+// After a pick in the first row's "Répéter" or "Fois". False where the list has nothing to repeat.
+[[nodiscard]] bool applyRepetition(platform::Grid& grid, int column, const std::string& picked);
+
+}  // namespace editor

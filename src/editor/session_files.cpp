@@ -1,0 +1,140 @@
+#include "editor/session_files.h"
+
+#include "editor/layout.h"
+#include "model/grid_rows.h"
+#include "model/session_file.h"
+#include "platform/fault.h"
+
+namespace editor {
+namespace {
+
+constexpr const char* sessionFilter = "Fichiers (Séances)|*.tq2";
+
+std::string twoDigits(long value) {
+  return (value < 10 ? "0" : "") + std::to_string(value);
+}
+
+// "hh mm ss"
+std::string timeOfDay(const platform::Clock& clock) {
+  const platform::LocalTime now = clock.localTime();
+  const std::chrono::hh_mm_ss parts{now - std::chrono::floor<std::chrono::days>(now)};
+  return twoDigits(parts.hours().count()) + " " + twoDigits(parts.minutes().count()) + " " +
+         twoDigits(static_cast<long>(parts.seconds().count()));
+}
+
+}  // namespace
+
+SessionFiles::SessionFiles(const voice::Toolbox& tools, Lines& lines)
+    : tools_(tools),
+      lines_(lines),
+      form_(tools.screens.editor),
+      main_(tools.screens.main),
+      state_(tools.state) {
+  form_.MyButton4.click.handle([this] { addByCaption(); });
+  form_.Command5.click.handle([this] {
+    form_.Command1.click();
+    addByCaption();
+  });
+  form_.Command6.click.handle([this] { enregistrerListe(); });
+}
+
+void SessionFiles::addByCaption() {
+  if (form_.MyButton4.caption == "Ajouter une Séance") {
+    ajouterUneSeance();
+  } else {
+    lines_.ajouterSequenceVariante();
+  }
+}
+
+void SessionFiles::ajouterUneSeance() {
+  lines_.preambule();
+  recalerColonnes(form_);
+  form_.Label7.caption = "00:00:00";
+  const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+      {platform::FilePurpose::Open, "Ouvrir", state_.dossierSeances, sessionFilter, ""});
+  if (chosen.empty() || chosen.front().empty()) return;
+  const std::optional<std::string> name = model::sessionName(chosen.front());
+  if (!name) return;
+  state_.seanceTitre = *name;
+  form_.Label8.caption = "Dernière Séance Ajoutée (" + *name + ")";
+  // The duration is that of the last hand-over, not of what is being added.
+  main_.MyFrame1.caption =
+      "Ventoria avec (" + *name + ") (Durée : " + model::formatTime(state_.dureeTotale) + ")";
+  const std::optional<std::string> path = presentVersion(chosen.front());
+  if (!path) return;
+  model::ajouterSeance(tools_.outside.files, *path, form_.ListView1);
+  form_.Timer4.enabled = true;
+  tools_.voice.attendre(1);
+  recalerColonnes(form_);
+  form_.Timer4.enabled = false;
+}
+
+std::optional<std::string> SessionFiles::presentVersion(std::string path) {
+  while (!model::lireEnTete(tools_.outside.files, path).present()) {
+    form_.Timer4.enabled = false;
+    const platform::Answer answer = tools_.outside.dialogs.message(
+        {platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,
+         "Fichier non compatible avec cette Version...",
+         "Ce fichier est d'une Version Antérieure, il n'est plus compatible avec la Version Actuelle du "
+         "Logiciel...\n\n"
+         "Je peux éssayer de le Convertir, mais il ne pourra plus être Utilisé par une Ancienne Version du "
+         "Programme...\n\n"
+         "Toutefois il serait préférable de le Convertir puisque le Logiciel Actuel Dispose de "
+         "Fonctionnalités "
+         "Supplémentaires...\n\n"
+         "Acceptez-vous la Conversion Oui/Non ?"});
+    if (answer != platform::Answer::Ok) return std::nullopt;
+    path = model::convertirAncien(tools_.outside.files, path);
+  }
+  return path;
+}
+
+void SessionFiles::enregistrerListe() {
+  lines_.preambule();
+  if (model::lastRowUnfinished(form_.ListView1)) {
+    tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
+                                    "Données Manquantes...",
+                                    "Vous voulez (Enregistrer), mais une Ligne n'est pas Terminée...!"});
+    return;
+  }
+  const std::optional<std::string> path = askPath();
+  if (!path) return;
+  write(*path);
+  form_.File2.refresh();
+  lines_.creerSeance();
+}
+
+std::optional<std::string> SessionFiles::askPath() {
+  for (;;) {
+    const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+        {platform::FilePurpose::Save, "Enregistrer sous", state_.dossierSeances, sessionFilter,
+         "Séance " + timeOfDay(tools_.loop.clock())});
+    if (chosen.empty() || chosen.front().empty()) return std::nullopt;
+    const std::string& path = chosen.front();
+    if (!tools_.outside.files.exists(path)) return path;
+    const platform::Answer answer =
+        tools_.outside.dialogs.message({platform::MessageKind::Exclamation,
+                                        platform::MessageButtons::OkCancel, "Contrôle Existance Fichier...",
+                                        "Ce Nom de Séance (" + path +
+                                            ") éxiste Déjà...!\n"
+                                            "Confirmez son Remplacement en Cliquant sur (OK)\n"
+                                            "ou, Changer le Répertoire de Destination...\n"
+                                            "ou, Rebaptisez-le en Cliquant sur (Annuler)...!"});
+    if (answer == platform::Answer::Ok) return path;
+  }
+}
+
+// The records are written over those that stand there: a failure in their midst has changed some of them.
+void SessionFiles::write(const std::string& path) {
+  const bool replacing = tools_.outside.files.exists(path);
+  try {
+    model::ecrireSeance(tools_.outside.files, path, form_.ListView1);
+  } catch (const platform::FileFault& fault) {
+    const std::string lost =
+        replacing ? " L'ancienne séance de ce fichier est peut-être en partie remplacée." : "";
+    throw platform::Fault(std::string(fault.what()) + lost +
+                          " La liste est restée telle quelle : enregistrez-la sous un autre nom.");
+  }
+}
+
+}  // namespace editor

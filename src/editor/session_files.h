@@ -1,0 +1,35 @@
+// Adding a saved session to the list and saving the list, with all that the rider is asked.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "editor/lines.h"
+#include "voice/toolbox.h"
+
+namespace editor {
+
+class SessionFiles {
+ public:
+  SessionFiles(const voice::Toolbox& tools, Lines& lines);
+
+  void ajouterUneSeance();
+  void enregistrerListe();
+
+ private:
+  // MyButton4 and Command5: a session or a row, as the caption says.
+  void addByCaption();
+  // The path of a file of the present version, converted if need be; none where the rider refuses.
+  [[nodiscard]] std::optional<std::string> presentVersion(std::string path);
+  // The path to save under; none where the rider cancels.
+  [[nodiscard]] std::optional<std::string> askPath();
+  void write(const std::string& path);
+
+  voice::Toolbox tools_;
+  Lines& lines_;
+  forms::CreerCycle& form_;
+  forms::MainForm& main_;
+  model::SharedState& state_;
+};
+
+}  // namespace editor

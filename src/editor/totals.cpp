@@ -1,0 +1,87 @@
+#include "editor/totals.h"
+
+#include "model/grid_rows.h"
+#include "model/numbers.h"
+#include "model/time_value.h"
+#include "model/vocabulary.h"
+#include "platform/text.h"
+
+namespace editor {
+namespace {
+
+namespace column = model::column;
+
+constexpr int secondsADay = 86400;
+constexpr int warningShown = 3000;   // ms
+constexpr int warningHidden = 500;   // ms
+constexpr int characterWidth = 110;  // twips that a character takes on the average
+constexpr int cellMargin = 100;      // twips
+
+}  // namespace
+
+Totals::Totals(const voice::Toolbox& tools) : form_(tools.screens.editor), grid_(form_.ListView1) {
+  form_.Timer4.tick.handle([this] { calculerTotal(); });
+  form_.Timer6.tick.handle([this] { verifierLignes(); });
+  form_.Timer7.tick.handle([this] { blink(); });
+  form_.Timer9.tick.handle([this] { survolerCellule(); });
+}
+
+// In whole seconds, which is what going through the texts at every step comes to: a day drops out of each
+// sum.
+void Totals::calculerTotal() {
+  int sum = 0;
+  for (int row = 2; row <= grid_.rowCount(); ++row) {
+    const std::string& duration = grid_.text(row, column::duration);
+    if (duration == model::noMeaning || duration.empty()) continue;
+    if (const std::optional<int> seconds = model::parseSeconds(duration))
+      sum = (sum + *seconds) % secondsADay;
+  }
+  const int times = model::lenientInteger(grid_.text(1, column::times));
+  grid_.setText(1, column::duration,
+                model::formatSeconds(static_cast<long long>(sum) * (times > 0 ? times : 1)));
+}
+
+void Totals::verifierLignes() {
+  if (grid_.rowCount() < 2) return;
+  int unfinished = 0;
+  for (int row = 2; row <= grid_.rowCount(); ++row) {
+    const bool red = model::isUnfinished(grid_, row);
+    if (red) ++unfinished;
+    grid_.setLook(row, column::sessionName, column::deleteMark,
+                  red ? model::look::unfinished : model::look::finished);
+  }
+  const bool complete = unfinished == 0;
+  form_.MyButton5.visible = complete;
+  form_.Command35.visible = complete;
+  form_.Command6.visible = complete;
+  if (complete) {
+    form_.MyButton11.visible = false;
+    form_.Timer7.enabled = false;
+    return;
+  }
+  // Once it blinks, its timer alone shows and hides it.
+  if (!form_.Timer7.enabled) form_.MyButton11.visible = true;
+  form_.Timer7.enabled = true;
+  form_.MyButton11.caption = std::to_string(unfinished) + " Séquence(s) en (Rouge) non Terminée(s)...";
+}
+
+void Totals::blink() {
+  form_.MyButton11.visible = !form_.MyButton11.visible;
+  form_.Timer7.interval = form_.MyButton11.visible ? warningShown : warningHidden;
+}
+
+void Totals::survolerCellule() {
+  const int row = grid_.pointedRow();
+  const int col = grid_.pointedColumn();
+  if (row == 0 || col < 1 || col > grid_.columnCount()) return;
+  const std::string text = platform::trim(grid_.text(row, col));
+  form_.Label29.caption = text;
+  const int width = grid_.column(col).width;
+  const bool cut = static_cast<int>(platform::length(text)) * characterWidth > width - cellMargin;
+  grid_.toolTip = cut ? text : std::string();
+  form_.Navette.left = grid_.columnLeft(col);
+  form_.Navette.width = width;
+  form_.Navette.visible = grid_.rowShows(row);
+}
+
+}  // namespace editor

@@ -1,0 +1,144 @@
+#include <gmock/gmock.h>
+
+#include "platform/controls.h"
+#include "platform/grid.h"
+#include "platform/menu.h"
+
+namespace {
+
+using namespace platform;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+struct Sample : Form {
+  Sample() : Form("Sample") { visible = true; }
+  Frame outer{*this, "outer"};
+  Frame inner{*this, "inner", "", {.in = &outer}};
+  Button button{*this, "button", "Start", {.in = &inner}};
+  CheckBox check{*this, "check"};
+  Option option{*this, "option"};
+  ComboBox combo{*this, "combo"};
+  ScrollBar bar{*this, "bar", {100, 0}, 50};
+  TextBox box{*this, "box"};
+  Grid grid{*this, "grid"};
+  FileList list{*this, "list", "*.mp3;*.wma"};
+};
+
+// Which write from code raises which event, and only on a change: the whole table at once.
+TEST(ControlEvents, WritesFromCodeRaiseEventsByTheTable) {
+  Sample form;
+  std::vector<std::string> raised;
+  const auto note = [&](const char* what) { return [&raised, what] { raised.emplace_back(what); }; };
+  form.button.click.handle(note("button"));
+  form.check.click.handle(note("check"));
+  form.option.click.handle(note("option"));
+  form.combo.click.handle(note("combo"));
+  form.bar.change.handle(note("bar"));
+  form.bar.scroll.handle(note("bar scrolled"));
+  form.box.enter.handle(note("box"));
+  form.combo.setLines({"a", "b"});
+  for (int twice = 0; twice < 2; ++twice) {
+    form.button.caption = "Stop";
+    form.check.value = 1;
+    form.option.value = true;
+    form.combo.text = "a";
+    form.combo.index = 1;
+    form.bar.value = 20;
+    form.box.text = "x";
+    form.check.visible = false;
+  }
+  EXPECT_THAT(raised, ElementsAre("check", "option", "combo", "bar", "combo"));
+  raised.clear();
+  form.combo.pick(1);  // the rider's pick comes even on the line that stands
+  form.bar.scrollTo(1000);
+  form.combo.pick(7);
+  EXPECT_THAT(raised, ElementsAre("combo", "bar", "bar scrolled"));
+  EXPECT_EQ(form.bar.value, 100);
+}
+
+TEST(ControlEvents, TextAndIndexOfADropDownFollowEachOther) {
+  Sample form;
+  form.combo.text = "b";
+  form.combo.setLines({"a", "b"});
+  EXPECT_EQ(form.combo.index, 1);
+  form.combo.index = 0;
+  EXPECT_EQ(form.combo.text, "a");
+  form.combo.text = "97";
+  EXPECT_EQ(form.combo.index, -1);
+  form.combo.index = 1;
+  form.combo.index = -1;
+  EXPECT_EQ(form.combo.text, "");
+}
+
+TEST(ControlEvents, WatchersHearRealChangesAfterTheWrite) {
+  Sample form;
+  std::vector<std::string> heard;
+  form.button.watch([&](Component& c, Prop p) {
+    heard.push_back(std::string(propertyName(p)) + "=" + c.property(p)->asText());
+  });
+  form.button.caption = "Stop";
+  form.button.caption = "Stop";
+  form.button.colour = Colour::rgb(1, 2, 3);
+  form.button.enabled = false;
+  EXPECT_THAT(heard, ElementsAre("caption=Stop", "colour=1,2,3", "enabled=0"));
+}
+
+TEST(ControlEvents, TheRiderSeesAndReachesThroughEveryContainer) {
+  Sample form;
+  EXPECT_TRUE(canBeSeen(form.button));
+  form.outer.visible = false;
+  EXPECT_FALSE(canBeSeen(form.button));
+  form.outer.visible = true;
+  form.outer.enabled = false;
+  EXPECT_FALSE(isEnabled(form.button));
+  form.visible = false;
+  EXPECT_FALSE(canBeSeen(form.check));
+}
+
+TEST(ControlEvents, AnUnknownNameListsTheNearOnes) {
+  const Sample form;
+  EXPECT_EQ(&form.find("combo"), &form.combo);
+  try {
+    (void)form.find("comboo");
+    FAIL();
+  } catch (const std::out_of_range& error) {
+    EXPECT_THAT(error.what(), HasSubstr("near: combo"));
+  }
+}
+
+TEST(ControlEvents, TheGridKeepsItsSelectionOnTheRow) {
+  Sample form;
+  Grid& grid = form.grid;
+  grid.addColumn({"A", 100});
+  grid.addColumn({"B", 0});
+  grid.addColumn({"C", 50});
+  for (const char* name : {"one", "two", "three"}) grid.addRow({name});
+  std::vector<int> clicked;
+  grid.click.handle([&] { clicked.push_back(grid.selectedRow()); });
+  grid.pressAt(2, 1, MouseButton::Right);
+  EXPECT_TRUE(clicked.empty());
+  grid.insertRow(1, {"zero", "b"});
+  EXPECT_EQ(grid.text(grid.selectedRow(), 1), "two");
+  grid.removeRow(1);
+  EXPECT_EQ(grid.selectedRow(), 2);
+  grid.pressAt(3, 1, MouseButton::Left);
+  grid.pressAt(9, 1, MouseButton::Left);
+  EXPECT_THAT(clicked, ElementsAre(3));
+  grid.removeRow(3);
+  EXPECT_EQ(grid.selectedRow(), 0);
+  EXPECT_EQ(grid.columnLeft(3), 100);
+  EXPECT_EQ(grid.text(0, 1) + grid.text(9, 9), "");
+}
+
+TEST(ControlEvents, AFileListKeepsToItsPatterns) {
+  Sample form;
+  form.list.readThrough([](const std::string&) {
+    return std::vector<std::string>{"a.MP3", "b.txt", "c.wma", "mp3", "été.mp3"};
+  });
+  form.list.path = "/music";
+  EXPECT_THAT(form.list.lines(), ElementsAre("a.MP3", "c.wma", "été.mp3"));
+  form.list.pattern = "*.wav*";
+  EXPECT_TRUE(form.list.lines().empty());
+}
+
+}  // namespace

@@ -1,0 +1,149 @@
+#include "platform/event_loop.h"
+
+#include <gmock/gmock.h>
+
+#include "platform/timer.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using platform::Instant;
+using testing::ElementsAre;
+
+struct TwoTimers : platform::Form {
+  TwoTimers() : Form("TwoTimers") {}
+  platform::Timer first{*this, "first", 100, true};
+  platform::Timer second{*this, "second", 100, true};
+  platform::Timer slow{*this, "slow", 1000};
+};
+
+class Loop : public testing::Test {
+ protected:
+  Loop() {
+    form_.attach(loop_);
+    form_.load();
+    loop_.onFault([this](const std::string& text) { faults_.push_back(text); });
+  }
+  void log(platform::Timer& timer) {
+    timer.tick.handle(
+        [this, &timer] { fired_.push_back(timer.name() + std::to_string(clock_.now().count())); });
+  }
+  void advance(Instant time) { loop_.runUntil(clock_.now() + time); }
+
+  platform::SimulatedClock clock_{platform::LocalTime{}};
+  platform::EventLoop loop_{clock_};
+  TwoTimers form_;
+  std::vector<std::string> fired_;
+  std::vector<std::string> faults_;
+};
+
+TEST_F(Loop, FiresByDueTimeThenByCreation) {
+  log(form_.first);
+  log(form_.second);
+  form_.first.interval = 150;
+  advance(300ms);
+  EXPECT_THAT(fired_, ElementsAre("second100", "first150", "second200", "first300", "second300"));
+}
+
+TEST_F(Loop, ALateTimerFiresOnceAndKeepsItsPhase) {
+  log(form_.first);
+  form_.second.enabled = false;
+  clock_.sleepUntil(350ms);  // the clock moves, nothing fires
+  EXPECT_TRUE(fired_.empty());
+  advance(0ms);
+  advance(60ms);
+  EXPECT_THAT(fired_, ElementsAre("first350", "first400"));
+}
+
+TEST_F(Loop, TurningOnWhatIsOnChangesNothingOffAndOnStartsAnew) {
+  log(form_.first);
+  form_.second.enabled = false;
+  advance(60ms);
+  form_.first.enabled = true;
+  advance(50ms);
+  form_.first.enabled = false;
+  form_.first.enabled = true;
+  advance(100ms);
+  form_.first.interval = 30;
+  advance(30ms);
+  EXPECT_THAT(fired_, ElementsAre("first100", "first210", "first240"));
+}
+
+TEST_F(Loop, AHandlerThatWaitsIsNotEnteredAgainButOthersAre) {
+  log(form_.second);
+  form_.first.tick.handle([this] {
+    fired_.push_back("in" + std::to_string(clock_.now().count()));
+    loop_.runUntil(clock_.now() + 250ms);
+    fired_.push_back("out" + std::to_string(clock_.now().count()));
+  });
+  advance(400ms);
+  // Its own event fell due at 200 and 300 and comes once, as soon as the handler is free.
+  EXPECT_THAT(fired_, ElementsAre("in100", "second100", "second200", "second300", "out350", "in350",
+                                  "second400", "second500", "second600", "out600"));
+}
+
+TEST_F(Loop, ABlockingSoundStopsEverything) {
+  int pumped = 0;
+  loop_.onInput([&] { ++pumped; });
+  log(form_.first);
+  form_.second.enabled = false;
+  {
+    const platform::EventLoop::Blocking blocking(loop_);
+    clock_.sleepUntil(500ms);
+    loop_.serveEvents();
+    EXPECT_EQ(pumped, 0);
+    EXPECT_TRUE(fired_.empty());
+  }
+  loop_.serveEvents();
+  EXPECT_EQ(pumped, 1);
+  EXPECT_THAT(fired_, ElementsAre("first500"));
+}
+
+TEST_F(Loop, AHandlerSlowerThanItsPeriodDoesNotKeepTheCallerForEver) {
+  form_.second.enabled = false;
+  int runs = 0;
+  form_.first.tick.handle([&] {
+    ++runs;
+    clock_.sleepUntil(clock_.now() + 300ms);
+  });
+  clock_.sleepUntil(100ms);
+  loop_.serveEvents();
+  EXPECT_EQ(runs, 1);
+}
+
+TEST_F(Loop, AFaultEndsItsHandlerIsToldOnceAndLaterTicksGoOn) {
+  form_.second.enabled = false;
+  int runs = 0;
+  form_.first.tick.handle([&] {
+    ++runs;
+    throw std::runtime_error(runs < 4 ? "disque plein" : "autre");
+  });
+  advance(500ms);
+  EXPECT_EQ(runs, 5);
+  EXPECT_THAT(faults_, ElementsAre("disque plein", "autre"));
+}
+
+TEST_F(Loop, AnUnloadedFormIsSilentEvenFromItsOwnTick) {
+  form_.second.enabled = false;
+  form_.first.tick.handle([this] {
+    fired_.emplace_back("first");
+    form_.unload();
+    form_.load();
+    form_.unload();
+  });
+  advance(500ms);
+  EXPECT_THAT(fired_, ElementsAre("first"));
+  form_.load();
+  advance(100ms);
+  EXPECT_EQ(fired_.size(), 2U);
+}
+
+TEST_F(Loop, QuittingEndsWaitsAndTimersAtOnce) {
+  log(form_.second);
+  form_.first.tick.handle([this] { loop_.quit(); });
+  advance(10s);
+  EXPECT_EQ(clock_.now(), 100ms);
+  EXPECT_TRUE(fired_.empty());
+}
+
+}  // namespace
