@@ -1,5 +1,6 @@
 # One interface target that carries the project's own flags; third-party code never sees them.
 add_library(ventoria_flags INTERFACE)
+target_compile_definitions(ventoria_flags INTERFACE VENTORIA_VERSION="${PROJECT_VERSION}")
 target_compile_options(ventoria_flags INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion>)
 if(VENTORIA_WERROR)

@@ -1,0 +1,38 @@
+#include "console/journal.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "console/escaping.h"
+
+namespace console {
+namespace {
+
+std::string secondsOf(platform::Instant instant) {
+  const std::string fraction = std::to_string(instant.count() % 1000);
+  return std::to_string(instant.count() / 1000) + "." + std::string(3 - fraction.size(), '0') + fraction;
+}
+
+}  // namespace
+
+const std::vector<std::string>& Journal::kinds() {
+  static const std::vector<std::string> all{"prompt", "file",  "media",  "level", "dialog",
+                                            "shell",  "saver", "master", "print", "fault"};
+  return all;
+}
+
+void Journal::write(std::string_view kind, std::initializer_list<std::string_view> fields) {
+  Line line{std::string(kind), secondsOf(clock_.now()) + "\t" + std::string(kind)};
+  for (const std::string_view field : fields) line.text += "\t" + escaped(field);
+  lines_.push_back(std::move(line));
+}
+
+void Journal::print(std::ostream& out, std::string_view kind) {
+  const auto printed = [&](const Line& line) { return kind.empty() || line.kind == kind; };
+  for (const Line& line : lines_) {
+    if (printed(line)) out << line.text << '\n';
+  }
+  std::erase_if(lines_, printed);
+}
+
+}  // namespace console

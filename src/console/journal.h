@@ -1,0 +1,35 @@
+// What the program has done to the outside, a line each: seconds since the start, kind, the rest.
+#pragma once
+
+#include <initializer_list>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/clock.h"
+
+namespace console {
+
+class Journal {
+ public:
+  explicit Journal(const platform::Clock& clock) : clock_(clock) {}
+
+  // The rest is given as fields, parted by tabs; each is escaped.
+  void write(std::string_view kind, std::initializer_list<std::string_view> fields);
+  // Prints the lines of a kind, or all of them for an empty one, and forgets what it printed.
+  void print(std::ostream& out, std::string_view kind);
+
+  [[nodiscard]] static const std::vector<std::string>& kinds();
+
+ private:
+  struct Line {
+    std::string kind;
+    std::string text;
+  };
+
+  const platform::Clock& clock_;
+  std::vector<Line> lines_;
+};
+
+}  // namespace console

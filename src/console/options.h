@@ -1,0 +1,35 @@
+// The command line.
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "console/simulated_sound.h"
+#include "platform/clock.h"
+
+namespace console {
+
+struct Options {
+  std::string folder;  // empty: the one that the desktop program would use
+  bool realClock = false;
+  platform::LocalTime start{};
+  SoundMode sound = SoundMode::Instant;
+  std::optional<int> volume = 80;
+  std::string script;  // empty: standard input
+  std::string ride;    // a session file to ride at the terminal
+  double speed = 1;
+  bool help = false;
+};
+
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// The words behind the program's name; a UsageError where they cannot be understood.
+[[nodiscard]] Options parseOptions(const std::vector<std::string>& words);
+[[nodiscard]] std::string usage();
+
+}  // namespace console

@@ -1,0 +1,190 @@
+#include "console/ride_mode.h"
+
+#include <filesystem>
+#include <iostream>
+#include <random>
+#include <system_error>
+
+#include "app/program.h"
+#include "console/reach.h"
+#include "console/ride_clock.h"
+#include "console/ride_screen.h"
+#include "console/simulated_screen_saver.h"
+#include "console/simulated_sound.h"
+#include "platform/disk_file_system.h"
+
+namespace console {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+// A folder for one ride, so that the rider's own sessions and settings stay as they are.
+class ScratchFolder {
+ public:
+  explicit ScratchFolder(const fs::path& sessionFile) {
+    std::random_device random;
+    path_ = fs::temp_directory_path() / ("ventoria-" + std::to_string(random()));
+    fs::create_directories(path_ / "chronodat");
+    session_ = path_ / "chronodat" / sessionFile.filename();
+    fs::copy_file(sessionFile, session_);
+    // The announcements that a session names lie beside the folder of sessions.
+    const fs::path announcements = fs::absolute(sessionFile).parent_path().parent_path() / "annonces";
+    if (fs::is_directory(announcements)) fs::create_directory_symlink(announcements, path_ / "annonces");
+  }
+  ~ScratchFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+  [[nodiscard]] std::string folder() const { return path_.string(); }
+  [[nodiscard]] std::string session() const { return session_.string(); }
+
+ private:
+  fs::path path_;
+  fs::path session_;
+};
+
+// Shows messages, agrees to them (a conversion meets only the copy), and always chooses the one session.
+class RideDialogs final : public platform::Dialogs {
+ public:
+  RideDialogs(RideScreen& screen, std::string session) : screen_(screen), session_(std::move(session)) {}
+
+  platform::Answer message(const platform::Message& message) override {
+    screen_.say(message.title + "\n" + message.text);
+    const bool okOffered = message.buttons != platform::MessageButtons::YesNoCancel;
+    return okOffered ? platform::Answer::Ok : platform::Answer::Yes;
+  }
+  std::vector<std::string> chooseFiles(const platform::FileRequest&) override { return {session_}; }
+
+ private:
+  RideScreen& screen_;
+  std::string session_;
+};
+
+// Says on the screen what the loudspeaker would, for as long as it would.
+class WrittenVoice final : public platform::SoundOutput {
+ public:
+  WrittenVoice(RideScreen& screen, platform::SoundOutput& silence) : screen_(screen), silence_(silence) {}
+
+  bool hasDevice() override { return true; }
+  void play(const platform::SoundClip& clip) override {
+    screen_.say("« " + std::string(clip.spoken.empty() ? clip.name : clip.spoken) + " »");
+    silence_.play(clip);
+  }
+  void playFile(const std::string& path) override {
+    screen_.say("« " + fs::path(path).filename().string() + " »");
+    silence_.playFile(path);
+  }
+
+ private:
+  RideScreen& screen_;
+  platform::SoundOutput& silence_;
+};
+
+class Ride {
+ public:
+  Ride(const std::string& sessionFile, double speed)
+      : scratch_(sessionFile),
+        clock_(speed, terminal_),
+        journal_(clock_),
+        screen_(terminal_, std::cout),
+        silence_(SoundMode::Timed, files_, scratch_.folder(), journal_),
+        voice_(screen_, silence_),
+        dialogs_(screen_, scratch_.session()),
+        saver_(journal_),
+        program_({clock_, voice_, dialogs_, files_, saver_}, {scratch_.folder(), VENTORIA_VERSION, {}}),
+        glance_(static_cast<int>(100 * speed)) {
+    silence_.attach(loop_);
+    loop_.onInput([this] { attend(); });
+  }
+
+  int run() {
+    if (!program_.start() || !load()) return 1;
+    bool started = false;
+    while (!loop_.quitting()) {
+      loop_.runUntil(clock_.now() + glance_);
+      started = started || main_.Timer1.enabled;
+      if (started && ended()) break;
+    }
+    return 0;
+  }
+
+ private:
+  // As a rider does: to the editor, add the file, hand the list over, start the countdown.
+  bool load() {
+    forms::CreerCycle& editor = program_.screens().editor;
+    press(main_.MyButton5);
+    press(editor.MyButton4);
+    if (!loop_.quitting()) press(editor.MyButton5);
+    if (program_.state().nbSequences == 0) {
+      if (!loop_.quitting()) screen_.say("Aucune séquence à parcourir.");
+      return loop_.quitting();
+    }
+    const platform::Instant patience = clock_.now() + 10s;
+    while (!canPress(main_.MyButton3) && clock_.now() < patience) loop_.runUntil(clock_.now() + 100ms);
+    press(main_.MyButton3);
+    return true;
+  }
+
+  [[nodiscard]] static bool canPress(const platform::Button& button) {
+    return reachOf(button, nullptr) == Reach::Open;
+  }
+
+  bool press(const platform::Button& button) {
+    if (!canPress(button)) return false;
+    loop_.guard([&] { button.click(); });
+    return true;
+  }
+
+  [[nodiscard]] bool ended() const {
+    return !main_.Timer1.enabled && !main_.Timer2.enabled && main_.Command7.caption == "Pause";
+  }
+
+  // Between events: the keys, Ctrl+C, the screen.
+  void attend() {
+    if (cancelling_) return;
+    screen_.show(main_, program_.state());
+    for (char key = terminal_.key(); key != 0 && !cancelling_; key = terminal_.key()) {
+      if (key == 'p') press(main_.Command7);
+      if (key == 'q') cancel();
+    }
+    if (!cancelling_ && Terminal::interrupted()) cancel();
+  }
+
+  void cancel() {
+    cancelling_ = true;
+    if (!press(main_.MyButton4)) press(main_.MyButton2);  // the countdown's own, while its frame is open
+    loop_.quit();
+  }
+
+  ScratchFolder scratch_;
+  Terminal terminal_;
+  RideClock clock_;
+  Journal journal_;
+  RideScreen screen_;
+  platform::DiskFileSystem files_;
+  SimulatedSound silence_;
+  WrittenVoice voice_;
+  RideDialogs dialogs_;
+  SimulatedScreenSaver saver_;
+  app::Program program_;
+  platform::EventLoop& loop_ = program_.loop();
+  forms::MainForm& main_ = program_.screens().main;
+  platform::Instant glance_;
+  bool cancelling_ = false;
+};
+
+}  // namespace
+
+int ride(const std::string& sessionFile, double speed) {
+  if (!fs::is_regular_file(sessionFile)) {
+    std::cerr << "ventoria-console: cannot open " << sessionFile << '\n';
+    return 1;
+  }
+  return Ride(sessionFile, speed).run();
+}
+
+}  // namespace console

@@ -1,0 +1,107 @@
+#include "console/scripted_dialogs.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <utility>
+
+#include "platform/text.h"
+
+namespace console {
+namespace {
+
+using platform::Answer;
+using platform::FilePurpose;
+using platform::MessageButtons;
+
+struct Word {
+  std::string_view word;
+  Answer answer;
+  std::array<bool, 3> offered;  // by MessageButtons
+};
+
+constexpr std::array<Word, 4> words{{
+    {"ok", Answer::Ok, {true, true, false}},
+    {"cancel", Answer::Cancel, {false, true, true}},
+    {"yes", Answer::Yes, {false, false, true}},
+    {"no", Answer::No, {false, false, true}},
+}};
+
+const Word* offeredWord(std::string_view word, MessageButtons buttons) {
+  const auto* found = std::find_if(words.begin(), words.end(), [&](const Word& w) {
+    return w.word == word && w.offered.at(static_cast<std::size_t>(buttons));
+  });
+  return found == words.end() ? nullptr : found;
+}
+
+bool isWord(const std::string& text) {
+  return std::any_of(words.begin(), words.end(), [&](const Word& w) { return w.word == text; });
+}
+
+const char* journalWord(FilePurpose purpose) {
+  switch (purpose) {
+    case FilePurpose::Save:
+      return "save";
+    case FilePurpose::Folder:
+      return "folder";
+    default:
+      return "open";
+  }
+}
+
+// The first pattern's ".ext", empty for "*.*" and the like.
+std::string extensionOf(const std::string& filter) {
+  const std::vector<std::string> parts = platform::split(filter, '|');
+  if (parts.size() < 2) return {};
+  const std::string pattern = platform::split(parts[1], ';').front();
+  const std::size_t dot = pattern.rfind('.');
+  if (dot == std::string::npos || pattern.find('*', dot) != std::string::npos) return {};
+  return pattern.substr(dot);
+}
+
+std::string chosenPath(const std::string& answer, const platform::FileRequest& request) {
+  std::filesystem::path path(answer);
+  if (request.purpose == FilePurpose::Save && !path.has_extension()) path += extensionOf(request.filter);
+  if (path.is_relative()) path = std::filesystem::path(request.folder) / path;
+  return std::filesystem::absolute(path).lexically_normal().string();
+}
+
+}  // namespace
+
+std::string ScriptedDialogs::next(const std::string& otherwise,
+                                  const std::function<bool(const std::string&)>& fits,
+                                  const std::string& title) {
+  if (answers_.empty()) return otherwise;
+  std::string answer = std::move(answers_.front());
+  answers_.pop_front();
+  if (fits(answer)) return answer;
+  if (misfit_) misfit_("the dialog \"" + title + "\" cannot be answered \"" + answer + "\"");
+  return otherwise;
+}
+
+Answer ScriptedDialogs::message(const platform::Message& message) {
+  const std::string answer = next(
+      message.buttons == MessageButtons::Ok ? "ok" : "cancel",
+      [&](const std::string& word) { return offeredWord(word, message.buttons) != nullptr; }, message.title);
+  journal_.write("dialog", {"message", message.title, message.text, answer});
+  return offeredWord(answer, message.buttons)->answer;
+}
+
+std::vector<std::string> ScriptedDialogs::chooseFiles(const platform::FileRequest& request) {
+  const bool proposes = request.purpose == FilePurpose::Save && !request.proposedName.empty();
+  const std::string answer = next(
+      "cancel",
+      [&](const std::string& word) {
+        return !word.empty() && (word == "cancel" || !isWord(word) || (word == "ok" && proposes));
+      },
+      request.title);
+  journal_.write("dialog", {journalWord(request.purpose), request.title, request.proposedName, answer});
+  if (answer == "cancel") return {};
+  if (answer == "ok") return {chosenPath(request.proposedName, request)};
+  if (request.purpose != FilePurpose::OpenSeveral) return {chosenPath(answer, request)};
+  std::vector<std::string> paths;
+  for (const std::string& one : platform::split(answer, '|')) paths.push_back(chosenPath(one, request));
+  return paths;
+}
+
+}  // namespace console

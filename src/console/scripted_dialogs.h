@@ -1,0 +1,35 @@
+// Dialogs that are answered ahead of time.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+
+#include "console/journal.h"
+#include "platform/dialogs.h"
+
+namespace console {
+
+// With no answer queued, a message with OK alone is answered "ok" and all else "cancel".
+class ScriptedDialogs final : public platform::Dialogs {
+ public:
+  explicit ScriptedDialogs(Journal& journal) : journal_(journal) {}
+
+  // "ok", "cancel", "yes", "no", or for a file dialog one or several paths parted by '|'.
+  void queue(std::string answer) { answers_.push_back(std::move(answer)); }
+  // Told of an answer that its dialog cannot take and that was put aside.
+  void onMisfit(std::function<void(const std::string&)> told) { misfit_ = std::move(told); }
+
+  platform::Answer message(const platform::Message& message) override;
+  std::vector<std::string> chooseFiles(const platform::FileRequest& request) override;
+
+ private:
+  std::string next(const std::string& otherwise, const std::function<bool(const std::string&)>& fits,
+                   const std::string& title);
+
+  Journal& journal_;
+  std::deque<std::string> answers_;
+  std::function<void(const std::string&)> misfit_;
+};
+
+}  // namespace console

@@ -1,0 +1,35 @@
+#include "console/session.h"
+
+namespace console {
+namespace {
+
+std::unique_ptr<platform::Clock> clockFor(const Options& options) {
+  if (options.realClock) return std::make_unique<platform::RealClock>();
+  return std::make_unique<platform::SimulatedClock>(options.start);
+}
+
+}  // namespace
+
+Session::Session(const Options& options, const std::string& folder, std::ostream& out)
+    : clock_(clockFor(options)),
+      journal_(*clock_),
+      sound_(options.sound, files_, folder, journal_),
+      dialogs_(journal_),
+      screenSaver_(journal_),
+      machine_{options.volume},
+      program_(
+          {*clock_, sound_, dialogs_, files_, screenSaver_},
+          {folder, VENTORIA_VERSION, [this](const std::string& text) { journal_.write("fault", {text}); }}),
+      interpreter_({program_.screens(), program_.state(), program_.loop(), journal_, dialogs_, machine_},
+                   hands_, out) {
+  sound_.attach(program_.loop());
+  watchPopUps(program_.screens(), interpreter_);
+}
+
+int Session::run(std::istream& in, std::ostream& errors) {
+  if (program_.start()) return interpreter_.run(in);
+  journal_.print(errors, {});
+  return 1;
+}
+
+}  // namespace console

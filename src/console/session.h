@@ -1,0 +1,41 @@
+// The whole program over simulated devices, with the interpreter that works it.
+#pragma once
+
+#include <istream>
+#include <memory>
+#include <ostream>
+
+#include "app/program.h"
+#include "console/direct_hands.h"
+#include "console/interpreter.h"
+#include "console/options.h"
+#include "console/simulated_screen_saver.h"
+#include "platform/disk_file_system.h"
+
+namespace console {
+
+class Session {
+ public:
+  // `folder` is absolute.
+  Session(const Options& options, const std::string& folder, std::ostream& out);
+
+  // Starts the program, then carries out the commands. The exit status.
+  int run(std::istream& in, std::ostream& errors);
+
+  [[nodiscard]] app::Program& program() { return program_; }
+  [[nodiscard]] Interpreter& interpreter() { return interpreter_; }
+
+ private:
+  std::unique_ptr<platform::Clock> clock_;
+  Journal journal_;
+  platform::DiskFileSystem files_;
+  SimulatedSound sound_;
+  ScriptedDialogs dialogs_;
+  SimulatedScreenSaver screenSaver_;
+  SimulatedMachine machine_;
+  app::Program program_;
+  DirectHands hands_;
+  Interpreter interpreter_;
+};
+
+}  // namespace console

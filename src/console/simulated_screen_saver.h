@@ -1,0 +1,24 @@
+// A screen saver that is armed at the start and is only a journal.
+#pragma once
+
+#include "console/journal.h"
+#include "platform/screen_saver.h"
+
+namespace console {
+
+class SimulatedScreenSaver final : public platform::ScreenSaver {
+ public:
+  explicit SimulatedScreenSaver(Journal& journal) : journal_(journal) {}
+
+  bool active() override { return active_; }
+  void setActive(bool active) override {
+    active_ = active;
+    journal_.write("saver", {active ? "on" : "off"});
+  }
+
+ private:
+  Journal& journal_;
+  bool active_ = true;
+};
+
+}  // namespace console

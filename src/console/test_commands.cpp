@@ -1,0 +1,178 @@
+#include "console/test_commands.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <stdexcept>
+#include <utility>
+
+#include "console/escaping.h"
+#include "console/names.h"
+
+namespace console {
+namespace {
+
+std::string valueAt(const PropertyAddress& address) {
+  return address.property != nullptr ? address.property->asText() : shownBy(*address.component);
+}
+
+}  // namespace
+
+void TestCommands::enrol(CommandTable& table) {
+  using Member = void (TestCommands::*)(Arguments&);
+  static constexpr std::array<std::pair<const char*, Member>, 19> commands{{
+      {"answer", &TestCommands::answer},
+      {"call", &TestCommands::call},
+      {"set", &TestCommands::set},
+      {"advance", &TestCommands::advance},
+      {"volume", &TestCommands::volume},
+      {"mute", &TestCommands::mute},
+      {"microphone", &TestCommands::microphone},
+      {"get", &TestCommands::get},
+      {"rows", &TestCommands::rows},
+      {"cellcolour", &TestCommands::cellColour},
+      {"lines", &TestCommands::lines},
+      {"visible", &TestCommands::visible},
+      {"forms", &TestCommands::forms},
+      {"plan", &TestCommands::plan},
+      {"var", &TestCommands::var},
+      {"journal", &TestCommands::journal},
+      {"expect", &TestCommands::expect},
+      {"expectvar", &TestCommands::expectVar},
+      {"echo", &TestCommands::echo},
+  }};
+  for (const auto& [name, member] : commands) {
+    table[name] = [this, run = member](Arguments& arguments) {
+      (this->*run)(arguments);
+      arguments.end();
+    };
+  }
+}
+
+void TestCommands::answer(Arguments& arguments) {
+  const std::string word = arguments.text();
+  if (word.empty()) throw CommandError("missing answer");
+  world_.dialogs.queue(word);
+}
+
+void TestCommands::call(Arguments& arguments) {
+  const std::string address = arguments.word("FORM.CONTROL");
+  platform::Component& found = findControl(world_.screens, address);
+  if (auto* entry = dynamic_cast<platform::MenuItem*>(&found)) {
+    world_.loop.guard([&] { entry->click(); });
+  } else if (auto* control = dynamic_cast<platform::Control*>(&found)) {
+    world_.loop.guard([&] { control->click(); });
+  } else {
+    throw CommandError(address + " has no click");
+  }
+}
+
+void TestCommands::set(Arguments& arguments) {
+  const std::string address = arguments.word("FORM.CONTROL.PROP");
+  const PropertyAddress place = findProperty(world_.screens, address);
+  if (place.property == nullptr) throw CommandError("which property of " + address + "?");
+  const std::string text = arguments.text();
+  std::string badValue;
+  world_.loop.guard([&] {
+    try {
+      place.property->assignText(text);
+    } catch (const std::invalid_argument& unreadable) {
+      badValue = unreadable.what();
+    }
+  });
+  if (!badValue.empty()) throw CommandError(badValue);
+}
+
+void TestCommands::advance(Arguments& arguments) {
+  const double seconds = arguments.decimal("number of seconds");
+  if (!(seconds >= 0) || seconds > 1e9) throw CommandError("time only goes forward");
+  world_.loop.runUntil(world_.loop.clock().now() + platform::Instant{std::llround(seconds * 1000)});
+}
+
+void TestCommands::volume(Arguments& arguments) {
+  const int percent = arguments.number("volume");
+  if (percent < 0 || percent > 100) throw CommandError("a volume goes from 0 to 100");
+  if (!world_.machine.volume) throw CommandError("there is no volume device");
+  world_.machine.volume = percent;
+}
+
+void TestCommands::mute(Arguments& arguments) {
+  const bool on = arguments.flag("0 or 1");
+  if (!world_.machine.volume) throw CommandError("there is no volume device");
+  world_.machine.muted = on;
+}
+
+void TestCommands::microphone(Arguments& arguments) {
+  const std::string state = arguments.word("on or off");
+  if (state != "on" && state != "off") throw CommandError("\"" + state + "\" is neither on nor off");
+  world_.machine.microphone = state == "on";
+}
+
+void TestCommands::get(Arguments& arguments) {
+  out_ << escaped(valueAt(findProperty(world_.screens, arguments.word("FORM.CONTROL.PROP")))) << '\n';
+}
+
+void TestCommands::rows(Arguments& arguments) {
+  printRows(out_, findControl(world_.screens, arguments.word("FORM.CONTROL")));
+}
+
+void TestCommands::cellColour(Arguments& arguments) {
+  const platform::Grid& grid = findGrid(world_.screens, arguments.word("FORM.CONTROL"));
+  const int row = arguments.number("row");
+  printCellLook(out_, grid, row, arguments.number("column"));
+}
+
+void TestCommands::lines(Arguments& arguments) {
+  for (const std::string& line : linesOf(findControl(world_.screens, arguments.word("FORM.CONTROL")))) {
+    out_ << escaped(line) << '\n';
+  }
+}
+
+void TestCommands::visible(Arguments& arguments) {
+  printVisible(out_, findForm(world_.screens, arguments.word("FORM")), rider_.popUp());
+}
+
+void TestCommands::forms(Arguments&) {
+  for (const platform::Form* form : onScreen_.inOrder()) out_ << form->name() << '\n';
+}
+
+void TestCommands::plan(Arguments&) {
+  printPlan(out_, world_.state);
+}
+
+void TestCommands::var(Arguments& arguments) {
+  out_ << escaped(variable(world_.state, arguments.word("name"))) << '\n';
+}
+
+void TestCommands::journal(Arguments& arguments) {
+  const std::string kind = arguments.empty() ? std::string() : arguments.word("kind");
+  const std::vector<std::string>& kinds = Journal::kinds();
+  if (!kind.empty() && std::find(kinds.begin(), kinds.end(), kind) == kinds.end()) {
+    throw CommandError("no kind " + kind + platform::nearNames(kind, kinds));
+  }
+  world_.journal.print(out_, kind);
+}
+
+void TestCommands::compare(const std::string& what, const std::string& is, const std::string& wanted) {
+  if (is == wanted) return;
+  failed_ = true;
+  out_ << "FAILED: " << what << " is \"" << escaped(is) << "\", not \"" << escaped(wanted) << "\"\n";
+}
+
+void TestCommands::expect(Arguments& arguments) {
+  const std::string address = arguments.word("FORM.CONTROL.PROP");
+  const std::string is = valueAt(findProperty(world_.screens, address));
+  compare(address, is, arguments.text());
+}
+
+void TestCommands::expectVar(Arguments& arguments) {
+  const std::string name = arguments.word("name");
+  const std::string is = variable(world_.state, name);
+  compare(name, is, arguments.text());
+}
+
+void TestCommands::echo(Arguments& arguments) {
+  out_ << escaped(arguments.text()) << '\n';
+}
+
+}  // namespace console
