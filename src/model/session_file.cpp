@@ -163,7 +163,8 @@ void ajouterSeance(platform::FileSystem& files, const std::string& chemin, platf
   // 1 and 2 both give two passes: the count of the header is that of the passes only from 2 on.
   const int repeats = header.fois > 1 ? header.fois - 1 : header.fois;
   refuseDamage(header, repeats + 1, chemin);
-  if (lastRowUnfinished(grille)) grille.removeRow(grille.rowCount());
+  // The first row stays, although its total can read as a duration not chosen yet.
+  if (grille.rowCount() > 1 && lastRowUnfinished(grille)) grille.removeRow(grille.rowCount());
   for (int pass = 1; pass <= repeats + 1; ++pass) {
     appendPass(*file, header.nbEnreg, *name, grille);
     if (repeats == 0) continue;

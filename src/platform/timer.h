@@ -11,6 +11,9 @@ class Timer final : public Component {
       : Component(&form, ControlKind::Timer, std::move(name)),
         interval(*this, Prop::Interval, intervalMs),
         enabled(*this, Prop::Enabled, on) {}
+  ~Timer() override {
+    if (scheduler_ != nullptr) scheduler_->release(*this);
+  }
 
   Property<int> interval;  // ms, above 0
   Property<bool> enabled;
