@@ -14,7 +14,8 @@ Page::Page(const voice::Toolbox& tools)
       lines_(tools),
       cells_(tools, calculator_),
       files_(tools, lines_),
-      totals_(tools) {
+      totals_(tools),
+      history_(form_) {
   form_.onLoad.handle([this] { open(); });
   form_.MyButton6.click.handle([this] { form_.mnSortir.click(); });
   form_.mnSortir.click.handle([this] { leave(); });
@@ -37,6 +38,7 @@ void Page::open() {
   calculator_.lireAuChargement();
   form_.MyButton2.click();
   calculator_.finirChargement();
+  history_.forget();
 }
 
 void Page::listFiles() {

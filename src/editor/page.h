@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/cell_editor.h"
+#include "editor/history.h"
 #include "editor/lines.h"
 #include "editor/session_files.h"
 #include "editor/totals.h"
@@ -29,6 +30,7 @@ class Page {
   CellEditor cells_;
   SessionFiles files_;
   Totals totals_;
+  History history_;
 };
 
 }  // namespace editor

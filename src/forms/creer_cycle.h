@@ -180,18 +180,21 @@ struct CreerCycle : platform::Form {
       *this, "mnAjouterLigne", "Ajouter une Ligne Après Celle-CI...", {.in = &mnSupprimer}};
   MenuItem mnMenu{*this, "mnMenu", "Menu"};
   MenuItem mnImprim{*this, "mnImprim", "Imprimer la Liste", {.in = &mnMenu}};
+  MenuItem mnUndo{*this, "mnUndo", "Annuler la Modification", {.in = &mnMenu, .enabled = false}};
+  MenuItem mnRedo{*this, "mnRedo", "Rétablir la Modification", {.in = &mnMenu, .enabled = false}};
   MenuItem mnSortir{*this, "mnSortir", "Sortir", {.in = &mnMenu}};  // closes the editor
 
-  Timer Timer1{*this, "Timer1", 10};          // keeps the cell editor on its row
-  Timer Timer2{*this, "Timer2", 800};         // once: hides the refusal badge
-  Timer Timer3{*this, "Timer3", 10};          // keeps the duration panel inside the list
-  Timer Timer4{*this, "Timer4", 200};         // sums the durations
-  Timer Timer5{*this, "Timer5", 500, true};   // does nothing
-  Timer Timer6{*this, "Timer6", 1000, true};  // looks for unfinished rows
-  Timer Timer7{*this, "Timer7", 500};         // makes MyButton11 blink
-  Timer Timer8{*this, "Timer8", 600};         // swaps two help images; nothing turns it on
-  Timer Timer9{*this, "Timer9", 10, true};    // follows the pointer over the cells
-  Timer Timer10{*this, "Timer10", 500};       // watches the calculator
+  Timer Timer1{*this, "Timer1", 10};               // keeps the cell editor on its row
+  Timer Timer2{*this, "Timer2", 800};              // once: hides the refusal badge
+  Timer Timer3{*this, "Timer3", 10};               // keeps the duration panel inside the list
+  Timer Timer4{*this, "Timer4", 200};              // sums the durations
+  Timer Timer5{*this, "Timer5", 500, true};        // does nothing
+  Timer Timer6{*this, "Timer6", 1000, true};       // looks for unfinished rows
+  Timer Timer7{*this, "Timer7", 500};              // makes MyButton11 blink
+  Timer Timer8{*this, "Timer8", 600};              // swaps two help images; nothing turns it on
+  Timer Timer9{*this, "Timer9", 10, true};         // follows the pointer over the cells
+  Timer TimerUndoStep{*this, "TimerUndoStep", 1};  // once: ends a step of the history
+  Timer Timer10{*this, "Timer10", 500};            // watches the calculator
 };
 
 }  // namespace forms
