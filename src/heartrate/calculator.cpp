@@ -1,0 +1,50 @@
+#include "heartrate/calculator.h"
+
+#include <array>
+
+#include "heartrate/formulas.h"
+#include "heartrate/help_texts.h"
+#include "model/vocabulary.h"
+#include "platform/text.h"
+
+namespace heartrate {
+namespace {
+
+// As the boxes have always spelt them.
+constexpr std::array<const char*, methodCount> methodCaptions{
+    "Astrand et Ryhming (1954)", "Inbar (1994)",     "Robers et Lanwher (2002)",
+    "Gellish et al. 2007)",      "Méthode Karnoven", "FCMaxi et FCRepos Perso"};
+
+std::vector<std::string> behindBlank(std::vector<std::string> lines) {
+  lines.insert(lines.begin(), std::string(model::emptyCell));
+  return lines;
+}
+
+}  // namespace
+
+Calculator::Calculator(const voice::Toolbox& tools)
+    : form_(tools.screens.editor),
+      personal_(tools, figures_),
+      column_(tools, figures_),
+      screen_(tools, figures_) {
+  attachHelp(form_);
+}
+
+void Calculator::chargerListes() {
+  figures_.formeEnChargement = "oui";
+  form_.Combo7.setLines(behindBlank(model::numbers(10, 110)));
+  form_.Combo8.setLines({methodCaptions.begin(), methodCaptions.end()});
+  form_.Combo9.setLines(behindBlank(model::numbers(50, 100, 5)));
+  form_.Combo10.setLines(behindBlank({"Féminin", "Masculin"}));
+  form_.Combo11.setLines(behindBlank(model::numbers(100, 230)));
+  form_.Combo12.setLines(behindBlank(model::numbers(10, 100)));
+  form_.Combo13.setLines({methodCaptions.begin(), methodCaptions.end()});
+}
+
+void Calculator::finirChargement() {
+  screen_.clearDesignTexts();
+  figures_.formeEnChargement.clear();
+  if (!platform::trim(figures_.persoAge).empty()) form_.MyButton38.click();
+}
+
+}  // namespace heartrate

@@ -1,0 +1,38 @@
+// The heart-rate calculator inside the session editor, and the targets of its grid. The editor, who owns the
+// form's load, calls the three steps of loading in the order in which they stand here.
+#pragma once
+
+#include "heartrate/calculator_screen.h"
+#include "heartrate/figures.h"
+#include "heartrate/personal_parameters.h"
+#include "heartrate/target_column.h"
+#include "voice/toolbox.h"
+
+namespace heartrate {
+
+class Calculator {
+ public:
+  explicit Calculator(const voice::Toolbox& tools);
+  Calculator(const Calculator&) = delete;
+  Calculator& operator=(const Calculator&) = delete;
+
+  void chargerListes();
+  void lireAuChargement() { personal_.lireAuChargement(); }
+  void finirChargement();
+
+  void ouvrirCalculateur() { screen_.ouvrirCalculateur(); }
+  // A percentage was picked for the sequence of that row, whose cell holds it already: completes the cell.
+  void viserCellule(int row, const std::string& pickedText) { column_.viserCellule(row, pickedText); }
+  void recalculerColonneFC() { column_.recalculerColonneFC(); }
+
+  [[nodiscard]] const Figures& figures() const { return figures_; }
+
+ private:
+  forms::CreerCycle& form_;
+  Figures figures_;
+  PersonalParameters personal_;
+  TargetColumn column_;
+  CalculatorScreen screen_;
+};
+
+}  // namespace heartrate

@@ -1,0 +1,169 @@
+#include "heartrate/calculator_screen.h"
+
+#include <algorithm>
+#include <array>
+
+#include "heartrate/formulas.h"
+#include "heartrate/input_checks.h"
+#include "model/numbers.h"
+#include "platform/each_on_its_own.h"
+
+namespace heartrate {
+namespace {
+
+using forms::CreerCycle;
+using platform::Label;
+
+constexpr int topInNormalWindow = 360;  // twips
+
+struct BandLine {
+  Label CreerCycle::*value;
+  Band band;
+};
+constexpr std::array<BandLine, 5> bandLines{{{&CreerCycle::Label50, {60, 70}},
+                                             {&CreerCycle::Label52, {50, 60}},
+                                             {&CreerCycle::Label53, {60, 70}},
+                                             {&CreerCycle::Label54, {70, 85}},
+                                             {&CreerCycle::Label55, {85, 100}}}};
+constexpr std::array<Label CreerCycle::*, 9> valueLabels{
+    &CreerCycle::Label49, &CreerCycle::Label50, &CreerCycle::Label51,
+    &CreerCycle::Label52, &CreerCycle::Label53, &CreerCycle::Label54,
+    &CreerCycle::Label55, &CreerCycle::Label56, &CreerCycle::Label57};
+
+// What a method shows. The fourth hides the age although it reads it, as it always did.
+struct BoxesOfMethod {
+  bool age, sex, fcMax, fcRepos, note;
+};
+constexpr BoxesOfMethod ofAgeMethod{true, false, false, false, true};
+constexpr std::array<BoxesOfMethod, methodCount> boxesOfMethods{ofAgeMethod,
+                                                                ofAgeMethod,
+                                                                ofAgeMethod,
+                                                                ofAgeMethod,
+                                                                {false, false, false, true, false},
+                                                                {true, true, true, true, true}};
+
+}  // namespace
+
+CalculatorScreen::CalculatorScreen(const voice::Toolbox& tools, Figures& figures)
+    : tools_(tools), form_(tools.screens.editor), figures_(figures) {
+  form_.MyButton25.click.handle([this] { ouvrirCalculateur(); });
+  form_.MyButton38.click.handle([this] { calculerFrequences(); });
+  form_.Command2.click.handle([this] { fermer(); });
+  form_.Timer10.tick.handle([this] { surveiller(); });
+  attachInputs();
+}
+
+void CalculatorScreen::attachInputs() {
+  form_.Combo8.click.handle([this] { choisirMethode(); });
+  form_.Combo7.click.handle([this] {
+    if (!byReserve(form_.Combo8.index)) calculerFrequences();
+  });
+  for (platform::ComboBox* box : {&form_.Combo11, &form_.Combo12}) {
+    box->click.handle([this] {
+      if (byReserve(form_.Combo8.index)) calculerFrequences();
+    });
+  }
+}
+
+void CalculatorScreen::clearDesignTexts() {
+  if (form_.Label50.caption != "Label50") return;
+  for (const auto label : valueLabels) (form_.*label).caption = "";
+}
+
+void CalculatorScreen::ouvrirCalculateur() {
+  form_.Command1.click();
+  form_.Combo1.visible = false;
+  form_.Combo13.visible = false;
+  form_.Image11.visible = true;
+  form_.Label47.visible = false;
+  form_.Shape2.visible = false;
+  platform::Frame& panel = form_.Picture8;
+  const platform::Frame& window = form_.MyFrame2;  // takes the form's size when that is maximised
+  panel.left = form_.maximised ? std::max(0, (window.width - panel.width) / 2) : 0;
+  panel.top = form_.maximised ? std::max(0, (window.height - panel.height) / 2) : topInNormalWindow;
+  panel.visible = true;
+  form_.Timer10.enabled = true;
+}
+
+void CalculatorScreen::calculerFrequences() {
+  if (figures_.loading()) return;
+  form_.Combo9.text = "100";
+  if (!hasItsFigures(tools_.outside.dialogs, form_)) return;
+  // From here it is the method in use that counts, which the grid's own box may have set.
+  const int methode = figures_.methodeFC;
+  if (!byAge(methode) && !byReserve(methode)) return;
+  if (byAge(methode) && isBlank(form_.Combo7)) return;
+  platform::eachOnItsOwn([&] {
+    const auto fcMax =
+        fcMaxMethode(methode, form_.Combo7.text.get(), form_.Combo12.text.get(), form_.Combo9.text.get());
+    if (fcMax) form_.Combo11.text = *fcMax;
+  });
+  const double fcMax = model::lenientNumber(form_.Combo11.text.get());
+  const double fcRepos = model::lenientNumber(form_.Combo12.text.get());
+  form_.Label56.caption = reserveText(fcMax, fcRepos);
+  for (const BandLine& line : bandLines) {
+    (form_.*line.value).caption = bandText(methode, fcMax, fcRepos, line.band);
+  }
+  form_.Label57.caption =
+      workRateText(methode, fcMax, fcRepos, model::lenientNumber(form_.Combo9.text.get()));
+}
+
+void CalculatorScreen::choisirMethode() {
+  if (figures_.loading() || !hasItsFigures(tools_.outside.dialogs, form_)) return;
+  const int methode = form_.Combo8.index;
+  if (methode < 0 && isBlank(form_.Combo7)) {
+    form_.MyButton41.click();
+    return;
+  }
+  figures_.methodeFC = methode;
+  showBoxesOf(methode);
+  if (!isBlank(form_.Combo7)) calculerFrequences();
+}
+
+void CalculatorScreen::showBoxesOf(int methode) {
+  if (methode >= 0 && methode < methodCount) {
+    const BoxesOfMethod& boxes = boxesOfMethods.at(static_cast<std::size_t>(methode));
+    form_.Combo7.visible = boxes.age;
+    form_.Combo10.visible = boxes.sex;
+    form_.Combo11.visible = boxes.fcMax;
+    form_.Combo12.visible = boxes.fcRepos;
+    form_.Label62.visible = boxes.note;
+  }
+  if (methode != ownFigures) {
+    form_.Label58.visible = false;
+    form_.Combo9.visible = false;
+  }
+}
+
+// Saving is offered only on the rider's own figures, and only where the screen differs from the file.
+void CalculatorScreen::surveiller() {
+  if (form_.Check1.value == 0 && form_.Check2.value == 0 && form_.Check3.value == 0) form_.Check1.value = 1;
+  if (form_.Combo8.index != ownFigures) {
+    form_.MyButton40.visible = false;
+    return;
+  }
+  const bool same = holds(form_.Combo7, figures_.persoAge) && holds(form_.Combo10, figures_.persoSexe) &&
+                    holds(form_.Combo11, figures_.persoFCMax) &&
+                    holds(form_.Combo12, figures_.persoFCRepos) &&
+                    model::lenientInteger(figures_.persoMethode) == ownFigures;
+  if (same) form_.MyButton38.visible = false;  // and nothing shows it again
+  form_.MyButton40.visible = !same;
+}
+
+void CalculatorScreen::fermer() {
+  const bool same = holds(form_.Combo7, figures_.persoAge) && holds(form_.Combo11, figures_.persoFCMax) &&
+                    holds(form_.Combo12, figures_.persoFCRepos);
+  if (!same) {
+    const platform::Answer answer = tools_.outside.dialogs.message(
+        {platform::MessageKind::Information, platform::MessageButtons::YesNoCancel,
+         "Paramètres Différents...",
+         "Vous avez Modifié certaines Données par rapport à vos (Paramètres Persos)...\n"
+         "Voulez les Enregistrer O/N...?"});
+    if (answer == platform::Answer::Cancel) return;
+    if (answer == platform::Answer::Yes) form_.MyButton40.click();
+  }
+  form_.Picture8.visible = false;
+  form_.Timer10.enabled = false;
+}
+
+}  // namespace heartrate

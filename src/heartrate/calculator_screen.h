@@ -1,0 +1,30 @@
+// The calculator's panel: the method and its boxes, the results, opening, watching and closing.
+#pragma once
+
+#include "heartrate/figures.h"
+#include "voice/toolbox.h"
+
+namespace heartrate {
+
+class CalculatorScreen {
+ public:
+  CalculatorScreen(const voice::Toolbox& tools, Figures& figures);
+
+  // The labels of the results lose the texts that they were drawn with.
+  void clearDesignTexts();
+  void ouvrirCalculateur();
+
+ private:
+  void attachInputs();
+  void calculerFrequences();
+  void choisirMethode();
+  void showBoxesOf(int methode);
+  void surveiller();
+  void fermer();
+
+  voice::Toolbox tools_;
+  forms::CreerCycle& form_;
+  Figures& figures_;
+};
+
+}  // namespace heartrate

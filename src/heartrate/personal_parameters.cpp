@@ -1,0 +1,117 @@
+#include "heartrate/personal_parameters.h"
+
+#include "heartrate/formulas.h"
+#include "heartrate/input_checks.h"
+#include "model/numbers.h"
+#include "model/vocabulary.h"
+#include "platform/text.h"
+
+namespace heartrate {
+namespace {
+
+constexpr const char* fileName = "ParPerso.tq1";
+
+void show(platform::ComboBox& box, const std::string& text) {
+  box.text = text.empty() ? std::string(model::emptyCell) : text;
+}
+
+}  // namespace
+
+PersonalParameters::PersonalParameters(const voice::Toolbox& tools, Figures& figures)
+    : tools_(tools),
+      form_(tools.screens.editor),
+      figures_(figures),
+      modes_{&form_.Check1, &form_.Check2, &form_.Check3} {
+  form_.MyButton40.click.handle([this] { enregistrerParPerso(); });
+  form_.MyButton41.click.handle([this] { chargerParPerso(); });
+  coupleModes();
+}
+
+void PersonalParameters::coupleModes() {
+  for (std::size_t i = 0; i < modes_.size(); ++i) {
+    modes_.at(i)->click.handle([this, i] {
+      if (modes_.at(i)->value != 1) return;
+      for (platform::CheckBox* other : modes_) {
+        if (other != modes_.at(i)) other->value = 0;
+      }
+      tools_.state.modeAffichageFC = static_cast<int>(i) + 1;
+    });
+  }
+}
+
+std::string PersonalParameters::path() const {
+  return tools_.state.dossierProgramme + fileName;
+}
+
+void PersonalParameters::lireAuChargement() {
+  model::PersonalFigures saved;
+  tools_.loop.guard([&] { saved = model::readPersonal(tools_.outside.files, path()); });
+  montrer(saved);
+}
+
+void PersonalParameters::chargerParPerso() {
+  montrer(model::readPersonal(tools_.outside.files, path()));
+}
+
+void PersonalParameters::montrer(const model::PersonalFigures& saved) {
+  const std::string nothing(model::emptyCell);
+  const bool fresh = saved.age.empty();
+  figures_.persoAge = fresh ? nothing : saved.age;
+  figures_.persoSexe = fresh ? nothing : saved.sexe;
+  figures_.persoFCMax = fresh ? nothing : saved.fcMax;
+  figures_.persoFCRepos = fresh ? nothing : saved.fcRepos;
+  figures_.persoMethode = fresh ? "0" : saved.methode;
+  show(form_.Combo7, figures_.persoAge);
+  show(form_.Combo10, figures_.persoSexe);
+  show(form_.Combo11, figures_.persoFCMax);
+  show(form_.Combo12, figures_.persoFCRepos);
+  showMethod();
+  // The reverse of what a pick of the method does: the note shows on the first reading where it hides later.
+  form_.Label62.visible = form_.Combo8.index == karvonen;
+  takeMode(figures_.persoMethode.empty() ? std::string() : saved.modeAffichage);
+}
+
+void PersonalParameters::showMethod() {
+  const int saved = model::lenientInteger(figures_.persoMethode);
+  const int methode = saved >= 0 && saved < methodCount ? saved : 0;
+  form_.Combo8.index = methode;
+  form_.Combo13.index = methode;
+  if (figures_.persoMethode.empty()) return;
+  form_.Combo9.text = "100";
+  if (!isBlank(form_.Combo7)) form_.MyButton38.click();
+}
+
+// A file that has no mode yet, or a damaged one, gives the first.
+void PersonalParameters::takeMode(const std::string& saved) {
+  const int read = model::lenientInteger(saved);
+  const int mode = read >= 1 && read <= static_cast<int>(modes_.size()) ? read : 1;
+  tools_.state.modeAffichageFC = mode;
+  modes_.at(static_cast<std::size_t>(mode) - 1)->value = 1;
+}
+
+void PersonalParameters::enregistrerParPerso() {
+  const int mode = tools_.state.modeAffichageFC;
+  // The figures are the rider's own, so the file always names the method that uses them.
+  model::writePersonal(tools_.outside.files, path(),
+                       {form_.Combo7.text, form_.Combo10.text, form_.Combo11.text, form_.Combo12.text,
+                        std::to_string(ownFigures), std::to_string(mode == 0 ? 1 : mode)});
+  const model::PersonalFigures saved = model::readPersonal(tools_.outside.files, path());
+  const auto withoutZeros = [](const std::string& text) {
+    return model::plainNumber(model::lenientNumber(text));
+  };
+  figures_.persoAge = saved.age;
+  figures_.persoSexe = saved.sexe;
+  figures_.persoFCMax = saved.fcMax;
+  figures_.persoFCRepos = saved.fcRepos;
+  if (!saved.age.empty()) form_.Combo7.text = saved.age;
+  if (!saved.sexe.empty()) form_.Combo10.text = saved.sexe;
+  if (!saved.fcMax.empty()) form_.Combo11.text = withoutZeros(saved.fcMax);
+  if (!saved.fcRepos.empty()) form_.Combo12.text = withoutZeros(saved.fcRepos);
+  figures_.persoMethode = saved.methode;
+  form_.Combo8.index = model::lenientInteger(saved.methode);
+  takeMode(saved.modeAffichage);
+  form_.Combo8.click();
+  form_.Combo13.click();
+}
+
+}  // namespace heartrate

@@ -1,0 +1,34 @@
+// The saved figures and the display mode: file to globals to screen, and back.
+#pragma once
+
+#include <array>
+
+#include "heartrate/figures.h"
+#include "model/personal_file.h"
+#include "voice/toolbox.h"
+
+namespace heartrate {
+
+class PersonalParameters {
+ public:
+  PersonalParameters(const voice::Toolbox& tools, Figures& figures);
+
+  // While the form loads: a file that cannot be read is told to the rider and leaves the figures blank.
+  void lireAuChargement();
+  void chargerParPerso();
+  void enregistrerParPerso();
+
+ private:
+  [[nodiscard]] std::string path() const;
+  void coupleModes();
+  void montrer(const model::PersonalFigures& saved);
+  void showMethod();
+  void takeMode(const std::string& saved);
+
+  voice::Toolbox tools_;
+  forms::CreerCycle& form_;
+  Figures& figures_;
+  std::array<platform::CheckBox*, 3> modes_;  // display modes 1 to 3
+};
+
+}  // namespace heartrate

@@ -1,0 +1,45 @@
+#include "model/personal_file.h"
+
+#include <array>
+#include <utility>
+
+#include "model/record.h"
+#include "platform/text.h"
+
+namespace model {
+namespace {
+
+constexpr std::size_t recordWidth = 40;
+constexpr Field filler{"reserve", 19, 21};
+constexpr std::array<std::pair<Field, std::string PersonalFigures::*>, 6> fields{{
+    {{"age", 0, 3}, &PersonalFigures::age},
+    {{"sexe", 3, 8}, &PersonalFigures::sexe},
+    {{"fcMax", 11, 3}, &PersonalFigures::fcMax},
+    {{"fcRepos", 14, 3}, &PersonalFigures::fcRepos},
+    {{"methode", 17, 1}, &PersonalFigures::methode},
+    {{"modeAffichage", 18, 1}, &PersonalFigures::modeAffichage},
+}};
+
+}  // namespace
+
+PersonalFigures readPersonal(platform::FileSystem& files, const std::string& path) {
+  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
+  Record record(recordWidth);
+  record.read(*file, 1);
+  PersonalFigures figures;
+  for (const auto& [field, member] : fields) {
+    const std::string text = record.get(field);
+    figures.*member = platform::trim(text.substr(0, text.find('\0')));
+  }
+  return figures;
+}
+
+void writePersonal(platform::FileSystem& files, const std::string& path, const PersonalFigures& figures) {
+  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
+  Record record(recordWidth);
+  for (const auto& [field, member] : fields) record.set(field, figures.*member);
+  record.set(filler, "");
+  record.write(*file, 1);
+}
+
+}  // namespace model

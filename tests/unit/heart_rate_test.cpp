@@ -1,0 +1,469 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <random>
+
+#include "heartrate/calculator.h"
+#include "heartrate/formulas.h"
+#include "model/grid_rows.h"
+#include "model/numbers.h"
+#include "platform/each_on_its_own.h"
+#include "support/faulty_file_system.h"
+#include "support/memory_file_system.h"
+
+namespace {
+
+using namespace heartrate;
+using platform::Answer;
+using support::FaultyFileSystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+const std::string path = "/home/ParPerso.tq1";
+const std::string reserve(21, ' ');
+const std::string saved =
+    "40 F\xE9minin 190050"
+    "51" +
+    reserve;  // NOLINT(bugprone-suspicious-missing-comma)
+
+struct Answers final : platform::Dialogs {
+  std::vector<platform::Message> said;
+  std::deque<Answer> next;
+  Answer message(const platform::Message& message) override {
+    said.push_back(message);
+    if (next.empty()) return Answer::Ok;
+    const Answer answer = next.front();
+    next.pop_front();
+    return answer;
+  }
+  std::vector<std::string> chooseFiles(const platform::FileRequest&) override { return {}; }
+};
+struct Silence final : platform::SoundOutput {
+  bool hasDevice() override { return false; }
+  void play(const platform::SoundClip&) override {}
+  void playFile(const std::string&) override {}
+};
+struct NoSaver final : platform::ScreenSaver {
+  bool active() override { return false; }
+  void setActive(bool) override {}
+};
+
+// The calculator in a loaded form, over a disk that may hold a record.
+struct HeartRate : testing::Test {
+  platform::SimulatedClock clock{platform::LocalTime{}};
+  platform::EventLoop loop{clock};
+  forms::Screens screens;
+  model::SharedState state;
+  support::MemoryFileSystem disk;
+  FaultyFileSystem files{disk};
+  Answers dialogs;
+  Silence sound;
+  NoSaver saver;
+  platform::Outside outside{clock, sound, dialogs, files, saver};
+  voice::Voice speaker{state, loop, sound, screens.main, screens.player};
+  forms::CreerCycle& form = screens.editor;
+  std::vector<std::string> faults;
+  std::optional<Calculator> calculator;
+
+  void load(const std::optional<std::string>& record = std::nullopt) {
+    state.dossierProgramme = "/home/";
+    if (record) disk.put(path, *record);
+    calculator.emplace(voice::Toolbox{screens, state, loop, outside, speaker});
+    loop.onFault([this](const std::string& fault) { faults.push_back(fault); });
+    form.attach(loop);
+    form.onLoad.handle([this] {
+      calculator->chargerListes();
+      calculator->lireAuChargement();
+      calculator->finirChargement();
+    });
+    form.load();
+  }
+  void pick(platform::ComboBox& box, const std::string& line) {
+    const auto at = std::find(box.lines().begin(), box.lines().end(), line);
+    ASSERT_NE(at, box.lines().end()) << line;
+    box.pick(static_cast<int>(at - box.lines().begin()));
+  }
+  // The rows below the first one, by their heart-rate cells.
+  void fillGrid(const std::vector<std::string>& targets) {
+    form.ListView1.clearColumns();
+    for (platform::GridColumn& column : model::gridColumns(false)) form.ListView1.addColumn(column);
+    form.ListView1.clearRows();
+    form.ListView1.addRow(model::firstRow());
+    for (const std::string& target : targets) {
+      form.ListView1.addRow(model::closingRow(2, "x"));
+      form.ListView1.setText(form.ListView1.rowCount(), model::column::heartRate, target);
+    }
+  }
+  std::vector<std::string> targets() {
+    std::vector<std::string> found;
+    for (int row = 1; row <= form.ListView1.rowCount(); ++row) {
+      found.push_back(form.ListView1.text(row, model::column::heartRate));
+    }
+    return found;
+  }
+  std::vector<int> modes() { return {form.Check1.value, form.Check2.value, form.Check3.value}; }
+  std::vector<std::string> boxes() {
+    return {form.Combo7.text, form.Combo10.text, form.Combo11.text, form.Combo12.text};
+  }
+  void watch() { loop.runUntil(clock.now() + platform::Instant{600}); }
+};
+
+TEST(Formulas, GiveTheMaximalRateByMethod) {
+  struct Row {
+    int methode;
+    const char *age, *rest, *expected;
+  };
+  for (const Row& row : {Row{0, "40", "", "180"},
+                         {0, " 40.5 ", "", "179.5"},
+                         {1, "40", "", "178"},
+                         {1, "35", "", "182"},
+                         {1, "35 ans", "", "182"},
+                         {1, "", "", "206"},
+                         {2, "40", "", "179"},
+                         {3, "40", "", "179"},
+                         {3, "45", "", "176"},
+                         {4, "40", "60", "240"},
+                         {5, "40", "60", "none"},
+                         {-1, "40", "60", "none"}}) {
+    EXPECT_EQ(fcMaxMethode(row.methode, row.age, row.rest, "100").value_or("none"), row.expected)
+        << row.methode << ' ' << row.age;
+  }
+  for (const auto& [methode, age, rest] :
+       {std::tuple{0, "abc", "60"}, {0, " ", "60"}, {4, "4O", "60"}, {4, "40", " "}})
+    EXPECT_THROW((void)fcMaxMethode(methode, age, rest, "100"), platform::Fault) << methode << age << rest;
+}
+
+TEST(Formulas, ReadTheOperandsOfTheWriterWhoAsks) {
+  const TargetOperands mixed{"40", "60", "30", "190", "50"};
+  struct Row {
+    int methode;
+    double pick, rewrite;
+  };
+  for (const Row& row : {Row{0, 144, 152},
+                         {1, 148.2, 148.2},
+                         {2, 149.3872, 149.3872},
+                         {3, 148.8, 148.8},
+                         {4, 188, 188},
+                         {5, 162, 162}}) {
+    EXPECT_NEAR(cibleFC(TargetWriter::CellPick, row.methode, 80, mixed).value(), row.pick, 1e-9)
+        << row.methode;
+    EXPECT_NEAR(cibleFC(TargetWriter::ColumnRewrite, row.methode, 80, mixed).value(), row.rewrite, 1e-9)
+        << row.methode;
+  }
+  EXPECT_EQ(cibleFC(TargetWriter::CellPick, -1, 80, mixed), std::nullopt);
+  // Only what the method reads has to be a number.
+  EXPECT_EQ(cibleFC(TargetWriter::CellPick, 0, 50, {"40", "", " ", " ", " "}), 90);
+  EXPECT_EQ(cibleFC(TargetWriter::ColumnRewrite, 4, 50, {" ", "60", " ", " ", " "}), 140);
+  EXPECT_THROW((void)cibleFC(TargetWriter::ColumnRewrite, 0, 50, {"40", "", " ", " ", " "}), platform::Fault);
+}
+
+TEST(Formulas, RoundTheBandsHalfAwayFromZero) {
+  EXPECT_EQ(bandText(0, 180, 60, {70, 85}), "126 à 153");
+  EXPECT_EQ(bandText(5, 190, 50, {60, 70}), "134 à 148");
+  EXPECT_EQ(bandText(3, 175, 0, {50, 60}), "88 à 105");  // 87.5
+  EXPECT_EQ(bandText(0, 0, 0, {50, 60}), " à ");
+  EXPECT_EQ(reserveText(180, 0), "180");
+  EXPECT_EQ(workRateText(1, 178, 60, 50), "119");
+  EXPECT_EQ(workRateText(5, 178, 60, 50), "89");
+}
+
+TEST(EachOnItsOwn, GoesOnBehindAFailure) {
+  std::string done;
+  platform::eachOnItsOwn([&] { done += 'a'; }, [&] { done += model::plainNumber(model::strictNumber("x")); },
+                         [&] { done += 'b'; });
+  EXPECT_EQ(done, "ab");
+}
+
+TEST_F(HeartRate, StartsBlankOnANewDisk) {
+  load();
+  EXPECT_EQ(*disk.files.at(path), "");
+  EXPECT_THAT(boxes(), ElementsAre(" ", " ", " ", " "));
+  EXPECT_EQ(form.Combo8.text, "Astrand et Ryhming (1954)");
+  EXPECT_EQ(form.Combo13.index, 0);
+  EXPECT_EQ(calculator->figures().persoMethode, "0");
+  EXPECT_EQ(state.modeAffichageFC, 1);
+  EXPECT_THAT(modes(), ElementsAre(1, 0, 0));
+  EXPECT_EQ(form.Label50.caption, "");
+  EXPECT_FALSE(form.Label62.visible);
+  EXPECT_THAT(dialogs.said, testing::IsEmpty());
+}
+
+TEST_F(HeartRate, ComesUpWithTheSavedFigures) {
+  std::string record = saved;
+  record[18] = '3';
+  load(record);
+  EXPECT_THAT(boxes(), ElementsAre("40", "Féminin", "190", "050"));
+  EXPECT_EQ(form.Combo8.index, 5);
+  EXPECT_EQ(form.Combo13.index, 5);
+  EXPECT_EQ(calculator->figures().methodeFC, 5);
+  EXPECT_EQ(form.Label50.caption, "134 à 148");
+  EXPECT_EQ(form.Label56.caption, "140");
+  EXPECT_EQ(form.Label57.caption, "190");
+  EXPECT_THAT(modes(), ElementsAre(0, 0, 1));
+  EXPECT_EQ(state.modeAffichageFC, 3);
+}
+
+TEST_F(HeartRate, TakesARecordWithoutAnAgeForANewOne) {
+  load(
+      "   Masculin190050"
+      "53" +
+      reserve);  // NOLINT(bugprone-suspicious-missing-comma)
+  EXPECT_THAT(boxes(), ElementsAre(" ", " ", " ", " "));
+  EXPECT_EQ(form.Combo8.index, 0);
+  EXPECT_EQ(state.modeAffichageFC, 3);
+}
+
+// What is cut off or damaged never keeps the form from loading, and leaves both method boxes alike.
+struct DamagedRecord : HeartRate, testing::WithParamInterface<int> {};
+TEST_P(DamagedRecord, LoadsAllTheSame) {
+  const int seed = GetParam();
+  std::string record = saved.substr(0, static_cast<std::size_t>(std::min(seed, 40)));
+  std::mt19937 random(static_cast<unsigned>(seed));
+  if (seed > 40) record.resize(40);
+  for (char& c : record) c = seed > 40 ? static_cast<char>(random() % 256) : c;
+  load(record);
+  EXPECT_EQ(form.Combo8.index, form.Combo13.index);
+  EXPECT_EQ(form.Combo8.index, seed >= 18 && seed <= 40 ? 5 : form.Combo8.index.get());
+  EXPECT_EQ(form.Combo7.text, seed == 0 ? " " : seed == 1 ? "4" : seed <= 40 ? "40" : form.Combo7.text.get());
+  EXPECT_EQ(form.Check1.value + form.Check2.value + form.Check3.value, 1);
+  EXPECT_EQ(modes().at(static_cast<std::size_t>(state.modeAffichageFC) - 1), 1);
+  EXPECT_GE(form.Combo8.index, 0);
+  EXPECT_THAT(faults, testing::IsEmpty());
+  EXPECT_EQ(*disk.files.at(path), record);
+}
+INSTANTIATE_TEST_SUITE_P(Records, DamagedRecord, testing::Range(0, 120));
+
+TEST_F(HeartRate, StartsBlankWhereTheFileCannotBeOpened) {
+  disk.put(path, saved);
+  files.failFrom(FaultyFileSystem::Call::Open, 1);
+  load();
+  EXPECT_THAT(faults, ElementsAre(HasSubstr(path)));
+  EXPECT_THAT(boxes(), ElementsAre(" ", " ", " ", " "));
+  EXPECT_EQ(form.Combo8.index, 0);
+  EXPECT_EQ(*disk.files.at(path), saved);
+}
+
+TEST_F(HeartRate, SavesTheScreenUnderTheRidersOwnMethod) {
+  load(std::string("30 Masculin200060"
+                   "32") +
+       reserve + "more");
+  pick(form.Combo7, "41");
+  form.Combo10.text = "Féminin";
+  form.Combo11.text = "0189";
+  form.Combo12.text = "055";
+  form.Check3.value = 1;
+  form.MyButton40.click();
+  EXPECT_EQ(*disk.files.at(path),
+            "41 F\xE9minin 018055"
+            "53" +
+                reserve + "more");
+  EXPECT_EQ(calculator->figures().persoFCMax, "018");
+  EXPECT_EQ(form.Combo12.text, "55");
+  EXPECT_EQ(form.Combo8.index, 5);
+  // The grid's own box still shows the old method, and has the last word.
+  EXPECT_EQ(calculator->figures().methodeFC, 3);
+}
+
+TEST_F(HeartRate, KeepsEverythingWhenSavingFails) {
+  load(saved);
+  form.MyButton25.click();
+  form.Combo11.text = "195";
+  files.failFrom(FaultyFileSystem::Call::Write, 1);
+  dialogs.next = {Answer::Yes};
+  EXPECT_THROW(form.Command2.click(), platform::FileFault);
+  EXPECT_EQ(calculator->figures().persoFCMax, "190");
+  EXPECT_EQ(form.Combo11.text, "195");
+  EXPECT_TRUE(form.Picture8.visible);
+}
+
+TEST_F(HeartRate, AsksForWhatTheMethodNeeds) {
+  load();
+  struct Row {
+    int methode;
+    const char *age, *fcMax, *rest, *asked;
+  };
+  for (const Row& row : {Row{0, " ", "", "", "au moins un (Age)...\nCe Paramètre vous"},
+                         {3, "40", "", "", nullptr},
+                         {4, " ", "", "60", "Persos,vous devez Choisir un (Age), puis une (FCRepos).\nCes"},
+                         {4, "40", "", " ", "un (Age), puis une (FCRepos).\nCes Paramètres vous"},
+                         {4, "40", "", "60", nullptr},
+                         {5, "40", " ", "60", "(Age), puis une (FCMaxi), puis une (FCRepos).\nCes"},
+                         {5, "40", "190", " ", "(Age), puis une (FCMaxi), puis une (FCRepos).\nCes"},
+                         {5, "40", "190", "60", nullptr}}) {
+    form.Combo7.text = row.age;
+    form.Combo11.text = row.fcMax;
+    form.Combo12.text = row.rest;
+    for (const bool byMethod : {true, false}) {
+      dialogs.said.clear();
+      form.Picture8.visible = false;
+      if (byMethod) {
+        form.Combo8.pick(row.methode);
+      } else {
+        form.MyButton38.click();
+      }
+      EXPECT_EQ(form.Picture8.visible, row.asked != nullptr);
+      ASSERT_EQ(dialogs.said.size(), row.asked != nullptr ? 1U : 0U) << row.methode << row.age;
+      if (row.asked == nullptr) continue;
+      EXPECT_THAT(dialogs.said.front().text, HasSubstr(row.asked));
+      EXPECT_THAT(dialogs.said.front().text, HasSubstr("Caluls"));
+      EXPECT_EQ(dialogs.said.front().title, "");
+    }
+  }
+}
+
+TEST_F(HeartRate, ShowsTheResultsAndTheBoxesOfTheMethod) {
+  load();
+  pick(form.Combo7, "40");
+  EXPECT_EQ(form.Combo11.text, "180");
+  EXPECT_THAT((std::vector<std::string>{form.Label50.caption, form.Label52.caption, form.Label53.caption,
+                                        form.Label54.caption, form.Label55.caption, form.Label56.caption,
+                                        form.Label57.caption}),
+              ElementsAre("108 à 126", "90 à 108", "108 à 126", "126 à 153", "153 à 180", "180", "180"));
+  form.Combo7.text = "4O";  // no number: the box keeps its text and the labels follow it
+  form.Combo12.text = "60";
+  form.MyButton38.click();
+  EXPECT_EQ(form.Combo11.text, "180");
+  EXPECT_EQ(form.Label56.caption, "120");
+  form.Combo7.text = "40";
+  const auto shown = [this](int methode) {
+    form.Combo8.index = methode;
+    return std::vector<bool>{form.Combo7.visible, form.Combo10.visible, form.Combo11.visible,
+                             form.Combo12.visible, form.Label62.visible};
+  };
+  EXPECT_THAT(shown(1), ElementsAre(true, false, false, false, true));
+  EXPECT_EQ(form.Combo11.text, "178");
+  EXPECT_THAT(shown(4), ElementsAre(false, false, false, true, false));
+  EXPECT_EQ(form.Combo11.text, "240");
+  EXPECT_EQ(form.Label50.caption, "168 à 186");
+  EXPECT_THAT(shown(5), ElementsAre(true, true, true, true, true));
+  pick(form.Combo11, "200");
+  EXPECT_EQ(form.Label57.caption, "200");
+  form.Label57.caption = "as it was";
+  pick(form.Combo7, "41");  // on the last two methods an age alone computes nothing
+  EXPECT_EQ(form.Label57.caption, "as it was");
+}
+
+TEST_F(HeartRate, CompletesAPickedPercentage) {
+  load(
+      "30 Masculin190050"
+      "01" +
+      reserve);  // NOLINT(bugprone-suspicious-missing-comma)
+  fillGrid({"000"});
+  struct Row {
+    int methode;
+    const char *age, *rest, *picked, *cell;
+    std::size_t messages;
+  };
+  for (const Row& row : {Row{0, "40", "60", "75 %", "135-75 %", 0},
+                         {0, "40", "60", "50 %", "90-50 %", 0},
+                         {1, "40", "60", "75 %", "139-75 %", 0},
+                         {4, "40", "60", "80 %", "188-80 %", 0},
+                         {5, "40", "60", "100 %", "190-100 %", 0},
+                         {0, "40", " ", "75 %", " ", 1},
+                         {2, " ", "60", "75 %", " ", 1},
+                         {5, " ", "60", "75 %", " ", 1},
+                         {0, " ", " ", " ", " ", 0},
+                         {0, "4O", "60", "75 %", "75 %", 0}}) {
+    form.Combo7.text = "40";
+    form.Combo12.text = "60";
+    form.Combo13.index = row.methode;
+    form.Combo7.text = row.age;
+    form.Combo12.text = row.rest;
+    form.ListView1.setText(2, model::column::heartRate, row.picked);
+    dialogs.said.clear();
+    form.Picture8.visible = false;
+    calculator->viserCellule(2, row.picked);
+    EXPECT_EQ(targets().at(1), row.cell) << row.methode << row.age << row.rest;
+    EXPECT_EQ(dialogs.said.size(), row.messages) << row.methode << row.age << row.rest;
+    EXPECT_EQ(form.Picture8.visible, row.messages == 1);
+    if (row.messages == 0) continue;
+    const bool ageAlone = row.methode == 2;
+    EXPECT_THAT(dialogs.said.front().text, HasSubstr(ageAlone ? "au moins un (Age)" : "une (FCMaxi)"));
+  }
+}
+
+TEST_F(HeartRate, RewritesTheColumnForAnotherMethod) {
+  load(
+      "40 Masculin190050"
+      "01" +
+      reserve);  // NOLINT(bugprone-suspicious-missing-comma)
+  fillGrid({"000", "75 %", "1-75 %", "-----", "132- 80 %", "132-100 %", " ", "132X90 %", "7-", "9-5 %"});
+  form.Combo7.text = "20";  // the saved age counts
+  form.Combo13.index = 3;
+  EXPECT_THAT(targets(), ElementsAre("Fréq./Card.", "000", "134- 75 %", "134- 75 %", "-----", "143- 80 %",
+                                     "179-100 %", " ", "161- 90 %", "161- 90 %", "9-5 %"));
+  form.Combo13.index = 5;
+  EXPECT_EQ(targets().at(6), "190-100 %");
+  EXPECT_EQ(targets().at(10), "57-5 %");
+  form.Combo7.text = " ";
+  form.Combo13.index = 0;
+  EXPECT_EQ(targets().at(6), "190-100 %");
+  ASSERT_EQ(dialogs.said.size(), 1U);
+  EXPECT_THAT(dialogs.said.front().text, HasSubstr("au moins un (Age)"));
+  EXPECT_TRUE(form.Picture8.visible);
+}
+
+TEST_F(HeartRate, OffersToSaveOnlyWhatDiffersOnTheLastMethod) {
+  load(saved);
+  form.MyButton25.click();
+  form.Combo12.text = "51";
+  watch();
+  EXPECT_TRUE(form.MyButton40.visible);
+  EXPECT_TRUE(form.MyButton38.visible);
+  form.Combo12.text = " 050 ";
+  watch();
+  EXPECT_FALSE(form.MyButton40.visible);
+  EXPECT_FALSE(form.MyButton38.visible);
+  form.Combo10.text = "Masculin";
+  form.Check1.value = 0;
+  watch();
+  EXPECT_TRUE(form.MyButton40.visible);
+  EXPECT_FALSE(form.MyButton38.visible);  // for good
+  EXPECT_EQ(form.Check1.value, 1);
+  form.Combo8.index = 1;
+  watch();
+  EXPECT_FALSE(form.MyButton40.visible);
+}
+
+TEST_F(HeartRate, AsksBeforeClosingOverChangedFigures) {
+  load(saved);
+  const auto close = [this](const char* rest, std::deque<Answer> answers) {
+    form.MyButton25.click();
+    form.Combo12.text = rest;
+    dialogs.said.clear();
+    dialogs.next = std::move(answers);
+    form.Command2.click();
+    EXPECT_EQ(form.Timer10.enabled, form.Picture8.visible);
+    return std::tuple{dialogs.said.size(), form.Picture8.visible.get(), disk.files.at(path)->substr(14, 3)};
+  };
+  form.Combo10.text = "Masculin";
+  EXPECT_EQ(close("050", {}), std::tuple(0U, false, "050"));
+  EXPECT_EQ(close("70", {Answer::Cancel}), std::tuple(1U, true, "050"));
+  EXPECT_EQ(close("70", {Answer::No}), std::tuple(1U, false, "050"));
+  EXPECT_EQ(close("70", {Answer::Yes}), std::tuple(1U, false, "70 "));
+  EXPECT_EQ(dialogs.said.front().buttons, platform::MessageButtons::YesNoCancel);
+}
+
+TEST_F(HeartRate, ClosesUntouchedOnANewDisk) {
+  load();
+  form.MyButton25.click();
+  form.Command2.click();
+  EXPECT_FALSE(form.Picture8.visible);
+  EXPECT_THAT(dialogs.said, testing::IsEmpty());
+}
+
+TEST_F(HeartRate, HelpStandsUntilThePointerLeaves) {
+  load();
+  form.MyButton25.click();
+  form.MyButton33.click();
+  EXPECT_THAT(form.Label44.caption.get(), HasSubstr("FCMax.\n\n Elle est considérée"));
+  EXPECT_TRUE(form.Shape2.visible && form.Label47.visible && !form.Image11.visible);
+  form.Image10.hover();
+  EXPECT_EQ(form.Label44.caption, "");
+  EXPECT_FALSE(form.Shape2.visible || form.Label47.visible || !form.Image11.visible);
+  form.MyButton29.hover();
+  EXPECT_THAT(form.Label44.caption.get(), HasSubstr("moyenne (bpm)"));
+}
+
+}  // namespace
