@@ -9,9 +9,11 @@
 #include "console/reach.h"
 #include "console/ride_clock.h"
 #include "console/ride_screen.h"
+#include "console/simulated_media.h"
 #include "console/simulated_screen_saver.h"
 #include "console/simulated_sound.h"
 #include "platform/disk_file_system.h"
+#include "platform/media_parser.h"
 
 namespace console {
 namespace {
@@ -95,7 +97,10 @@ class Ride {
         voice_(screen_, silence_),
         dialogs_(screen_, scratch_.session()),
         saver_(journal_),
-        program_({clock_, voice_, dialogs_, files_, saver_}, {scratch_.folder(), VENTORIA_VERSION, {}}),
+        media_(clock_, files_, machine_),
+        mediaCommands_(media_),
+        program_({clock_, voice_, dialogs_, files_, saver_, mediaCommands_},
+                 {scratch_.folder(), VENTORIA_VERSION, {}}),
         glance_(static_cast<int>(100 * speed)) {
     silence_.attach(loop_);
     loop_.onInput([this] { attend(); });
@@ -123,8 +128,9 @@ class Ride {
       if (!loop_.quitting()) screen_.say("Aucune séquence à parcourir.");
       return loop_.quitting();
     }
+    // The hand-over itself presses Start, which is what readies the countdown.
     const platform::Instant patience = clock_.now() + 10s;
-    while (!canPress(main_.MyButton3) && clock_.now() < patience) loop_.runUntil(clock_.now() + 100ms);
+    while (main_.MyButton1.caption != "Stop" && clock_.now() < patience) loop_.runUntil(clock_.now() + 100ms);
     press(main_.MyButton3);
     return true;
   }
@@ -170,6 +176,9 @@ class Ride {
   WrittenVoice voice_;
   RideDialogs dialogs_;
   SimulatedScreenSaver saver_;
+  SimulatedMachine machine_;
+  SimulatedMedia media_;
+  platform::ParsedMediaCommands mediaCommands_;
   app::Program program_;
   platform::EventLoop& loop_ = program_.loop();
   forms::MainForm& main_ = program_.screens().main;

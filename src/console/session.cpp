@@ -10,20 +10,23 @@ std::unique_ptr<platform::Clock> clockFor(const Options& options) {
 
 }  // namespace
 
-Session::Session(const Options& options, const std::string& folder, std::ostream& out)
+Session::Session(const Options& options, const std::string& folder, std::ostream& out, RiderHands* hands)
     : clock_(clockFor(options)),
       journal_(*clock_),
       sound_(options.sound, files_, folder, journal_),
       dialogs_(journal_),
       screenSaver_(journal_),
       machine_{options.volume},
+      media_(*clock_, files_, machine_),
+      mediaCommands_(media_),
+      journaledMedia_(mediaCommands_, journal_),
       program_(
-          {*clock_, sound_, dialogs_, files_, screenSaver_},
+          {*clock_, sound_, dialogs_, files_, screenSaver_, journaledMedia_},
           {folder, VENTORIA_VERSION, [this](const std::string& text) { journal_.write("fault", {text}); }}),
       interpreter_({program_.screens(), program_.state(), program_.loop(), journal_, dialogs_, machine_},
-                   hands_, out) {
+                   hands != nullptr ? *hands : directHands_, out) {
   sound_.attach(program_.loop());
-  watchPopUps(program_.screens(), interpreter_);
+  if (hands == nullptr) watchPopUps(program_.screens(), interpreter_);
 }
 
 int Session::run(std::istream& in, std::ostream& errors) {

@@ -9,15 +9,18 @@
 #include "console/direct_hands.h"
 #include "console/interpreter.h"
 #include "console/options.h"
+#include "console/simulated_media.h"
 #include "console/simulated_screen_saver.h"
 #include "platform/disk_file_system.h"
+#include "platform/media_parser.h"
 
 namespace console {
 
 class Session {
  public:
-  // `folder` is absolute.
-  Session(const Options& options, const std::string& folder, std::ostream& out);
+  // `folder` is absolute. `hands` are those of a front with windows, which also tells of its pop-up menus; none:
+  // hands on the controls themselves.
+  Session(const Options& options, const std::string& folder, std::ostream& out, RiderHands* hands = nullptr);
 
   // Starts the program, then carries out the commands. The exit status.
   int run(std::istream& in, std::ostream& errors);
@@ -33,8 +36,11 @@ class Session {
   ScriptedDialogs dialogs_;
   SimulatedScreenSaver screenSaver_;
   SimulatedMachine machine_;
+  SimulatedMedia media_;
+  platform::ParsedMediaCommands mediaCommands_;
+  JournaledMedia journaledMedia_;
   app::Program program_;
-  DirectHands hands_;
+  DirectHands directHands_;
   Interpreter interpreter_;
 };
 

@@ -1,75 +1,106 @@
 #include "console/wav_length.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <string_view>
 
 namespace console {
 namespace {
 
-using Bytes = std::span<const unsigned char>;
+// A recording in memory, read as a file is.
+class MemoryFile final : public platform::RandomFile {
+ public:
+  explicit MemoryFile(std::span<const unsigned char> bytes) : bytes_(bytes) {}
+  std::size_t readAt(std::uint64_t offset, std::span<char> into) override {
+    const std::size_t count = offset < bytes_.size() ? std::min(into.size(), bytes_.size() - offset) : 0;
+    const auto from = bytes_.begin() + static_cast<std::ptrdiff_t>(count == 0 ? 0 : offset);
+    std::transform(from, from + static_cast<std::ptrdiff_t>(count), into.begin(),
+                   [](unsigned char byte) { return static_cast<char>(byte); });
+    return count;
+  }
+  void writeAt(std::uint64_t, std::span<const char>) override {}
+  [[nodiscard]] std::uint64_t size() const override { return bytes_.size(); }
 
-std::uint32_t little(Bytes bytes, std::size_t at, std::size_t size) {
+ private:
+  std::span<const unsigned char> bytes_;
+};
+
+std::uint32_t little(platform::RandomFile& file, std::uint64_t at, std::size_t size) {
+  std::array<char, 4> bytes{};
+  file.readAt(at, std::span(bytes).first(size));
   std::uint32_t value = 0;
-  for (std::size_t i = 0; i < size && at + i < bytes.size(); ++i) {
-    value |= static_cast<std::uint32_t>(bytes[at + i]) << (8 * i);
+  for (std::size_t i = 0; i < size; ++i) {
+    value |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[i])) << (8 * i);
   }
   return value;
 }
 
-bool reads(Bytes bytes, std::size_t at, std::string_view mark) {
-  return at + mark.size() <= bytes.size() &&
-         std::equal(mark.begin(), mark.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at),
-                    [](char c, unsigned char byte) { return static_cast<unsigned char>(c) == byte; });
+bool reads(platform::RandomFile& file, std::uint64_t at, std::string_view mark) {
+  std::array<char, 4> bytes{};
+  return file.readAt(at, bytes) == bytes.size() && std::string_view(bytes.data(), bytes.size()) == mark;
 }
 
-struct Chunks {
-  Bytes format;
-  Bytes fact;
-  Bytes data;
+struct Chunk {
+  std::uint64_t at = 0;
+  std::uint64_t size = 0;
 };
 
-Chunks chunksOf(Bytes wav) {
+struct Chunks {
+  Chunk format;
+  Chunk fact;
+  Chunk data;
+};
+
+Chunks chunksOf(platform::RandomFile& wav) {
+  constexpr int enough = 1000;  // a recording has a handful
   Chunks chunks;
-  for (std::size_t at = 12; at + 8 <= wav.size();) {
-    const std::size_t size = std::min<std::size_t>(little(wav, at + 4, 4), wav.size() - at - 8);
-    const Bytes body = wav.subspan(at + 8, size);
+  const std::uint64_t end = wav.size();
+  std::uint64_t at = 12;
+  for (int count = 0; count < enough && at + 8 <= end; ++count) {
+    const Chunk body{at + 8, std::min<std::uint64_t>(little(wav, at + 4, 4), end - at - 8)};
     if (reads(wav, at, "fmt ")) chunks.format = body;
     if (reads(wav, at, "fact")) chunks.fact = body;
     if (reads(wav, at, "data")) chunks.data = body;
-    at += 8 + size + size % 2;
+    at += 8 + body.size + body.size % 2;
   }
   return chunks;
 }
 
 // Each block begins with a header that holds two samples of each channel; a nibble is a sample.
-std::uint64_t adpcmFrames(const Chunks& chunks, std::size_t channels, std::size_t blockSize) {
-  if (chunks.fact.size() >= 4) return little(chunks.fact, 0, 4);
-  const std::size_t header = 7 * channels;
-  const auto framesIn = [&](std::size_t bytes) {
+std::uint64_t adpcmFrames(platform::RandomFile& wav, const Chunks& chunks, std::uint64_t channels,
+                          std::uint64_t blockSize) {
+  if (chunks.fact.size >= 4) return little(wav, chunks.fact.at, 4);
+  const std::uint64_t header = 7 * channels;
+  const auto framesIn = [&](std::uint64_t bytes) {
     return bytes < header ? 0 : 2 + (bytes - header) * 2 / channels;
   };
-  const std::size_t whole = chunks.data.size() / blockSize;
-  return whole * framesIn(blockSize) + framesIn(chunks.data.size() % blockSize);
+  const std::uint64_t whole = chunks.data.size / blockSize;
+  return whole * framesIn(blockSize) + framesIn(chunks.data.size % blockSize);
 }
 
 }  // namespace
 
-std::optional<std::chrono::milliseconds> wavLength(Bytes wav) {
+std::optional<std::chrono::milliseconds> wavLength(platform::RandomFile& wav) {
   constexpr std::uint32_t pcm = 1;
   constexpr std::uint32_t msAdpcm = 2;
   if (!reads(wav, 0, "RIFF") || !reads(wav, 8, "WAVE")) return std::nullopt;
   const Chunks chunks = chunksOf(wav);
-  if (chunks.format.size() < 16) return std::nullopt;
-  const std::uint32_t coding = little(chunks.format, 0, 2);
-  const std::uint32_t channels = little(chunks.format, 2, 2);
-  const std::uint32_t rate = little(chunks.format, 4, 4);
-  const std::uint32_t blockSize = little(chunks.format, 12, 2);
+  if (chunks.format.size < 16) return std::nullopt;
+  const std::uint32_t coding = little(wav, chunks.format.at, 2);
+  const std::uint32_t channels = little(wav, chunks.format.at + 2, 2);
+  const std::uint32_t rate = little(wav, chunks.format.at + 4, 4);
+  const std::uint32_t blockSize = little(wav, chunks.format.at + 12, 2);
   if (channels == 0 || rate == 0 || blockSize == 0) return std::nullopt;
   if (coding != pcm && coding != msAdpcm) return std::nullopt;
   const std::uint64_t frames =
-      coding == pcm ? chunks.data.size() / blockSize : adpcmFrames(chunks, channels, blockSize);
+      coding == pcm ? chunks.data.size / blockSize : adpcmFrames(wav, chunks, channels, blockSize);
   return std::chrono::milliseconds((frames * 1000 + rate / 2) / rate);
+}
+
+std::optional<std::chrono::milliseconds> wavLength(std::span<const unsigned char> wav) {
+  MemoryFile file(wav);
+  return wavLength(file);
 }
 
 }  // namespace console

@@ -5,9 +5,12 @@
 #include <optional>
 #include <span>
 
+#include "platform/file_system.h"
+
 namespace console {
 
 // None for what is no WAV file of PCM or MS ADPCM.
 [[nodiscard]] std::optional<std::chrono::milliseconds> wavLength(std::span<const unsigned char> wav);
+[[nodiscard]] std::optional<std::chrono::milliseconds> wavLength(platform::RandomFile& wav);
 
 }  // namespace console

@@ -53,6 +53,8 @@ const std::vector<Variable>& variables() {
       {"sonBraquet", text(&SharedState::sonBraquet)},
       {"sonPlateau", text(&SharedState::sonPlateau)},
       {"musiqueSuit", text(&SharedState::musiqueSuit)},
+      {"selectionEnCours", text(&SharedState::selectionEnCours)},
+      {"dureeMusique", text(&SharedState::dureeMusique)},
       {"dossierProgramme", text(&SharedState::dossierProgramme)},
       {"dossierSeances", text(&SharedState::dossierSeances)},
       {"dossierAnnonces", text(&SharedState::dossierAnnonces)},

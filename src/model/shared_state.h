@@ -46,6 +46,10 @@ struct SharedState {
   // The order to the music player: "oui" to go on, "non" to hold, empty when none waits.
   std::string musiqueSuit;
 
+  // The music's own state.
+  std::string selectionEnCours;  // "oui" while a selection drives the music, else empty
+  std::string dureeMusique;      // length of the current piece, as the player shows it
+
   // The program's folders, each ending in a separator.
   std::string dossierProgramme;
   std::string dossierSeances;

@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/media_commands.h"
 #include "platform/screen_saver.h"
 #include "platform/sound_output.h"
 
@@ -15,6 +16,7 @@ struct Outside {
   Dialogs& dialogs;
   FileSystem& files;
   ScreenSaver& screenSaver;
+  MediaCommands& media;
 };
 
 }  // namespace platform

@@ -11,6 +11,7 @@
 #include "platform/each_on_its_own.h"
 #include "support/faulty_file_system.h"
 #include "support/memory_file_system.h"
+#include "support/recorded_media.h"
 
 namespace {
 
@@ -60,7 +61,8 @@ struct HeartRate : testing::Test {
   Answers dialogs;
   Silence sound;
   NoSaver saver;
-  platform::Outside outside{clock, sound, dialogs, files, saver};
+  support::RecordedMedia media;
+  platform::Outside outside{clock, sound, dialogs, files, saver, media};
   voice::Voice speaker{state, loop, sound, screens.main, screens.player};
   forms::CreerCycle& form = screens.editor;
   std::vector<std::string> faults;

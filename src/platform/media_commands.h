@@ -1,0 +1,18 @@
+// Media players and the recorder, worked by command strings such as "play capture from 0".
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+class MediaCommands {
+ public:
+  virtual ~MediaCommands() = default;
+  // Carries out one command and gives its answer. A command that fails, or that has nothing to answer, gives
+  // an empty text; nothing is ever thrown, since nobody looks at how a command went.
+  virtual std::string send(const std::string& command) = 0;
+  // The folder in which "save" writes a name that has no folder of its own.
+  virtual void workIn(const std::string& folder) = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,184 @@
+#include "platform/media_parser.h"
+
+#include <algorithm>
+#include <charconv>
+#include <exception>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+#include "platform/text.h"
+
+namespace platform {
+namespace {
+
+// What a command says beside its fixed words.
+struct Call {
+  std::string alias;
+  std::string path;
+  std::int64_t number = 0;
+};
+
+using Action = std::string (*)(MediaBackend&, const Call&);
+
+template <auto Method, auto... Arguments>
+std::string tell(MediaBackend& backend, const Call& call) {
+  (backend.*Method)(call.alias, Arguments...);
+  return {};
+}
+
+template <auto Method>
+std::string tellNumber(MediaBackend& backend, const Call& call) {
+  (backend.*Method)(call.alias, call.number);
+  return {};
+}
+
+template <RecordingFigure Figure>
+std::string tellRecording(MediaBackend& backend, const Call& call) {
+  if (call.number >= 0 && call.number <= std::numeric_limits<int>::max()) {
+    backend.setRecording(call.alias, Figure, static_cast<int>(call.number));
+  }
+  return {};
+}
+
+std::string tellVolume(MediaBackend& backend, const Call& call) {
+  if (call.number >= 0 && call.number <= 1000) backend.setVolume(call.alias, static_cast<int>(call.number));
+  return {};
+}
+
+std::string tellSpeed(MediaBackend& backend, const Call& call) {
+  if (call.number > 0 && call.number <= 4000) backend.setSpeed(call.alias, static_cast<int>(call.number));
+  return {};
+}
+
+template <auto Method>
+std::string tellPath(MediaBackend& backend, const Call& call) {
+  (backend.*Method)(call.alias, call.path);
+  return {};
+}
+
+template <MediaFigure Figure>
+std::string ask(MediaBackend& backend, const Call& call) {
+  const std::optional<std::int64_t> value = backend.figure(call.alias, Figure);
+  return value ? std::to_string(*value) : std::string();
+}
+
+// Nothing is ever shown, so there is no picture to measure or to place.
+std::string noPicture(MediaBackend&, const Call&) {
+  return {};
+}
+
+// The words of a command; A stands for a name, N for a number, P for the rest of the text, a path.
+struct Pattern {
+  std::string_view words;
+  Action action;
+};
+
+using B = MediaBackend;
+
+constexpr Pattern patterns[] = {
+    {"open new type waveaudio alias A", &tell<&B::openRecorder>},
+    {"close all",
+     [](B& backend, const Call&) {
+       backend.closeAll();
+       return std::string();
+     }},
+    {"close A", &tell<&B::close>},
+    {"play A", &tell<&B::play>},
+    {"play A from N", &tellNumber<&B::playFrom>},
+    {"stop A", &tell<&B::stop>},
+    {"pause A", &tell<&B::pause>},
+    {"seek A to start", &tell<&B::seek, 0>},
+    {"seek A to N", &tellNumber<&B::seek>},
+    {"record A", &tell<&B::record>},
+    {"save A P", &tellPath<&B::save>},
+    {"set A time format ms", &tell<&B::setTimeFormat, TimeFormat::Milliseconds>},
+    {"set A time format milliseconds", &tell<&B::setTimeFormat, TimeFormat::Milliseconds>},
+    {"set A time format bytes", &tell<&B::setTimeFormat, TimeFormat::Bytes>},
+    {"set A samplespersec N", &tellRecording<RecordingFigure::SamplesPerSecond>},
+    {"set A bitspersample N", &tellRecording<RecordingFigure::BitsPerSample>},
+    {"set A channels N", &tellRecording<RecordingFigure::Channels>},
+    {"set A speed N", &tellSpeed},
+    {"set A audio all off", &tell<&B::setAudible, false>},
+    {"set A audio all on", &tell<&B::setAudible, true>},
+    {"setaudio A volume to N", &tellVolume},
+    {"status A mode", [](B& backend, const Call& call) { return backend.mode(call.alias); }},
+    {"status A length", &ask<MediaFigure::Length>},
+    {"status A position notify", &ask<MediaFigure::Position>},
+    {"status A channels", &ask<MediaFigure::Channels>},
+    {"status A bitspersample", &ask<MediaFigure::BitsPerSample>},
+    {"status A bytespersec", &ask<MediaFigure::BytesPerSecond>},
+    {"where A destination", &noPicture},
+    {"put A window at N N N N", &noPicture},
+    {"put A destination at N N N N", &noPicture},
+};
+
+std::string_view takeWord(std::string_view& text) {
+  const std::size_t blank = std::min(text.find(' '), text.size());
+  const std::string_view word = text.substr(0, blank);
+  text.remove_prefix(std::min(blank + 1, text.size()));
+  return word;
+}
+
+bool readNumber(std::string_view word, std::int64_t& number) {
+  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+  return error == std::errc() && end == word.data() + word.size();
+}
+
+std::optional<Call> match(std::string_view words, std::string_view command) {
+  Call call;
+  while (!words.empty()) {
+    const std::string_view wanted = takeWord(words);
+    if (wanted == "P") {
+      call.path = command;
+      command = {};
+      if (call.path.empty()) return std::nullopt;
+      continue;
+    }
+    const std::string_view word = takeWord(command);
+    if (wanted == "A" && !word.empty()) {
+      call.alias = word;
+    } else if (wanted == "N" ? !readNumber(word, call.number) : word != wanted) {
+      return std::nullopt;
+    }
+  }
+  if (!command.empty()) return std::nullopt;
+  return call;
+}
+
+// "open MPEGVideo!" path " alias " name " parent " handle " Style " number. A path may hold any of these
+// words, so that the last of them count.
+std::optional<Call> matchOpenFile(std::string_view command) {
+  constexpr std::string_view start = "open MPEGVideo!";
+  constexpr std::string_view middle = " alias ";
+  if (!command.starts_with(start)) return std::nullopt;
+  const std::size_t end = command.rfind(middle);
+  if (end == std::string_view::npos || end < start.size()) return std::nullopt;
+  std::optional<Call> call = match("A parent N Style N", command.substr(end + middle.size()));
+  if (call) call->path = command.substr(start.size(), end - start.size());
+  return call;
+}
+
+}  // namespace
+
+void ParsedMediaCommands::workIn(const std::string& folder) {
+  folder_ = folder.empty() || folder.ends_with('/') ? folder : folder + "/";
+}
+
+std::string ParsedMediaCommands::send(const std::string& command) {
+  try {
+    if (const std::optional<Call> open = matchOpenFile(command)) {
+      return tellPath<&MediaBackend::openFile>(backend_, *open);
+    }
+    for (const Pattern& pattern : patterns) {
+      std::optional<Call> call = match(pattern.words, command);
+      if (!call) continue;
+      if (!call->path.empty() && !call->path.starts_with('/')) call->path.insert(0, folder_);
+      return pattern.action(backend_, *call);
+    }
+  } catch (const std::exception&) {  // a command that fails changes nothing and answers nothing
+  }
+  return {};
+}
+
+}  // namespace platform
