@@ -1,0 +1,394 @@
+#include "desktop/binder.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
+#include <QCursor>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+#include <algorithm>
+#include <stdexcept>
+
+#include "desktop/qt_text.h"
+#include "desktop/theme.h"
+#include "desktop/unseen_controls.h"
+
+namespace desktop {
+namespace {
+
+using platform::Component;
+using platform::Control;
+using platform::ControlKind;
+using platform::Prop;
+
+bool unseen(const Component& component) {
+  const auto table = unseenControls();
+  return std::any_of(table.begin(), table.end(), [&](const UnseenControl& row) {
+    return row.form == component.form().name() && row.control == component.name();
+  });
+}
+
+// Whether a widget of this class can stand for a control of this kind.
+bool canShow(const QWidget& widget, ControlKind kind) {
+  switch (kind) {
+    case ControlKind::Button:
+      return qobject_cast<const QAbstractButton*>(&widget) != nullptr;
+    case ControlKind::CheckBox:
+      return qobject_cast<const QCheckBox*>(&widget) != nullptr;
+    case ControlKind::ComboBox:
+      return qobject_cast<const QComboBox*>(&widget) != nullptr;
+    case ControlKind::TextBox:
+      return qobject_cast<const QLineEdit*>(&widget) != nullptr;
+    case ControlKind::ScrollBar:
+      return qobject_cast<const QAbstractSlider*>(&widget) != nullptr;
+    case ControlKind::ProgressBar:
+      return qobject_cast<const QProgressBar*>(&widget) != nullptr;
+    case ControlKind::Grid:
+      return qobject_cast<const QTableView*>(&widget) != nullptr;
+    case ControlKind::Label:
+      return widget.metaObject()->indexOfProperty("text") >= 0;
+    default:
+      return true;
+  }
+}
+
+// A menu opens from a button of its name or as a pop-up; its entries stand in it.
+bool needsNoWidget(const Component& component) {
+  return component.kind() == ControlKind::Timer || component.kind() == ControlKind::MenuItem;
+}
+
+QList<QWidget*> widgetsNamed(const QWidget& page, const std::string& name) {
+  QList<QWidget*> found = page.findChildren<QWidget*>(toQt(name));
+  if (page.objectName() == toQt(name)) found.append(const_cast<QWidget*>(&page));
+  return found;
+}
+
+// An ampersand in a text would be taken for a shortcut's mark.
+QString plain(QString text, const QWidget& widget) {
+  if (qobject_cast<const QAbstractButton*>(&widget) != nullptr)
+    text.replace(QLatin1Char('&'), QLatin1String("&&"));
+  return text;
+}
+
+void showCaption(QWidget& widget, const QString& text) {
+  if (auto* elsewhere = widget.findChild<QLabel*>(widget.objectName() + QStringLiteral("Caption"))) {
+    elsewhere->setText(text);
+  } else if (widget.metaObject()->indexOfProperty("text") >= 0 &&
+             !widget.property("captionElsewhere").toBool()) {
+    widget.setProperty("text", plain(text, widget));
+  }
+  if (qobject_cast<QLabel*>(&widget) == nullptr) widget.setAccessibleName(text.trimmed());
+}
+
+void showLook(QWidget& widget, const Control& control) {
+  QString style;
+  if (!control.colour.get().automatic) {
+    style += QStringLiteral("color: %1;").arg(onScreen(widget.palette(), control.colour).name());
+  }
+  if (control.bold) style += QStringLiteral("font-weight: 700;");
+  widget.setStyleSheet(style);
+}
+
+void showCombo(const platform::ComboBox& box, QComboBox& widget, bool relist) {
+  const QSignalBlocker quiet(&widget);
+  const auto& lines = box.lines();
+  if (relist && widget.count() + 1 == static_cast<int>(lines.size()) && widget.count() > 0) {
+    widget.addItem(toQt(lines.back()));
+  } else if (relist) {
+    widget.clear();
+    for (const std::string& line : lines) widget.addItem(toQt(line));
+  }
+  if (widget.currentIndex() != box.index) widget.setCurrentIndex(box.index);
+  const QString text = toQt(box.text.get());
+  if (widget.currentText() != text) widget.setEditText(text);
+}
+
+}  // namespace
+
+QStringList bindingFaults(const platform::Form& form, const QWidget& page) {
+  QStringList faults;
+  const auto fault = [&](const Component& component, const QString& what) {
+    faults.append(toQt(form.name()) + QLatin1Char('.') + toQt(component.name()) + QStringLiteral(": ") +
+                  what);
+  };
+  for (const Component* component : form.components()) {
+    const QList<QWidget*> widgets = widgetsNamed(page, component->name());
+    if (widgets.size() > 1) fault(*component, QStringLiteral("stands %1 times").arg(widgets.size()));
+    if (needsNoWidget(*component)) continue;
+    if (widgets.isEmpty() && !unseen(*component)) fault(*component, QStringLiteral("no widget shows it"));
+    if (!widgets.isEmpty() && unseen(*component))
+      fault(*component, QStringLiteral("is shown, but listed as unseen"));
+    if (!widgets.isEmpty() && !canShow(*widgets.first(), component->kind())) {
+      fault(*component, QStringLiteral("a widget of this class cannot show it"));
+    }
+  }
+  return faults;
+}
+
+Binder::Binder(platform::EventLoop& loop, QObject* parent) : QObject(parent), loop_(loop) {}
+
+void Binder::run(std::function<void()> action) {
+  if (loop_.blocked()) {
+    QTimer::singleShot(20, this, [this, action = std::move(action)] { run(action); });
+  } else {
+    loop_.guard(action);
+  }
+}
+
+void Binder::bind(platform::Form& form, QWidget& page) {
+  const QStringList faults = bindingFaults(form, page);
+  if (!faults.isEmpty()) throw std::logic_error(fromQt(faults.join(QLatin1Char('\n'))));
+  for (Component* component : form.components()) {
+    auto* control = dynamic_cast<Control*>(component);
+    if (control == nullptr) continue;
+    const QList<QWidget*> widgets = widgetsNamed(page, component->name());
+    if (!widgets.isEmpty()) tie(*control, *widgets.first());
+  }
+  tieMenus(form, page);
+}
+
+void Binder::tie(Control& control, QWidget& widget) {
+  if (auto* label = qobject_cast<QLabel*>(&widget)) label->setTextFormat(Qt::PlainText);
+  for (const platform::PropertyBase* property : control.properties()) {
+    if (property->id() != Prop::Colour && property->id() != Prop::Bold) show(control, property->id(), widget);
+  }
+  if (!control.colour.get().automatic || control.bold) showLook(widget, control);
+  const QPointer<QWidget> shown(&widget);
+  control.watch([this, shown](Component& component, Prop prop) {
+    if (shown) show(component, prop, *shown);
+  });
+
+  controls_.insert(&widget, &control);
+  widget.setMouseTracking(true);
+  widget.installEventFilter(this);
+  if (auto* box = dynamic_cast<platform::CheckBox*>(&control)) {
+    tieCheckBox(*box, dynamic_cast<QCheckBox&>(widget));
+  } else if (auto* combo = dynamic_cast<platform::ComboBox*>(&control)) {
+    tieComboBox(*combo, dynamic_cast<QComboBox&>(widget));
+  } else if (auto* text = dynamic_cast<platform::TextBox*>(&control)) {
+    tieTextBox(*text, dynamic_cast<QLineEdit&>(widget));
+  } else if (auto* bar = dynamic_cast<platform::ScrollBar*>(&control)) {
+    tieScrollBar(*bar, dynamic_cast<QAbstractSlider&>(widget));
+  } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+    tieButton(control, *button);
+  }
+}
+
+void Binder::tieButton(Control& control, QAbstractButton& button) {
+  connect(&button, &QAbstractButton::clicked, this, [this, &control, &button] {
+    pressed_ = &button;
+    run([&control] { control.click(); });
+  });
+}
+
+void Binder::tieCheckBox(platform::CheckBox& box, QCheckBox& widget) {
+  connect(&widget, &QCheckBox::clicked, this, [this, &box, &widget](bool on) {
+    widget.setTristate(false);
+    run([&box, on] { box.value = on ? 1 : 0; });
+  });
+}
+
+void Binder::tieComboBox(platform::ComboBox& box, QComboBox& widget) {
+  widget.setEditable(true);
+  widget.setInsertPolicy(QComboBox::NoInsert);
+  widget.setCompleter(nullptr);
+  showCombo(box, widget, true);
+  connect(&widget, &QComboBox::activated, this,
+          [this, &box](int line) { run([&box, line] { box.pick(line); }); });
+  connect(widget.lineEdit(), &QLineEdit::textEdited, this,
+          [this, &box](const QString& typed) { run([&box, text = fromQt(typed)] { box.type(text); }); });
+  connect(widget.lineEdit(), &QLineEdit::returnPressed, this, [this, &box] { run([&box] { box.enter(); }); });
+  // Queued: a box also loses the keyboard by being hidden, in the midst of the handler that hides it.
+  connect(widget.lineEdit(), &QLineEdit::editingFinished, this, [this, &box, &widget] {
+    if (widget.hasFocus()) return;
+    QMetaObject::invokeMethod(
+        this, [this, &box] { run([&box] { box.validate(); }); }, Qt::QueuedConnection);
+  });
+}
+
+void Binder::tieTextBox(platform::TextBox& box, QLineEdit& widget) {
+  connect(&widget, &QLineEdit::textEdited, this,
+          [this, &box](const QString& typed) { run([&box, text = fromQt(typed)] { box.text = text; }); });
+  connect(&widget, &QLineEdit::returnPressed, this, [this, &box] { run([&box] { box.enter(); }); });
+}
+
+void Binder::tieScrollBar(platform::ScrollBar& bar, QAbstractSlider& widget) {
+  widget.setRange(std::min(bar.first, bar.last), std::max(bar.first, bar.last));
+  // A vertical slider has its greater value at the top, a horizontal one at the right.
+  widget.setInvertedAppearance((bar.first > bar.last) != (widget.orientation() == Qt::Vertical));
+  widget.setValue(bar.value);
+  connect(&widget, &QAbstractSlider::actionTriggered, this,
+          [this, &bar, &widget] { run([&bar, value = widget.sliderPosition()] { bar.scrollTo(value); }); });
+}
+
+void Binder::show(const Component& component, Prop prop, QWidget& widget) {
+  const auto& control = static_cast<const Control&>(component);
+  switch (prop) {
+    case Prop::Visible:
+      widget.setVisible(control.visible);
+      break;
+    case Prop::Enabled:
+      widget.setEnabled(control.enabled);
+      break;
+    case Prop::ToolTip:
+      widget.setToolTip(toQt(control.toolTip.get()));
+      if (component.kind() == ControlKind::Image) widget.setAccessibleName(toQt(control.toolTip.get()));
+      break;
+    case Prop::Colour:
+    case Prop::Bold:
+      showLook(widget, control);
+      break;
+    case Prop::Size:
+      if (widget.metaObject()->indexOfProperty("pointSize") >= 0)
+        widget.setProperty("pointSize", control.size.get());
+      break;
+    case Prop::Caption:
+      showCaption(widget, toQt(component.property(prop)->asText()));
+      break;
+    case Prop::Picture:
+      if (!component.property(prop)->asText().empty()) {
+        widget.setProperty("picture", toQt(component.property(prop)->asText()));
+      }
+      break;
+    case Prop::Text:
+    case Prop::Index:
+    case Prop::Lines:
+      if (const auto* combo = dynamic_cast<const platform::ComboBox*>(&component)) {
+        showCombo(*combo, dynamic_cast<QComboBox&>(widget), prop == Prop::Lines);
+      } else if (auto* edit = qobject_cast<QLineEdit*>(&widget); edit != nullptr && prop == Prop::Text) {
+        const QString text = toQt(component.property(prop)->asText());
+        if (edit->text() != text) edit->setText(text);
+      }
+      break;
+    case Prop::Value:
+      if (auto* box = qobject_cast<QCheckBox*>(&widget)) {
+        const int value = static_cast<const platform::CheckBox&>(component).value;
+        box->setCheckState(value == 0 ? Qt::Unchecked : value == 1 ? Qt::Checked : Qt::PartiallyChecked);
+      } else if (auto* slider = qobject_cast<QAbstractSlider*>(&widget)) {
+        slider->setValue(static_cast<const platform::ScrollBar&>(component).value);
+      } else if (auto* progress = qobject_cast<QProgressBar*>(&widget)) {
+        progress->setValue(static_cast<const platform::ProgressBar&>(component).value);
+      }
+      break;
+    default:
+      break;
+  }
+}
+
+void Binder::recolour() {
+  for (auto entry = controls_.begin(); entry != controls_.end(); ++entry) {
+    auto* widget = qobject_cast<QWidget*>(const_cast<QObject*>(entry.key()));
+    if (widget != nullptr && !entry.value()->colour.get().automatic) showLook(*widget, *entry.value());
+  }
+}
+
+void Binder::tieMenus(platform::Form& form, QWidget& page) {
+  for (Component* component : form.components()) {
+    auto* item = dynamic_cast<platform::MenuItem*>(component);
+    if (item == nullptr) continue;
+    const bool holdsOthers =
+        std::any_of(form.components().begin(), form.components().end(), [&](Component* other) {
+          const auto* entry = dynamic_cast<platform::MenuItem*>(other);
+          return entry != nullptr && entry->parent() == item;
+        });
+    QAction* action = nullptr;
+    if (holdsOthers) {
+      auto* menu =
+          item->parent() == nullptr ? new QMenu(&page) : menus_.value(item->parent())->addMenu(QString());
+      menu->setObjectName(toQt(item->name()));
+      menus_.insert(item, menu);
+      action = menu->menuAction();
+    } else if (item->parent() != nullptr) {
+      action = menus_.value(item->parent())->addAction(QString());
+      action->setObjectName(toQt(item->name()));
+      connect(action, &QAction::triggered, this, [this, item] { run([item] { item->click(); }); });
+    } else {
+      continue;
+    }
+    const auto refresh = [action, item, menu = menus_.value(item)] {
+      action->setText(toQt(item->caption.get()).replace(QLatin1Char('&'), QLatin1String("&&")));
+      action->setVisible(item->visible);
+      action->setEnabled(item->enabled);
+      if (menu != nullptr) menu->setEnabled(item->enabled);
+    };
+    refresh();
+    item->watch([refresh](Component&, Prop) { refresh(); });
+    if (item->parent() == nullptr) {
+      QMenu* menu = menus_.value(item);
+      item->popUp.handle([this, menu, item] {
+        popUp(*menu);
+        if (poppedUp_) poppedUp_(*item);
+      });
+      const QList<QWidget*> openers = widgetsNamed(page, item->name());
+      for (QWidget* widget : openers) {
+        auto* button = qobject_cast<QPushButton*>(widget);
+        if (button == nullptr) continue;
+        button->setText(toQt(item->caption.get()));
+        connect(button, &QPushButton::clicked, this, [this, button, menu] {
+          pressed_ = button;
+          popUp(*menu);
+        });
+      }
+    }
+  }
+}
+
+void Binder::popUp(QMenu& menu) {
+  QPoint place = QCursor::pos();
+  if (pressed_ && qobject_cast<QAbstractButton*>(pressed_) != nullptr) {
+    // Under the button, and inside the window on its right.
+    place = pressed_->mapToGlobal(QPoint(0, pressed_->height() + dp(pressed_, 6)));
+    const QWidget* window = pressed_->window();
+    const int right = window->mapToGlobal(QPoint(window->width() - dp(window, 24), 0)).x();
+    place.setX(std::min(place.x(), right - menu.sizeHint().width()));
+  }
+  menu.popup(place);
+}
+
+bool Binder::eventFilter(QObject* watched, QEvent* event) {
+  Control* control = controls_.value(watched);
+  if (control == nullptr) return false;
+  auto* widget = static_cast<QWidget*>(watched);
+  switch (event->type()) {
+    case QEvent::MouseMove: {
+      // A widget that appears under a pointer at rest is not moved over.
+      const QPointF at = static_cast<QMouseEvent*>(event)->globalPosition();
+      if (at != pointer_ && control->hover.handled()) run([control] { control->hover(); });
+      pointer_ = at;
+      break;
+    }
+    case QEvent::MouseButtonPress:
+      pressed_ = widget;
+      if (static_cast<QMouseEvent*>(event)->button() == Qt::RightButton && control->alternate.handled()) {
+        run([control] { control->alternate(); });
+        return true;
+      }
+      break;
+    case QEvent::MouseButtonRelease: {
+      const auto* mouse = static_cast<QMouseEvent*>(event);
+      const bool clicks =
+          qobject_cast<QAbstractButton*>(widget) == nullptr && control->kind() != ControlKind::Grid;
+      if (clicks && mouse->button() == Qt::LeftButton && pressed_ == widget && control->click.handled() &&
+          control->kind() != ControlKind::ComboBox) {
+        run([control] { control->click(); });
+      }
+      break;
+    }
+    case QEvent::MouseButtonDblClick:
+      if (control->doubleClick.handled()) run([control] { control->doubleClick(); });
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+}  // namespace desktop

@@ -1,0 +1,86 @@
+#include "desktop/desktop_program.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <algorithm>
+
+#include "desktop/qt_text.h"
+
+namespace desktop {
+
+DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode mode)
+    : connection_("Ventoria"),
+      sound_(connection_, {.whileBlocking = [this] { repaint(); },
+                           .giveUp = [this] { return program_.loop().quitting(); },
+                           .onSpeaking =
+                               [this](const platform::SoundClip* clip) {
+                                 windows_.speak(clip != nullptr ? toQt(clip->spoken) : QString());
+                               }}),
+      dialogs_([this]() -> QWidget* { return &windows_.window(); }),
+      program_({clock_, sound_, dialogs_, files_, screenSaver_, media_}, {folder, VENTORIA_VERSION, {}}),
+      windows_(program_, mode) {
+  alarm_.setSingleShot(true);
+  alarm_.setTimerType(Qt::PreciseTimer);
+  connect(&alarm_, &QTimer::timeout, this, &DesktopProgram::serve);
+  program_.loop().onReschedule([this] { arm(); });
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+          &DesktopProgram::endWhenQuitting);
+  windows_.window().onClose([this] { askToClose(); });
+}
+
+bool DesktopProgram::start() {
+  windows_.window().show();
+  // Painted before the first prompt holds everything up.
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  if (!program_.start()) return false;
+  started_ = true;
+  arm();
+  return true;
+}
+
+void DesktopProgram::wake() {
+  QWidget& window = windows_.window();
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+void DesktopProgram::serve() {
+  program_.loop().serveEvents();
+  arm();
+}
+
+void DesktopProgram::arm() {
+  const platform::EventLoop& loop = program_.loop();
+  const std::optional<platform::Instant> due = loop.nextDue();
+  if (!started_ || loop.quitting() || !due) {
+    alarm_.stop();
+    return;
+  }
+  // A loop that is blocked serves nothing: looking again at once would only spin.
+  const platform::Instant wait = std::max(*due - clock_.now(), platform::Instant{loop.blocked() ? 10 : 0});
+  alarm_.start(wait);
+}
+
+void DesktopProgram::endWhenQuitting() {
+  if (program_.loop().quitting()) QCoreApplication::exit(0);
+}
+
+void DesktopProgram::askToClose() {
+  if (closing_) return;
+  closing_ = true;
+  windows_.binder().run([this] { program_.screens().main.Command4.click(); });
+}
+
+void DesktopProgram::repaint() {
+  windows_.refresh();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers |
+                                  QEventLoop::X11ExcludeTimers);
+  // What was held back meanwhile is handled once the sound has ended, also where no new event comes.
+  QTimer::singleShot(0, this, [this] {
+    if (!program_.loop().blocked()) QCoreApplication::processEvents();
+  });
+}
+
+}  // namespace desktop

@@ -1,0 +1,51 @@
+// The program on the desktop: its devices, its windows, and Qt's event loop driving the program's own.
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <string>
+
+#include "app/program.h"
+#include "desktop/dbus_screen_saver.h"
+#include "desktop/no_media.h"
+#include "desktop/pulse_connection.h"
+#include "desktop/pulse_sound_output.h"
+#include "desktop/qt_clock.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/windows.h"
+#include "platform/disk_file_system.h"
+
+namespace desktop {
+
+class DesktopProgram final : public QObject {
+  Q_OBJECT
+ public:
+  DesktopProgram(const std::string& folder, ThemeMode mode);
+
+  // Shows the window and starts the program; false where it cannot start.
+  [[nodiscard]] bool start();
+  // A second launch: the window comes to the front.
+  void wake();
+
+ private:
+  void serve();
+  void arm();
+  void endWhenQuitting();
+  void askToClose();
+  void repaint();
+
+  QtClock clock_;
+  PulseConnection connection_;
+  PulseSoundOutput sound_;
+  QtDialogs dialogs_;
+  platform::DiskFileSystem files_;
+  DbusScreenSaver screenSaver_;
+  NoMedia media_;
+  app::Program program_;
+  Windows windows_;
+  QTimer alarm_;
+  bool closing_ = false;
+  bool started_ = false;
+};
+
+}  // namespace desktop

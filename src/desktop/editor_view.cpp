@@ -1,0 +1,164 @@
+#include "desktop/editor_view.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+
+#include "desktop/qt_text.h"
+#include "desktop/theme.h"
+#include "model/grid_rows.h"
+#include "model/time_value.h"
+#include "ui_creer_cycle.h"
+
+namespace desktop {
+namespace {
+
+using model::EffortFamily;
+
+// The heads of the columns explain themselves by these buttons' tool tips, from the third column on.
+constexpr std::array<const char*, 14> headButtons{
+    "",           "",           "",           "MyButton14", "MyButton15", "MyButton16", "MyButton17",
+    "MyButton18", "MyButton19", "MyButton20", "MyButton21", "MyButton22", "MyButton23", "MyButton25"};
+
+QRect within(QRect rect, const QSize& room) {
+  rect.moveLeft(std::clamp(rect.left(), 0, std::max(0, room.width() - rect.width())));
+  rect.moveTop(std::clamp(rect.top(), 0, std::max(0, room.height() - rect.height())));
+  return rect;
+}
+
+}  // namespace
+
+EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
+    : form_(form), ui_(std::make_unique<Ui::CreerCycle>()) {
+  ui_->setupUi(&page);
+  for (auto* floating : std::initializer_list<QWidget*>{ui_->Navette, ui_->Combo1, ui_->Picture2,
+                                                        ui_->Combo13, ui_->Picture1}) {
+    floating->setParent(ui_->ListView1->viewport());
+  }
+  ui_->Navette->setAttribute(Qt::WA_TransparentForMouseEvents);
+  ui_->Picture1->setAttribute(Qt::WA_TransparentForMouseEvents);
+  ui_->Navette->setAttribute(Qt::WA_StyledBackground);
+  delete ui_->floats;
+  ui_->floats = nullptr;
+  ui_->calculatorPlace->raise();
+
+  ui_->ListView1->showGrid(form.ListView1, [&binder](auto action) { binder.run(std::move(action)); });
+  ui_->ListView1->setHeaderTip([this](int column) { return headerTip(column); });
+  connect(ui_->ListView1, &GridTable::layoutMoved, this, &EditorView::placeFloating);
+  connect(ui_->ListView1->gridModel(), &GridModel::contentChanged, this, &EditorView::refreshProfile);
+  connect(ui_->ListView1->gridModel(), &GridModel::selectionMoved, ui_->editorProfile,
+          &SessionProfile::selectRow);
+  connect(ui_->editorProfile, &SessionProfile::rowPressed, this, [this, &binder](int row) {
+    binder.run([this, row] {
+      form_.ListView1.select(row);
+      form_.ListView1.reveal(row);
+    });
+  });
+  ui_->editorProfile->setClickable(true);
+
+  pending_.setSingleShot(true);
+  pending_.setInterval(0);
+  connect(&pending_, &QTimer::timeout, this, &EditorView::refresh);
+  for (platform::Component* component : form.components()) {
+    component->watch([this](platform::Component&, platform::Prop) {
+      if (!pending_.isActive()) pending_.start();
+    });
+  }
+  speak({});
+}
+
+EditorView::~EditorView() = default;
+
+void EditorView::speak(const QString& text) {
+  ui_->editorPrompt->setText(text.isEmpty() ? QString() : QStringLiteral("« ") + text + QStringLiteral(" »"));
+  ui_->editorPrompt->setVisible(!text.isEmpty());
+}
+
+void EditorView::rescale() {
+  ui_->ListView1->rescale();
+  placeFloating();
+}
+
+void EditorView::setListMode(bool whole) {
+  wholeList_ = whole;
+  ui_->profileCard->setVisible(!whole);
+}
+
+void EditorView::refresh() {
+  pending_.stop();
+  ui_->ListView1->gridModel()->flush();
+  ui_->calculatorPlace->setVisible(form_.Picture8.visible);
+  ui_->filmsBox->setVisible(!form_.Combo6.lines().empty());
+  refreshProfile();
+  refreshCalculator();
+  placeFloating();
+}
+
+void EditorView::placeFloating() {
+  const GridTable& table = *ui_->ListView1;
+  const QSize room = table.viewport()->size();
+  const int row = form_.ListView1.selectedRow();
+  const QRect cell = table.cellRect(row, table.pressedColumn());
+  const auto put = [&](QWidget& widget, const QRect& over, int least) {
+    QSize size(std::max(over.width(), least), std::max(over.height(), widget.minimumSizeHint().height()));
+    QRect place(QPoint(0, 0), size);
+    place.moveCenter(over.center());
+    widget.setGeometry(within(place, room));
+    widget.raise();
+  };
+  // A grid that is not on the screen yet has no cells to lay anything over.
+  if (!cell.isNull()) put(*ui_->Combo1, cell, dp(&table, 150));
+  const QRect duration = table.cellRect(row, model::column::duration);
+  if (!duration.isNull()) put(*ui_->Picture2, duration, ui_->Picture2->sizeHint().width());
+  const QRect method = table.cellRect(1, model::column::heartRate);
+  if (!method.isNull()) put(*ui_->Combo13, method, dp(&table, 240));
+  const QRect badge = table.cellRect(table.pressedRow(), table.pressedColumn());
+  if (!badge.isNull()) put(*ui_->Picture1, badge, ui_->Picture1->sizeHint().width());
+  const QRect pointed = table.cellRect(form_.ListView1.pointedRow(), form_.ListView1.pointedColumn());
+  if (!pointed.isNull()) ui_->Navette->setGeometry(pointed.adjusted(1, 1, -1, -1));
+}
+
+void EditorView::refreshProfile() {
+  const platform::Grid& grid = form_.ListView1;
+  std::vector<ProfileStep> steps;
+  for (int row = 2; row <= grid.rowCount(); ++row) {
+    if (!model::isSequence(grid, row)) continue;
+    steps.push_back({grid.text(row, model::column::sequence),
+                     model::parseSeconds(grid.text(row, model::column::duration)).value_or(0),
+                     grid.text(row, model::column::heartRate), row});
+  }
+  ui_->editorProfile->setSteps(std::move(steps));
+  ui_->editorProfile->selectRow(grid.selectedRow());
+  ui_->totalTime->setText(toQt(grid.text(1, model::column::duration)));
+}
+
+void EditorView::refreshCalculator() {
+  struct Row {
+    QWidget* row;
+    const platform::Control* control;
+  };
+  for (const Row& input : {Row{ui_->ageRow, &form_.Combo7}, Row{ui_->sexRow, &form_.Combo10},
+                           Row{ui_->maxRow, &form_.Combo11}, Row{ui_->restRow, &form_.Combo12}}) {
+    input.row->setVisible(input.control->visible);
+  }
+  struct Band {
+    ZoneBand* band;
+    const platform::Label* label;
+    EffortFamily family;
+  };
+  for (const Band& zone : {Band{ui_->band50, &form_.Label50, EffortFamily::Endurance},
+                           Band{ui_->band52, &form_.Label52, EffortFamily::Recovery},
+                           Band{ui_->band53, &form_.Label53, EffortFamily::Warmth},
+                           Band{ui_->band54, &form_.Label54, EffortFamily::Strength},
+                           Band{ui_->band55, &form_.Label55, EffortFamily::Speed}}) {
+    zone.band->show(toQt(zone.label->caption.get()), familyColour(ui_->ListView1->palette(), zone.family));
+  }
+}
+
+QString EditorView::headerTip(int column) const {
+  if (column < 3 || column >= static_cast<int>(headButtons.size())) return {};
+  const auto& button = form_.find(headButtons.at(static_cast<std::size_t>(column)));
+  return toQt(static_cast<const platform::Control&>(button).toolTip.get());
+}
+
+}  // namespace desktop

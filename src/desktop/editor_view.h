@@ -1,0 +1,42 @@
+// What the session editor draws beside its controls: the cell editors over the grid, the session's profile
+// and its total, the coloured bands of the heart-rate calculator. It only reads the form.
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <memory>
+
+#include "desktop/binder.h"
+#include "forms/creer_cycle.h"
+
+namespace Ui {
+class CreerCycle;
+}
+
+namespace desktop {
+
+class EditorView final : public QObject {
+  Q_OBJECT
+ public:
+  EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder);
+  ~EditorView() override;
+  void speak(const QString& text);
+  void refresh();
+  // The window has another scale.
+  void rescale();
+  // The list alone, without the profile.
+  void setListMode(bool whole);
+
+ private:
+  void placeFloating();
+  void refreshProfile();
+  void refreshCalculator();
+  [[nodiscard]] QString headerTip(int column) const;
+
+  forms::CreerCycle& form_;
+  std::unique_ptr<Ui::CreerCycle> ui_;
+  QTimer pending_;
+  bool wholeList_ = false;
+};
+
+}  // namespace desktop

@@ -1,0 +1,87 @@
+#include "desktop/fit_label.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "desktop/theme.h"
+
+namespace desktop {
+namespace {
+
+constexpr int smallest = 14;
+
+bool allDigits(const QString& text) {
+  return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+}
+
+}  // namespace
+
+FitLabel::FitLabel(QWidget* parent) : QWidget(parent) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+}
+
+void FitLabel::setText(const QString& text) {
+  if (text_ == text) return;
+  text_ = text;
+  setAccessibleDescription(unit_.isEmpty() ? text : text + QLatin1Char(' ') + unit_);
+  update();
+}
+
+QSize FitLabel::sizeHint() const {
+  return {dp(this, px_), QFontMetrics(numberFont(this, px_)).height()};
+}
+
+QSize FitLabel::minimumSizeHint() const {
+  return {dp(this, 40), dp(this, std::min(px_, 40))};
+}
+
+QFont FitLabel::fitted(const QRect& into) const {
+  for (int px = px_; px > smallest; px -= 2) {
+    QFont font = numberFont(this, px);
+    const QRect needed = QFontMetrics(font).boundingRect(into, Qt::TextWordWrap, text_);
+    // A text that must wrap is wanted smaller: the first size at which two lines fit, too.
+    if (needed.width() <= into.width() && needed.height() <= into.height()) return font;
+  }
+  return numberFont(this, smallest);
+}
+
+void FitLabel::paintEvent(QPaintEvent*) {
+  if (text_.isEmpty()) return;
+  QPainter painter(this);
+  const QFont unitFont = sansFont(this, 20);
+  const QString unit = unit_.isEmpty() ? QString() : QStringLiteral(" ") + unit_;
+  const int unitWidth = unit.isEmpty() ? 0 : QFontMetrics(unitFont).horizontalAdvance(unit) + dp(this, 6);
+  const QRect place = rect().adjusted(0, 0, -unitWidth, 0);
+  painter.setFont(fitted(place));
+  painter.setPen(palette().color(tone_ == QLatin1String("wrong")    ? role::wrong
+                                 : tone_ == QLatin1String("second") ? role::second
+                                                                    : role::text));
+  QRect drawn;
+  painter.drawText(place, (centred_ ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextWordWrap,
+                   text_, &drawn);
+  if (unit.isEmpty()) return;
+  const int baseline = drawn.bottom() - painter.fontMetrics().descent();
+  painter.setFont(unitFont);
+  painter.setPen(palette().color(role::second));
+  painter.drawText(drawn.right() + dp(this, 6), baseline, unit);
+}
+
+HeartTarget::HeartTarget(QWidget* parent) : FitLabel(parent) {
+  setPx(58);
+}
+
+void HeartTarget::setPointSize(int points) {
+  pointSize_ = points;
+  update();
+}
+
+void HeartTarget::paintEvent(QPaintEvent* event) {
+  const bool message = pointSize_ == 18;
+  const bool beats = !message && allDigits(text()) && text() != QLatin1String("000");
+  setPx(message ? 26 : 58);
+  setTone(message ? QStringLiteral("second") : QStringLiteral("wrong"));
+  setUnit(beats ? QStringLiteral("bpm") : QString());
+  FitLabel::paintEvent(event);
+}
+
+}  // namespace desktop

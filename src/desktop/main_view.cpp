@@ -1,0 +1,168 @@
+#include "desktop/main_view.h"
+
+#include <QStyle>
+
+#include "desktop/qt_text.h"
+#include "desktop/theme.h"
+#include "model/vocabulary.h"
+#include "ui_main_form.h"
+
+namespace desktop {
+namespace {
+
+std::size_t at(int row) {
+  return static_cast<std::size_t>(row);
+}
+
+void keepPlace(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+}
+
+void setLook(QWidget& widget, const QString& look) {
+  if (widget.property("look").toString() == look) return;
+  widget.setProperty("look", look);
+  widget.style()->unpolish(&widget);
+  widget.style()->polish(&widget);
+}
+
+// Whether anything but the marks of "nothing" stands there.
+bool says(const std::string& text) {
+  return !text.empty() && text != " " && text != model::noMeaning;
+}
+
+}  // namespace
+
+MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidget& page)
+    : form_(form), state_(state), page_(page), ui_(std::make_unique<Ui::MainForm>()) {
+  ui_->setupUi(&page);
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1, ui_->Label2,
+                                       ui_->Label3, ui_->sequenceBar, ui_->kindChip}) {
+    keepPlace(*widget);
+  }
+  // The panel takes the pointer as one; what it holds only shows.
+  for (auto* inside : ui_->Picture6->findChildren<QWidget*>()) {
+    if (inside->objectName() != QLatin1String("Label40"))
+      inside->setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+  ui_->Picture6->raise();
+  ui_->banner->raise();
+  ui_->banner->setAutoFillBackground(true);
+  ui_->nextText->setTextFormat(Qt::RichText);
+  ui_->firstText->setTextFormat(Qt::RichText);
+  pending_.setSingleShot(true);
+  pending_.setInterval(0);
+  connect(&pending_, &QTimer::timeout, this, &MainView::refresh);
+  for (platform::Component* component : form.components()) {
+    component->watch([this](platform::Component&, platform::Prop) {
+      if (!pending_.isActive()) pending_.start();
+    });
+  }
+  speak({});
+}
+
+MainView::~MainView() = default;
+
+void MainView::speak(const QString& text) {
+  const QString shown = text.isEmpty() ? QString() : QStringLiteral("« ") + text + QStringLiteral(" »");
+  for (QLabel* label : {ui_->ridePrompt, ui_->countdownPrompt, ui_->settingsPrompt}) label->setText(shown);
+}
+
+void MainView::refresh() {
+  pending_.stop();
+  refreshPages();
+  refreshRide();
+  refreshCards();
+  refreshProfile();
+  refreshCountdown();
+}
+
+void MainView::refreshPages() {
+  const bool settings = form_.Picture1.visible;
+  ui_->countdownPage->setVisible(form_.MyFrame2.visible && !settings);
+  ui_->ridePage->setVisible(!form_.MyFrame2.visible && !settings);
+  ui_->timeBoxes->setVisible(form_.Combo1.visible || form_.Combo2.visible || form_.Combo3.visible);
+  const bool volumeKnown =
+      !form_.Label36.caption.get().empty() || form_.Label38.caption != "Volume Actuel ()";
+  ui_->volumeBox->setVisible(volumeKnown);
+  // What leads on stands out: the start where a duration stands, else the way to the sessions.
+  const bool startable = form_.MyButton1.enabled && form_.MyButton1.caption == "Start";
+  setLook(*ui_->MyButton1, startable ? QStringLiteral("primary") : QString());
+  setLook(*ui_->MyButton5, form_.MyButton1.enabled ? QString() : QStringLiteral("primary"));
+}
+
+void MainView::refreshRide() {
+  const model::EffortFamily family = model::effortFamily(form_.Label11.caption.get());
+  ui_->kindChip->setVisible(form_.Label11.visible);
+  ui_->kindChip->show(family, form_.Label11.visible);
+  ui_->sequenceBar->setVisible(riding());
+  ui_->sequenceBar->show(family, state_.dureeSequence > 0 ? state_.ecouleSequence / state_.dureeSequence : 0);
+  // A message of the start or the end; in a ride the same label says in its card that there is no target.
+  const bool message = form_.Label44.visible && form_.Label44.size == 18 && !riding();
+  ui_->banner->setText(message ? toQt(form_.Label44.caption.get()) : QString());
+  ui_->banner->setVisible(message);
+}
+
+void MainView::refreshCards() {
+  const bool gear = form_.Label15.visible || form_.Label20.visible || form_.Label39.visible;
+  ui_->cadenceCard->setVisible(form_.Label10.visible);
+  ui_->gearCard->setVisible(gear);
+  ui_->gearCross->setVisible(form_.Label15.visible && form_.Label20.visible && says(form_.Label15.caption) &&
+                             says(form_.Label20.caption));
+  ui_->targetCard->setVisible(form_.Label44.visible && riding());
+}
+
+int MainView::nextRow() const {
+  if (state_.sequenceCourante < state_.nbSequences) return state_.sequenceCourante + 1;
+  return state_.seanceCourante < state_.nbSeances ? 1 : 0;
+}
+
+QString MainView::describe(int row) const {
+  const model::RunPlan& plan = state_.plan;
+  const QString kind = toQt(plan.planSequence[at(row)]).toHtmlEscaped();
+  QStringList facts{QStringLiteral("<span style=\"color:%1;font-weight:700\">%2</span>")
+                        .arg(page_.palette().color(role::text).name(), kind)};
+  if (plan.planSequence[at(row)] != model::vocalAnnouncement) {
+    facts << toQt(plan.planDuree[at(row)]).toHtmlEscaped();
+    if (says(plan.planCadence[at(row)])) {
+      facts << toQt(plan.planCadence[at(row)]).toHtmlEscaped() + QStringLiteral(" tr/min");
+    }
+    QStringList gears;
+    for (const std::string& gear : {plan.planPlateau[at(row)], plan.planBraquet[at(row)]}) {
+      if (says(gear)) gears << toQt(gear).toHtmlEscaped();
+    }
+    if (!gears.isEmpty()) facts << gears.join(QStringLiteral(" × "));
+  }
+  return facts.join(QStringLiteral(" · "));
+}
+
+void MainView::refreshProfile() {
+  std::vector<ProfileStep> steps;
+  const bool planned = state_.nbSequences > 0 && at(state_.nbSequences) < state_.plan.planSequence.size();
+  for (int row = 1; planned && row <= state_.nbSequences; ++row) {
+    steps.push_back({state_.plan.planSequence[at(row)],
+                     model::parseSeconds(state_.plan.planDuree[at(row)]).value_or(0),
+                     state_.plan.planFreqCard[at(row)], row});
+  }
+  ui_->countdownProfile->setSteps(steps);
+  ui_->rideProfile->setSteps(std::move(steps));
+  ui_->rideProfile->setPlace(state_.sequenceCourante - 1, state_.ecouleSequence * 86400);
+  ui_->rideProfile->setVisible(planned);
+  ui_->countdownProfile->setVisible(planned);
+
+  const int next = planned && riding() ? nextRow() : 0;
+  ui_->nextWord->setText(next > 0 ? QStringLiteral("Ensuite :") : QString());
+  ui_->nextChip->setVisible(next > 0);
+  if (next > 0) ui_->nextChip->show(model::effortFamily(state_.plan.planSequence[at(next)]));
+  ui_->nextText->setText(next > 0 ? describe(next) : QString());
+}
+
+void MainView::refreshCountdown() {
+  ui_->Label9->setTotal(form_.Combo5.text.get().empty() ? 16 : toQt(form_.Combo5.text.get()).toInt());
+  const bool planned = ui_->countdownProfile->steps().size() > 0;
+  ui_->firstText->setText(planned ? QStringLiteral("D'abord : ") + describe(1) : QString());
+}
+
+}  // namespace desktop

@@ -1,0 +1,47 @@
+// What the main screen draws beside its controls: which page covers which, the colour of the present effort,
+// the line of what comes next, the profile, the spoken text. It only reads the forms and the shared state.
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <memory>
+#include <vector>
+
+#include "desktop/effort_views.h"
+#include "forms/main_form.h"
+#include "model/shared_state.h"
+
+namespace Ui {
+class MainForm;
+}
+
+namespace desktop {
+
+class MainView final : public QObject {
+  Q_OBJECT
+ public:
+  MainView(forms::MainForm& form, const model::SharedState& state, QWidget& page);
+  ~MainView() override;
+  // The text that the voice is speaking; empty for silence.
+  void speak(const QString& text);
+  void refresh();
+
+ private:
+  void refreshPages();
+  void refreshRide();
+  void refreshCards();
+  void refreshProfile();
+  void refreshCountdown();
+  [[nodiscard]] bool riding() const { return state_.sequenceCourante > 0; }
+  [[nodiscard]] QString describe(int row) const;
+  [[nodiscard]] int nextRow() const;
+
+  forms::MainForm& form_;
+  const model::SharedState& state_;
+  QWidget& page_;
+  std::unique_ptr<Ui::MainForm> ui_;
+  QTimer pending_;
+};
+
+}  // namespace desktop

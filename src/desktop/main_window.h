@@ -1,0 +1,39 @@
+// The one window: it shows a page at a time, and everything in it grows with it.
+#pragma once
+
+#include <QMainWindow>
+#include <QStackedWidget>
+#include <functional>
+
+#include "desktop/theme.h"
+
+namespace desktop {
+
+class MainWindow final : public QMainWindow {
+  Q_OBJECT
+ public:
+  explicit MainWindow(ThemeMode mode);
+
+  void addPage(QWidget* page);
+  void showPage(QWidget* page);
+  void setTheme(ThemeMode mode);
+  // The rider wants to close the window; it closes by itself only where nobody is asked.
+  void onClose(std::function<void()> asked) { closeAsked_ = std::move(asked); }
+
+ signals:
+  void rescaled();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void restyle();
+
+  QStackedWidget pages_;
+  ThemeMode mode_;
+  double scale_ = 0;
+  std::function<void()> closeAsked_;
+};
+
+}  // namespace desktop

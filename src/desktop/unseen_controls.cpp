@@ -1,0 +1,62 @@
+#include "desktop/unseen_controls.h"
+
+#include <array>
+
+namespace desktop {
+namespace {
+
+constexpr std::string_view readOut = "a hidden read-out of the row in hand";
+constexpr std::string_view helper = "a hidden helper that only lists files";
+constexpr std::string_view films = "Label20 and Image7 open the films already";
+constexpr std::string_view columnHead = "the grid's header shows its tool tip over the column";
+constexpr std::string_view neverShown = "hidden from the start, and nothing ever shows it";
+
+constexpr std::array<UnseenControl, 39> table{{
+    {"MainForm", "MyFrame4", neverShown},
+    {"MainForm", "Image19", neverShown},
+    {"MainForm", "Image2", neverShown},
+    {"MainForm", "Label12", "the remark is always empty"},
+    {"MainForm", "Combo4", "never filled, and never shown"},
+    {"MainForm", "Combo6", "never filled, and never shown"},
+    {"CreerCycle", "File1", helper},
+    {"CreerCycle", "File2", helper},
+    {"CreerCycle", "File3", helper},
+    {"CreerCycle", "Label7", readOut},
+    {"CreerCycle", "Label10", readOut},
+    {"CreerCycle", "Label11", readOut},
+    {"CreerCycle", "Label12", readOut},
+    {"CreerCycle", "Label15", readOut},
+    {"CreerCycle", "Label16", readOut},
+    {"CreerCycle", "Label17", readOut},
+    {"CreerCycle", "Label18", readOut},
+    {"CreerCycle", "Label32", readOut},
+    {"CreerCycle", "Label29", "a hidden read-out of the cell under the pointer"},
+    {"CreerCycle", "Picture5", neverShown},
+    {"CreerCycle", "Command1", neverShown},
+    {"CreerCycle", "Image1", films},
+    {"CreerCycle", "Image6", films},
+    {"CreerCycle", "MyButton14", columnHead},
+    {"CreerCycle", "MyButton15", columnHead},
+    {"CreerCycle", "MyButton16", columnHead},
+    {"CreerCycle", "MyButton17", columnHead},
+    {"CreerCycle", "MyButton18", columnHead},
+    {"CreerCycle", "MyButton19", columnHead},
+    {"CreerCycle", "MyButton20", columnHead},
+    {"CreerCycle", "MyButton21", columnHead},
+    {"CreerCycle", "MyButton22", columnHead},
+    {"CreerCycle", "MyButton23", columnHead},
+    {"CreerCycle", "Combo9", neverShown},
+    {"CreerCycle", "Label58", neverShown},
+    {"CreerCycle", "Label49", neverShown},
+    {"CreerCycle", "Label51", neverShown},
+    {"CreerCycle", "MyButton27", neverShown},
+    {"CreerCycle", "MyButton29", neverShown},
+}};
+
+}  // namespace
+
+std::span<const UnseenControl> unseenControls() {
+  return table;
+}
+
+}  // namespace desktop

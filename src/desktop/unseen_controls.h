@@ -1,0 +1,17 @@
+// The controls that no widget shows, each with its reason. Timers need no entry.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace desktop {
+
+struct UnseenControl {
+  std::string_view form;
+  std::string_view control;
+  std::string_view reason;
+};
+
+[[nodiscard]] std::span<const UnseenControl> unseenControls();
+
+}  // namespace desktop

@@ -1,0 +1,87 @@
+// ventoria-stage: the console's commands over the desktop's real windows, with the console's simulated
+// devices and clock, and pictures of what stands there.
+#include <QApplication>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <optional>
+
+#include "console/names.h"
+#include "console/session.h"
+#include "desktop/qt_text.h"
+#include "desktop/theme.h"
+#include "desktop/windows.h"
+#include "platform/program_folder.h"
+#include "stage/widget_hands.h"
+
+namespace {
+
+struct StageOptions {
+  console::Options console;
+  desktop::ThemeMode theme = desktop::ThemeMode::Dark;
+  QSize size{1280, 800};
+};
+
+// Takes the stage's own options out of the console's.
+StageOptions parse(std::vector<std::string> words) {
+  StageOptions options;
+  const auto take = [&](const char* name) -> std::optional<std::string> {
+    const auto found = std::find(words.begin(), words.end(), name);
+    if (found == words.end() || found + 1 == words.end()) return std::nullopt;
+    const std::string value = *(found + 1);
+    words.erase(found, found + 2);
+    return value;
+  };
+  if (const auto theme = take("--theme"); theme == "light") options.theme = desktop::ThemeMode::Light;
+  if (const auto size = take("--size")) {
+    const QStringList sides = desktop::toQt(*size).split(QLatin1Char('x'));
+    if (sides.size() == 2) options.size = QSize(sides[0].toInt(), sides[1].toInt());
+  }
+  options.console = console::parseOptions(words);
+  return options;
+}
+
+void capture(desktop::Windows& windows, const platform::Form& form, const std::string& path) {
+  if (windows.page(form) == nullptr) throw console::CommandError(form.name() + " has no window");
+  windows.refresh();
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  if (!windows.window().grab().save(desktop::toQt(path))) throw console::CommandError("cannot write " + path);
+}
+
+int run(const StageOptions& options) {
+  std::ifstream script;
+  if (!options.console.script.empty()) {
+    script.open(options.console.script);
+    if (!script.is_open()) throw console::UsageError("cannot open " + options.console.script);
+  }
+  const std::string folder =
+      options.console.folder.empty() ? platform::programFolder() : options.console.folder;
+  stage::WidgetHands hands;
+  console::Session session(options.console, std::filesystem::absolute(folder).lexically_normal().string(),
+                           std::cout, &hands);
+  desktop::Windows windows(session.program(), options.theme);
+  hands.attach(windows);
+  windows.binder().onPopUp([&](const platform::MenuItem& root) { session.interpreter().menuOpened(root); });
+  session.interpreter().add("capture", [&](console::Arguments& arguments) {
+    const std::string name = arguments.word("FORM");
+    capture(windows, console::findForm(session.program().screens(), name), arguments.text());
+  });
+  windows.window().resize(options.size);
+  windows.window().show();
+  QCoreApplication::processEvents();
+  return session.run(script.is_open() ? script : std::cin, std::cerr);
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  QApplication application(count, words);
+  try {
+    const StageOptions options = parse({words + 1, words + count});
+    desktop::applyTheme(options.theme);
+    return run(options);
+  } catch (const std::exception& error) {
+    std::cerr << "ventoria-stage: " << error.what() << '\n';
+    return 2;
+  }
+}
