@@ -1,0 +1,25 @@
+// The program's own level, which is only a journal.
+#pragma once
+
+#include <cstdio>
+
+#include "console/journal.h"
+#include "platform/output_level.h"
+
+namespace console {
+
+class SimulatedOutputLevel final : public platform::OutputLevel {
+ public:
+  explicit SimulatedOutputLevel(Journal& journal) : journal_(journal) {}
+
+  void set(std::uint16_t left, std::uint16_t right) override {
+    char text[16];
+    std::snprintf(text, sizeof text, "%04X %04X", unsigned{left}, unsigned{right});
+    journal_.write("level", {text});
+  }
+
+ private:
+  Journal& journal_;
+};
+
+}  // namespace console

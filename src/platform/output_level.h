@@ -1,0 +1,15 @@
+// How loud this program alone sounds, left and right, whatever the machine's volume.
+#pragma once
+
+#include <cstdint>
+
+namespace platform {
+
+class OutputLevel {
+ public:
+  virtual ~OutputLevel() = default;
+  // 0 is silence, 0xFFFF all there is. Called ten times a second, mostly with what was set already.
+  virtual void set(std::uint16_t left, std::uint16_t right) = 0;
+};
+
+}  // namespace platform
