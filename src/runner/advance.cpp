@@ -12,15 +12,15 @@ Advance::Advance(const voice::Toolbox& tools, const Reset& reset)
 
 void Advance::avancerSequence() {
   if (state_.nbSequences == 0) return;
-  // A boundary can come up inside the waits of the one before it: each knows its own beginning.
-  const std::uint64_t outer = cancelsBefore_;
-  cancelsBefore_ = reset_.cancels();
+  // A boundary can come up inside the waits of the one before it, which then has nothing more to say.
+  const Beginning outer = beginning_;
+  beginning_ = {reset_.cancels(), ++boundaries_};
   try {
     crossBoundary();
-  } catch (const Cancelled&) {
-    // The cancel has put everything to rest.
+  } catch (const Overtaken&) {
+    // The cancel has put everything to rest, or the later boundary has said what there is to say.
   }
-  cancelsBefore_ = outer;
+  beginning_ = outer;
 }
 
 void Advance::crossBoundary() {
@@ -202,12 +202,12 @@ bool Advance::isAnnouncement() const {
 
 void Advance::pause() {
   tools_.voice.attendre(1);
-  leaveIfCancelled();
+  leaveIfOvertaken();
 }
 
 void Advance::hold() {
   tools_.voice.retenirMusique();
-  leaveIfCancelled();
+  leaveIfOvertaken();
 }
 
 void Advance::sayHolding(const std::string& name) {
@@ -218,8 +218,9 @@ void Advance::sayHolding(const std::string& name) {
   tools_.voice.relacherMusique();
 }
 
-void Advance::leaveIfCancelled() const {
-  if (reset_.cancels() != cancelsBefore_ || tools_.loop.quitting()) throw Cancelled{};
+void Advance::leaveIfOvertaken() const {
+  const bool overtaken = reset_.cancels() != beginning_.cancels || boundaries_ != beginning_.boundary;
+  if (overtaken || tools_.loop.quitting()) throw Overtaken{};
 }
 
 }  // namespace runner

@@ -14,8 +14,12 @@ class Advance {
   void avancerSequence();
 
  private:
-  // The rider cancelled during one of the waits: nothing more of the boundary is to be done.
-  struct Cancelled {};
+  // The rider cancelled during one of the waits, or the next boundary came: nothing more is to be done.
+  struct Overtaken {};
+  struct Beginning {
+    std::uint64_t cancels = 0;
+    std::uint64_t boundary = 0;
+  };
 
   void crossBoundary();
   void choosePass();
@@ -34,17 +38,18 @@ class Advance {
   void sayChainring();
 
   [[nodiscard]] bool isAnnouncement() const;
-  // The voice's waits, cut short by a cancel.
+  // The voice's waits, after which the boundary may be overtaken.
   void pause();
   void hold();
   void sayHolding(const std::string& name);
-  void leaveIfCancelled() const;
+  void leaveIfOvertaken() const;
 
   voice::Toolbox tools_;
   const Reset& reset_;
   forms::MainForm& main_;
   model::SharedState& state_;
-  std::uint64_t cancelsBefore_ = 0;
+  std::uint64_t boundaries_ = 0;
+  Beginning beginning_;
 };
 
 }  // namespace runner
