@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/qt_text.h"
+#include "platform/documents_folder.h"
 
 namespace desktop {
 
@@ -17,7 +18,9 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode mode)
                                  windows_.speak(clip != nullptr ? toQt(clip->spoken) : QString());
                                }}),
       dialogs_([this]() -> QWidget* { return &windows_.window(); }),
-      program_({clock_, sound_, dialogs_, files_, screenSaver_, media_}, {folder, VENTORIA_VERSION, {}}),
+      level_(connection_),
+      program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_},
+               {folder, VENTORIA_VERSION, {}, platform::documentsFolder()}),
       windows_(program_, mode) {
   alarm_.setSingleShot(true);
   alarm_.setTimerType(Qt::PreciseTimer);
@@ -44,6 +47,20 @@ void DesktopProgram::wake() {
   window.show();
   window.raise();
   window.activateWindow();
+}
+
+void DesktopProgram::addSession(const std::string& path) {
+  if (program_.loop().blocked()) {
+    QTimer::singleShot(100, this, [this, path] { addSession(path); });
+    return;
+  }
+  windows_.binder().run([this, &path] {
+    forms::Screens& screens = program_.screens();
+    const forms::MainForm& main = screens.main;
+    const bool riding = main.Timer1.enabled || main.Timer2.enabled || main.Command7.caption != "Pause";
+    if (main.visible && !riding) main.MyButton5.click();
+    screens.editor.sessionHandedIn(path);
+  });
 }
 
 void DesktopProgram::serve() {

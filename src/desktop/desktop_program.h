@@ -9,9 +9,11 @@
 #include "desktop/dbus_screen_saver.h"
 #include "desktop/no_media.h"
 #include "desktop/pulse_connection.h"
+#include "desktop/pulse_output_level.h"
 #include "desktop/pulse_sound_output.h"
 #include "desktop/qt_clock.h"
 #include "desktop/qt_dialogs.h"
+#include "desktop/qt_shell.h"
 #include "desktop/windows.h"
 #include "platform/disk_file_system.h"
 
@@ -26,6 +28,8 @@ class DesktopProgram final : public QObject {
   [[nodiscard]] bool start();
   // A second launch: the window comes to the front.
   void wake();
+  // A session file opened in the file manager: goes to the editor's list. A ride under way goes on.
+  void addSession(const std::string& path);
 
  private:
   void serve();
@@ -41,6 +45,8 @@ class DesktopProgram final : public QObject {
   platform::DiskFileSystem files_;
   DbusScreenSaver screenSaver_;
   NoMedia media_;
+  PulseOutputLevel level_;
+  QtShell shell_;
   app::Program program_;
   Windows windows_;
   QTimer alarm_;

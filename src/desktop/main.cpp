@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <filesystem>
@@ -47,18 +48,25 @@ int main(int count, char** words) {
   const QCommandLineOption themeOption(QStringLiteral("theme"), QStringLiteral("Couleurs : dark ou light."),
                                        QStringLiteral("couleurs"));
   parser.addOptions({folderOption, themeOption});
+  parser.addPositionalArgument(QStringLiteral("séance"), QStringLiteral("Fichier .tq2 à ajouter à la liste."),
+                               QStringLiteral("[séance]"));
   parser.process(application);
 
   const std::string asked = desktop::fromQt(parser.value(folderOption));
   const std::string folder = std::filesystem::absolute(asked.empty() ? platform::programFolder() : asked)
                                  .lexically_normal()
                                  .string();
+  const QString session = parser.positionalArguments().isEmpty()
+                              ? QString()
+                              : QFileInfo(parser.positionalArguments().constFirst()).absoluteFilePath();
   desktop::DesktopProgram* running = nullptr;
-  const desktop::SingleInstance instance(desktop::toQt(folder), [&running](const QString&) {
-    if (running != nullptr) running->wake();
+  const desktop::SingleInstance instance(desktop::toQt(folder), [&running](const QString& path) {
+    if (running == nullptr) return;
+    running->wake();
+    if (!path.isEmpty()) running->addSession(desktop::fromQt(path));
   });
   if (!instance.first()) {
-    instance.wakeFirst();
+    instance.wakeFirst(session);
     return 0;
   }
 
@@ -67,5 +75,6 @@ int main(int count, char** words) {
   desktop::DesktopProgram program(folder, mode);
   running = &program;
   if (!program.start()) return 1;
+  if (!session.isEmpty()) program.addSession(desktop::fromQt(session));
   return QApplication::exec();
 }

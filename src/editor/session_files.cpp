@@ -36,6 +36,10 @@ SessionFiles::SessionFiles(const voice::Toolbox& tools, Lines& lines)
     addByCaption();
   });
   form_.Command6.click.handle([this] { enregistrerListe(); });
+  form_.sessionHandedIn.handle([this](const std::string& path) {
+    prepareAddition();
+    add(path);
+  });
 }
 
 void SessionFiles::addByCaption() {
@@ -46,21 +50,29 @@ void SessionFiles::addByCaption() {
   }
 }
 
-void SessionFiles::ajouterUneSeance() {
+void SessionFiles::prepareAddition() {
   lines_.preambule();
   recalerColonnes(form_);
   form_.Label7.caption = "00:00:00";
+}
+
+void SessionFiles::ajouterUneSeance() {
+  prepareAddition();
   const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
       {platform::FilePurpose::Open, "Ouvrir", state_.dossierSeances, sessionFilter, ""});
   if (chosen.empty() || chosen.front().empty()) return;
-  const std::optional<std::string> name = model::sessionName(chosen.front());
+  add(chosen.front());
+}
+
+void SessionFiles::add(const std::string& chosen) {
+  const std::optional<std::string> name = model::sessionName(chosen);
   if (!name) return;
   state_.seanceTitre = *name;
   form_.Label8.caption = "Dernière Séance Ajoutée (" + *name + ")";
   // The duration is that of the last hand-over, not of what is being added.
   main_.MyFrame1.caption =
       "Ventoria avec (" + *name + ") (Durée : " + model::formatTime(state_.dureeTotale) + ")";
-  const std::optional<std::string> path = presentVersion(chosen.front());
+  const std::optional<std::string> path = presentVersion(chosen);
   if (!path) return;
   model::ajouterSeance(tools_.outside.files, *path, form_.ListView1);
   form_.Timer4.enabled = true;

@@ -17,6 +17,8 @@ class SessionFiles {
   void enregistrerListe();
 
  private:
+  void prepareAddition();
+  void add(const std::string& chosen);
   // MyButton4 and Command5: a session or a row, as the caption says.
   void addByCaption();
   // The path of a file of the present version, converted if need be; none where the rider refuses.

@@ -1,6 +1,8 @@
 // The session editor: the grid, its cell editors and commands, the heart-rate calculator.
 #pragma once
 
+#include <string>
+
 #include "platform/controls.h"
 #include "platform/grid.h"
 #include "platform/menu.h"
@@ -21,6 +23,9 @@ using platform::Timer;
 
 struct CreerCycle : platform::Form {
   CreerCycle() : Form("CreerCycle", "Ventoria") {}
+
+  // A session file that comes from outside: opened in the file manager, dropped on the window.
+  platform::Event<std::string> sessionHandedIn;
 
   // Containers.
   Frame MyFrame2{
