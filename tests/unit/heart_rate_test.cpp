@@ -12,6 +12,7 @@
 #include "support/faulty_file_system.h"
 #include "support/memory_file_system.h"
 #include "support/recorded_media.h"
+#include "support/recorded_outputs.h"
 
 namespace {
 
@@ -22,11 +23,10 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 const std::string path = "/home/ParPerso.tq1";
-const std::string reserve(21, ' ');
-const std::string saved =
-    "40 F\xE9minin 190050"
-    "51" +
-    reserve;  // NOLINT(bugprone-suspicious-missing-comma)
+std::string record(const std::string& figures, const std::string& methodAndMode) {
+  return figures + methodAndMode + std::string(21, ' ');
+}
+const std::string saved = record("40 F\xE9minin 190050", "51");
 
 struct Answers final : platform::Dialogs {
   std::vector<platform::Message> said;
@@ -62,15 +62,17 @@ struct HeartRate : testing::Test {
   Silence sound;
   NoSaver saver;
   support::RecordedMedia media;
-  platform::Outside outside{clock, sound, dialogs, files, saver, media};
+  support::RecordedLevel level;
+  support::RecordedShell shell;
+  platform::Outside outside{clock, sound, dialogs, files, saver, media, level, shell};
   voice::Voice speaker{state, loop, sound, screens.main, screens.player};
   forms::CreerCycle& form = screens.editor;
   std::vector<std::string> faults;
   std::optional<Calculator> calculator;
 
-  void load(const std::optional<std::string>& record = std::nullopt) {
+  void load(const std::optional<std::string>& stored = std::nullopt) {
     state.dossierProgramme = "/home/";
-    if (record) disk.put(path, *record);
+    if (stored) disk.put(path, *stored);
     calculator.emplace(voice::Toolbox{screens, state, loop, outside, speaker});
     loop.onFault([this](const std::string& fault) { faults.push_back(fault); });
     form.attach(loop);
@@ -107,6 +109,9 @@ struct HeartRate : testing::Test {
   std::vector<int> modes() { return {form.Check1.value, form.Check2.value, form.Check3.value}; }
   std::vector<std::string> boxes() {
     return {form.Combo7.text, form.Combo10.text, form.Combo11.text, form.Combo12.text};
+  }
+  platform::CheckBox& modeBox(int mode) {
+    return mode == 1 ? form.Check1 : mode == 2 ? form.Check2 : form.Check3;
   }
   void watch() { loop.runUntil(clock.now() + platform::Instant{600}); }
 };
@@ -192,9 +197,9 @@ TEST_F(HeartRate, StartsBlankOnANewDisk) {
 }
 
 TEST_F(HeartRate, ComesUpWithTheSavedFigures) {
-  std::string record = saved;
-  record[18] = '3';
-  load(record);
+  std::string stored = saved;
+  stored[18] = '3';
+  load(stored);
   EXPECT_THAT(boxes(), ElementsAre("40", "Féminin", "190", "050"));
   EXPECT_EQ(form.Combo8.index, 5);
   EXPECT_EQ(form.Combo13.index, 5);
@@ -207,10 +212,7 @@ TEST_F(HeartRate, ComesUpWithTheSavedFigures) {
 }
 
 TEST_F(HeartRate, TakesARecordWithoutAnAgeForANewOne) {
-  load(
-      "   Masculin190050"
-      "53" +
-      reserve);  // NOLINT(bugprone-suspicious-missing-comma)
+  load(stored("   Masculin190050", "53"));
   EXPECT_THAT(boxes(), ElementsAre(" ", " ", " ", " "));
   EXPECT_EQ(form.Combo8.index, 0);
   EXPECT_EQ(state.modeAffichageFC, 3);
@@ -220,11 +222,11 @@ TEST_F(HeartRate, TakesARecordWithoutAnAgeForANewOne) {
 struct DamagedRecord : HeartRate, testing::WithParamInterface<int> {};
 TEST_P(DamagedRecord, LoadsAllTheSame) {
   const int seed = GetParam();
-  std::string record = saved.substr(0, static_cast<std::size_t>(std::min(seed, 40)));
+  std::string stored = saved.substr(0, static_cast<std::size_t>(std::min(seed, 40)));
   std::mt19937 random(static_cast<unsigned>(seed));
-  if (seed > 40) record.resize(40);
-  for (char& c : record) c = seed > 40 ? static_cast<char>(random() % 256) : c;
-  load(record);
+  if (seed > 40) stored.resize(40);
+  for (char& c : stored) c = seed > 40 ? static_cast<char>(random() % 256) : c;
+  load(stored);
   EXPECT_EQ(form.Combo8.index, form.Combo13.index);
   EXPECT_EQ(form.Combo8.index, seed >= 18 && seed <= 40 ? 5 : form.Combo8.index.get());
   EXPECT_EQ(form.Combo7.text, seed == 0 ? " " : seed == 1 ? "4" : seed <= 40 ? "40" : form.Combo7.text.get());
@@ -232,7 +234,7 @@ TEST_P(DamagedRecord, LoadsAllTheSame) {
   EXPECT_EQ(modes().at(static_cast<std::size_t>(state.modeAffichageFC) - 1), 1);
   EXPECT_GE(form.Combo8.index, 0);
   EXPECT_THAT(faults, testing::IsEmpty());
-  EXPECT_EQ(*disk.files.at(path), record);
+  EXPECT_EQ(*disk.files.at(path), stored);
 }
 INSTANTIATE_TEST_SUITE_P(Records, DamagedRecord, testing::Range(0, 120));
 
@@ -247,19 +249,14 @@ TEST_F(HeartRate, StartsBlankWhereTheFileCannotBeOpened) {
 }
 
 TEST_F(HeartRate, SavesTheScreenUnderTheRidersOwnMethod) {
-  load(std::string("30 Masculin200060"
-                   "32") +
-       reserve + "more");
+  load(record("30 Masculin200060", "32") + "more");
   pick(form.Combo7, "41");
   form.Combo10.text = "Féminin";
   form.Combo11.text = "0189";
   form.Combo12.text = "055";
   form.Check3.value = 1;
   form.MyButton40.click();
-  EXPECT_EQ(*disk.files.at(path),
-            "41 F\xE9minin 018055"
-            "53" +
-                reserve + "more");
+  EXPECT_EQ(*disk.files.at(path), record("41 F\xE9minin 018055", "53") + "more");
   EXPECT_EQ(calculator->figures().persoFCMax, "018");
   EXPECT_EQ(form.Combo12.text, "55");
   EXPECT_EQ(form.Combo8.index, 5);
@@ -347,10 +344,7 @@ TEST_F(HeartRate, ShowsTheResultsAndTheBoxesOfTheMethod) {
 }
 
 TEST_F(HeartRate, CompletesAPickedPercentage) {
-  load(
-      "30 Masculin190050"
-      "01" +
-      reserve);  // NOLINT(bugprone-suspicious-missing-comma)
+  load(record("30 Masculin190050", "01"));
   fillGrid({"000"});
   struct Row {
     int methode;
@@ -383,13 +377,14 @@ TEST_F(HeartRate, CompletesAPickedPercentage) {
     const bool ageAlone = row.methode == 2;
     EXPECT_THAT(dialogs.said.front().text, HasSubstr(ageAlone ? "au moins un (Age)" : "une (FCMaxi)"));
   }
+  form.Combo7.text = "40";
+  form.Combo11.text = " ";
+  calculator->viserCellule(2, "75 %");
+  EXPECT_EQ(targets().at(1), " ");
 }
 
 TEST_F(HeartRate, RewritesTheColumnForAnotherMethod) {
-  load(
-      "40 Masculin190050"
-      "01" +
-      reserve);  // NOLINT(bugprone-suspicious-missing-comma)
+  load(record("40 Masculin190050", "01"));
   fillGrid({"000", "75 %", "1-75 %", "-----", "132- 80 %", "132-100 %", " ", "132X90 %", "7-", "9-5 %"});
   form.Combo7.text = "20";  // the saved age counts
   form.Combo13.index = 3;
@@ -404,6 +399,44 @@ TEST_F(HeartRate, RewritesTheColumnForAnotherMethod) {
   ASSERT_EQ(dialogs.said.size(), 1U);
   EXPECT_THAT(dialogs.said.front().text, HasSubstr("au moins un (Age)"));
   EXPECT_TRUE(form.Picture8.visible);
+}
+
+TEST_F(HeartRate, OpensOverTheGridAndEndsItsEditing) {
+  load();
+  int ended = 0;
+  form.Command1.click.handle([&] { ++ended; });
+  form.Combo1.visible = form.Combo13.visible = true;
+  form.MyButton25.click();
+  EXPECT_EQ(ended, 1);
+  EXPECT_FALSE(form.Combo1.visible || form.Combo13.visible);
+  EXPECT_EQ(form.Picture8.top, 360);
+  form.maximised = true;
+  form.MyFrame2.width = 15000;
+  form.Picture8.width = 9000;
+  form.MyButton25.click();
+  EXPECT_EQ(form.Picture8.left, 3000);
+}
+
+TEST_F(HeartRate, ShowsTheTargetInOneModeAtATime) {
+  load();
+  for (const int mode : {3, 2, 1}) {
+    modeBox(mode).value = 1;
+    EXPECT_EQ(state.modeAffichageFC, mode);
+    EXPECT_EQ(form.Check1.value + form.Check2.value + form.Check3.value, 1);
+    EXPECT_EQ(modeBox(mode).value, 1);
+  }
+  form.Check1.value = 0;
+  EXPECT_EQ(state.modeAffichageFC, 1);
+}
+
+TEST_F(HeartRate, ComputesNothingWithoutAMethodAndAnAge) {
+  load();
+  form.Combo8.type("none of the list");
+  form.MyButton38.click();
+  EXPECT_THAT(dialogs.said, testing::IsEmpty());
+  EXPECT_EQ(form.Label50.caption, "");
+  form.Combo8.click();  // falls back on what is saved
+  EXPECT_EQ(form.Combo8.index, 0);
 }
 
 TEST_F(HeartRate, OffersToSaveOnlyWhatDiffersOnTheLastMethod) {
