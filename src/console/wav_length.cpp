@@ -84,6 +84,8 @@ std::uint64_t adpcmFrames(platform::RandomFile& wav, const Chunks& chunks, std::
 std::optional<std::chrono::milliseconds> wavLength(platform::RandomFile& wav) {
   constexpr std::uint32_t pcm = 1;
   constexpr std::uint32_t msAdpcm = 2;
+  constexpr std::uint32_t floating = 3;
+  constexpr std::uint32_t extensible = 0xFFFE;  // samples of any width, told in more words
   if (!reads(wav, 0, "RIFF") || !reads(wav, 8, "WAVE")) return std::nullopt;
   const Chunks chunks = chunksOf(wav);
   if (chunks.format.size < 16) return std::nullopt;
@@ -92,9 +94,9 @@ std::optional<std::chrono::milliseconds> wavLength(platform::RandomFile& wav) {
   const std::uint32_t rate = little(wav, chunks.format.at + 4, 4);
   const std::uint32_t blockSize = little(wav, chunks.format.at + 12, 2);
   if (channels == 0 || rate == 0 || blockSize == 0) return std::nullopt;
-  if (coding != pcm && coding != msAdpcm) return std::nullopt;
+  if (coding != pcm && coding != floating && coding != extensible && coding != msAdpcm) return std::nullopt;
   const std::uint64_t frames =
-      coding == pcm ? chunks.data.size / blockSize : adpcmFrames(wav, chunks, channels, blockSize);
+      coding == msAdpcm ? adpcmFrames(wav, chunks, channels, blockSize) : chunks.data.size / blockSize;
   return std::chrono::milliseconds((frames * 1000 + rate / 2) / rate);
 }
 

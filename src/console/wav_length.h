@@ -9,7 +9,7 @@
 
 namespace console {
 
-// None for what is no WAV file of PCM or MS ADPCM.
+// None for what is no WAV file of samples or MS ADPCM.
 [[nodiscard]] std::optional<std::chrono::milliseconds> wavLength(std::span<const unsigned char> wav);
 [[nodiscard]] std::optional<std::chrono::milliseconds> wavLength(platform::RandomFile& wav);
 

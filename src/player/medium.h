@@ -1,0 +1,41 @@
+// The open medium: what the player's parts share, and the one road to its device.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/media_commands.h"
+
+namespace player {
+
+class Medium {
+ public:
+  explicit Medium(platform::MediaCommands& media) : media_(media) {}
+
+  std::string alias;
+  bool chargé = false;   // something is open
+  bool enPause = false;  // stopped by the pause button or by the ride
+  bool glisse = false;   // the progress bar is being dragged
+  int longueur = 0;      // ms
+  int largeurMedia = 0;  // the picture's own size
+  int hauteurMedia = 0;
+  std::string infoMedia;  // its code and size
+  std::string derniereCommande;
+
+  // Sends `verb`, the alias and the rest; the answer.
+  std::string send(const std::string& verb, const std::string& rest = {}) {
+    return sendWhole(verb + " " + alias + rest);
+  }
+  std::string sendWhole(const std::string& command) {
+    derniereCommande = command;
+    return media_.send(derniereCommande);
+  }
+
+ private:
+  platform::MediaCommands& media_;
+};
+
+// "h:mm:ss.mmm", with as many digits of hours as there are.
+[[nodiscard]] std::string formatTemps(std::int64_t milliseconds);
+
+}  // namespace player

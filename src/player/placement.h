@@ -1,0 +1,38 @@
+// Where the film and the still pictures stand in their box. Nothing is drawn without a window; the sizes
+// and the commands are kept, so that a window needs nothing but to follow them.
+#pragma once
+
+#include "forms/lect_mci.h"
+#include "player/medium.h"
+
+namespace player {
+
+struct PixelSize {
+  int width = 0;
+  int height = 0;
+};
+
+// The greatest size of the shape of `native` that fits into the box.
+[[nodiscard]] PixelSize fitted(PixelSize native, PixelSize box);
+
+class Placement {
+ public:
+  Placement(forms::LectMCI& form, Medium& medium);
+
+  void placerVideo();
+  void dimensionnerImage();
+  void montrerImage(const std::string& path);
+  void cacherImage() { form_.AffBMP.visible = false; }
+  void viderImage();
+
+ private:
+  void sendSize(const char* what, PixelSize size);
+
+  forms::LectMCI& form_;
+  Medium& medium_;
+  bool redimensionner_ = false;
+  bool proportion_ = true;
+  PixelSize image_;  // the still picture's own size, twips
+};
+
+}  // namespace player

@@ -1,0 +1,79 @@
+#include "player/player.h"
+
+#include <array>
+#include <random>
+
+#include "platform/each_on_its_own.h"
+
+namespace player {
+namespace {
+
+constexpr int boxWidth = 5000;  // twips
+
+// A name of its own among all that the devices hold open.
+std::string newAlias(const platform::Clock& clock) {
+  constexpr unsigned names = 100;
+  std::minstd_rand random(static_cast<unsigned>(clock.localTime().time_since_epoch().count()));
+  return "Aform" + std::to_string(random() % names);
+}
+
+}  // namespace
+
+Player::Player(const voice::Toolbox& tools)
+    : tools_(tools),
+      form_(tools.screens.player),
+      medium_(tools.outside.media),
+      bars_(form_, tools.loop, medium_),
+      placement_(form_, medium_),
+      transport_(tools, medium_, bars_, placement_),
+      fourcc_(tools.outside.files, tools.outside.dialogs) {
+  attachList();
+  form_.onLoad.handle([this] { medium_.alias = newAlias(tools_.outside.clock); });
+  form_.resized.handle([this](int twips) { suivreLargeur(twips); });
+  form_.Command1.click.handle([this] { choisirDossier(); });
+  form_.Label1.doubleClick.handle([this] { fourcc_.montrerFourcc(form_.Label1.caption); });
+}
+
+void Player::attachList() {
+  struct Key {
+    const char* name;
+    const char* pattern;
+  };
+  static constexpr std::array<Key, 3> patterns{{
+      {"F10",
+       "*.mp3;*.mp2;*.mp1;*.wav;*.asx;*.rm;*.ra;*.mid;*.rmi;*.xmi;*.avi;*.mpg;*.mpeg;*.asf;*.wmv;*.mov;*.mpe;"
+       "*."
+       "pls;*.dat;*.vcd;*.voc;*.au;*.wma;*.part"},
+      {"F8", "*.bmp;*.dib;*.gif;*.jpg;*.jpe;*.jpeg;*.ico;*.cur;*.wmf;*.emf"},
+      {"F9", "*.avi;*.mpg;*.mpeg;*.asf;*.wmv;*.mov;*.mpe"},
+  }};
+  form_.File1.key.handle([this](const std::string& pressed) {
+    if (pressed == "Enter") form_.File1.doubleClick();
+    if (pressed == "F5") form_.File1.refresh();
+    for (const Key& key : patterns) {
+      if (pressed == key.name) form_.File1.pattern = key.pattern;
+    }
+  });
+}
+
+void Player::choisirDossier() {
+  const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+      {platform::FilePurpose::Folder, "Dossier contenant des vidéos", {}, {}, {}});
+  if (chosen.empty()) return;
+  form_.File1.path = chosen.front();
+  form_.caption = "Navigation dans " + chosen.front();
+}
+
+void Player::suivreLargeur(int twips) {
+  platform::eachOnItsOwn(
+      [&] {
+        if (twips == largeurForme_) return;
+        form_.Picture1.width = boxWidth;
+        form_.PicProgress.width = boxWidth;
+        bars_.viderProgression();
+      },
+      [&] { placement_.placerVideo(); }, [&] { placement_.dimensionnerImage(); });
+  largeurForme_ = twips;
+}
+
+}  // namespace player

@@ -1,0 +1,215 @@
+#include "player/transport.h"
+
+#include <array>
+
+#include "model/numbers.h"
+#include "platform/each_on_its_own.h"
+#include "platform/text.h"
+#include "player/media_identification.h"
+
+namespace player {
+namespace {
+
+constexpr const char* playing = "||";
+constexpr const char* held = "|>";
+
+std::string selectedName(const platform::FileList& list) {
+  const int index = list.index;
+  const bool picked = index >= 0 && index < static_cast<int>(list.lines().size());
+  return picked ? list.lines()[static_cast<std::size_t>(index)] : std::string();
+}
+
+}  // namespace
+
+Transport::Transport(const voice::Toolbox& tools, Medium& medium, Bars& bars, Placement& placement)
+    : tools_(tools),
+      form_(tools.screens.player),
+      announcements_(tools.screens.announcements),
+      medium_(medium),
+      bars_(bars),
+      placement_(placement) {
+  attachButtons();
+  attachTimers();
+  form_.onUnload.handle([this] { form_.Command2.click(); });
+}
+
+void Transport::attachButtons() {
+  form_.Command8.click.handle([this] { lire(); });
+  form_.Command2.click.handle([this] { arreter(); });
+  form_.Command3.click.handle([this] { precedent(); });
+  form_.Command4.click.handle([this] { suivant(); });
+  form_.Command5.click.handle([this] {
+    if (!medium_.chargé) return;
+    (medium_.enPause ? form_.Timer7 : form_.Timer8).enabled = false;
+    medium_.enPause ? reprendre() : suspendre();
+  });
+  form_.Picture1.click.handle([this] { form_.Command5.click(); });
+  form_.Command9.click.handle([this] { form_.Timer7.enabled = true; });
+  form_.Command10.click.handle([this] { form_.Timer8.enabled = true; });
+  form_.File1.doubleClick.handle([this] { lireSelection(); });
+  form_.Check1.click.handle([this] { appliquerSon(); });
+  for (std::size_t i = 0; i < form_.CMspeed.size(); ++i) {
+    form_.CMspeed[i].click.handle([this, i] { appliquerVitesse(static_cast<int>(i)); });
+  }
+}
+
+void Transport::attachTimers() {
+  // Orders from other screens: each leaves the caller's handler and becomes a press in an event of its own.
+  const auto once = [](platform::Timer& timer, const platform::Button& button) {
+    timer.tick.handle([&timer, &button] {
+      timer.enabled = false;
+      button.click();
+    });
+  };
+  once(form_.Timer2, form_.Command8);
+  once(form_.Timer3, form_.Command2);
+  once(form_.Timer4, form_.Command5);
+  once(form_.Timer5, form_.Command3);
+  once(form_.Timer6, form_.Command4);
+  form_.Timer7.tick.handle([this] {
+    form_.Timer7.enabled = false;
+    if (medium_.chargé) reprendre();
+  });
+  form_.Timer8.tick.handle([this] {
+    form_.Timer8.enabled = false;
+    if (medium_.chargé) suspendre();
+  });
+  form_.Timer1.tick.handle([this] { platform::eachOnItsOwn([this] { suivrePosition(); }); });
+  form_.Timer9.tick.handle([this] { obeirALaSeance(); });
+}
+
+void Transport::ouvrir(const std::string& path) {
+  const std::string name = selectedName(form_.File1);
+  announcements_.Label1.caption = name;
+  form_.Label1.caption = "Chargement de " + name;
+  tools_.loop.serveEvents();
+  if (ItIsAPic(path)) {
+    placement_.montrerImage(path);
+    return;
+  }
+  placement_.cacherImage();
+  // The window to draw in is none: sound needs no parent.
+  medium_.sendWhole("open MPEGVideo!" + path + " alias " + medium_.alias + " parent 0 Style 1073741824");
+  tools_.loop.serveEvents();
+  identifier(path);
+  placement_.placerVideo();
+  medium_.send("play", " from 0");
+  medium_.chargé = true;
+  medium_.enPause = false;
+  appliquerSon();
+  montrerDuree();
+}
+
+void Transport::identifier(const std::string& path) {
+  const Identification found =
+      identifierMedia(tools_.outside.files, path, [this] { return medium_.send("where", " destination"); });
+  medium_.largeurMedia = found.largeurMedia;
+  medium_.hauteurMedia = found.hauteurMedia;
+  medium_.infoMedia = found.infoMedia;
+}
+
+void Transport::montrerDuree() {
+  medium_.send("set", " time format milliseconds");
+  medium_.longueur = model::lenientInteger(medium_.send("status", " length"));
+  bars_.viderProgression();
+  const std::string duree = formatTemps(medium_.longueur);
+  form_.Label1.caption = duree;
+  announcements_.Label7.caption = duree;
+  tools_.state.dureeMusique = duree;
+}
+
+void Transport::montrerPosition(std::int64_t milliseconds) {
+  form_.Label2.caption = formatTemps(milliseconds);
+  announcements_.Label5.caption = form_.Label2.caption;
+}
+
+void Transport::lire() {
+  form_.Command2.click();
+  const std::string path = platform::trim(form_.Text1.text.get());
+  if (!path.empty() && tools_.outside.files.exists(path)) {
+    ouvrir(path);
+    return;
+  }
+  tools_.outside.dialogs.message({platform::MessageKind::Information, platform::MessageButtons::Ok,
+                                  "Ventoria", "Aucune Musique d'Ambiance Sélectionnée..."});
+}
+
+void Transport::stopAndClose() {
+  medium_.chargé = false;
+  medium_.send("stop");
+  medium_.send("close");
+}
+
+void Transport::arreter() {
+  if (medium_.chargé) {
+    stopAndClose();
+    bars_.viderProgression();
+    montrerPosition(0);
+  }
+  placement_.viderImage();
+}
+
+void Transport::lireSelection() {
+  const std::string name = selectedName(form_.File1);
+  if (!name.empty()) {
+    if (medium_.chargé) stopAndClose();
+    std::string folder = form_.File1.path;
+    if (!folder.ends_with('/')) folder += '/';
+    announcements_.Label6.caption = name;
+    ouvrir(folder + name);
+  }
+  if (announcements_.visible) announcements_.Command12.enabled = false;
+}
+
+void Transport::precedent() {
+  if (form_.File1.index < 1) return;
+  form_.File1.index = form_.File1.index - 1;
+  form_.File1.doubleClick();
+}
+
+void Transport::suivant() {
+  const int rows = static_cast<int>(form_.File1.lines().size());
+  if (rows == 0) return;
+  form_.File1.index = form_.File1.index < rows - 1 ? form_.File1.index + 1 : 0;
+  form_.File1.doubleClick();
+}
+
+void Transport::reprendre() {
+  medium_.send("play");
+  form_.Command5.caption = playing;
+  medium_.enPause = false;
+}
+
+void Transport::suspendre() {
+  medium_.send("stop");
+  form_.Command5.caption = held;
+  medium_.enPause = true;
+}
+
+void Transport::appliquerSon() {
+  if (!medium_.chargé || form_.Check1.value == 2) return;
+  medium_.send("set", form_.Check1.value == 1 ? " audio all off" : " audio all on");
+}
+
+void Transport::appliquerVitesse(int index) {
+  static constexpr std::array<const char*, 3> speeds{" speed 500", " speed 1000", " speed 2000"};
+  if (medium_.chargé && !medium_.enPause) medium_.send("set", speeds[static_cast<std::size_t>(index)]);
+}
+
+void Transport::suivrePosition() {
+  if (!medium_.chargé) return;
+  const int position = model::lenientInteger(medium_.send("status", " position notify"));
+  montrerPosition(position);
+  bars_.peindreProgression(position);
+  // A selection chooses the next piece by itself; without one the player goes through its own list.
+  if (position == medium_.longueur && tools_.state.selectionEnCours.empty()) form_.Command4.click();
+}
+
+void Transport::obeirALaSeance() {
+  std::string& order = tools_.state.musiqueSuit;
+  if (order == "oui") reprendre();
+  if (order == "non") suspendre();
+  if (order == "oui" || order == "non") order.clear();
+}
+
+}  // namespace player
