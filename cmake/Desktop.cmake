@@ -1,5 +1,5 @@
 # The only floors that know Qt and the audio libraries.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg DBus Network)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg DBus Network PrintSupport)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(PULSE REQUIRED IMPORTED_TARGET libpulse)
 pkg_check_modules(SNDFILE REQUIRED IMPORTED_TARGET sndfile)
@@ -12,7 +12,7 @@ set(CMAKE_AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/src/desktop/ui)
 
 # Objects rather than an archive: a resource file registers itself only if its object is really linked.
 ventoria_floor(desktop TYPE OBJECT
-  LINKS ventoria_app Qt6::Widgets Qt6::Svg Qt6::DBus Qt6::Network PkgConfig::PULSE PkgConfig::SNDFILE
+  LINKS ventoria_app Qt6::Widgets Qt6::Svg Qt6::DBus Qt6::Network Qt6::PrintSupport PkgConfig::PULSE PkgConfig::SNDFILE
     PkgConfig::SAMPLERATE)
 get_target_property(desktop_kind ventoria_desktop TYPE)
 if(NOT desktop_kind STREQUAL "INTERFACE_LIBRARY")

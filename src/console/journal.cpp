@@ -21,7 +21,7 @@ const std::vector<std::string>& Journal::kinds() {
   return all;
 }
 
-void Journal::write(std::string_view kind, std::initializer_list<std::string_view> fields) {
+void Journal::write(std::string_view kind, const std::vector<std::string_view>& fields) {
   Line line{std::string(kind), secondsOf(clock_.now()) + "\t" + std::string(kind)};
   for (const std::string_view field : fields) line.text += "\t" + escaped(field);
   lines_.push_back(std::move(line));

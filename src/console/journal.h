@@ -1,7 +1,6 @@
 // What the program has done to the outside, a line each: seconds since the start, kind, the rest.
 #pragma once
 
-#include <initializer_list>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -16,7 +15,7 @@ class Journal {
   explicit Journal(const platform::Clock& clock) : clock_(clock) {}
 
   // The rest is given as fields, parted by tabs; each is escaped.
-  void write(std::string_view kind, std::initializer_list<std::string_view> fields);
+  void write(std::string_view kind, const std::vector<std::string_view>& fields);
   // Prints the lines of a kind, or all of them for an empty one, and forgets what it printed.
   void print(std::ostream& out, std::string_view kind);
 

@@ -23,4 +23,10 @@ class FileFault : public Fault {
   std::string path_;
 };
 
+// What was asked for does not fit into memory.
+class OutOfMemory : public Fault {
+ public:
+  OutOfMemory() : Fault("La mémoire est insuffisante.") {}
+};
+
 }  // namespace platform

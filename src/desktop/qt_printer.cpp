@@ -1,0 +1,128 @@
+#include "desktop/qt_printer.h"
+
+#include <QFileInfo>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+
+#include "desktop/page_painter.h"
+#include "desktop/qt_text.h"
+#include "platform/fault.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr double kMarginMm = 8;
+
+QPrinterInfo systemPrinter() {
+  const QPrinterInfo preferred = QPrinterInfo::defaultPrinter();
+  if (!preferred.isNull()) return preferred;
+  const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
+  return all.isEmpty() ? QPrinterInfo() : all.first();
+}
+
+}  // namespace
+
+QtPrinter::~QtPrinter() {
+  close();
+}
+
+bool QtPrinter::page() {
+  if (declined_) return false;
+  if (painter_.isActive()) {
+    if (pageEnded_) {
+      printer_->newPage();
+      bottom_ = area().top();
+    }
+    pageEnded_ = false;
+    return true;
+  }
+  const QPrinterInfo paper = systemPrinter();
+  if (paper.isNull() && !askForFile()) {
+    declined_ = true;
+    return false;
+  }
+  printer_ = paper.isNull() ? std::make_unique<QPrinter>(QPrinter::HighResolution)
+                            : std::make_unique<QPrinter>(paper, QPrinter::HighResolution);
+  if (paper.isNull()) {
+    printer_->setOutputFormat(QPrinter::PdfFormat);
+    printer_->setOutputFileName(file_);
+  }
+  beginPaper();
+  return true;
+}
+
+bool QtPrinter::askForFile() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const std::vector<std::string> chosen =
+      dialogs_.chooseFiles({platform::FilePurpose::Save, "Aucune Imprimante : Enregistrer en PDF",
+                            fromQt(folder), "Fichiers (PDF)|*.pdf", "Liste.pdf"});
+  if (chosen.empty()) return false;
+  file_ = toQt(chosen.front());
+  if (!QFileInfo::exists(file_)) return true;
+  return dialogs_.message({platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,
+                           "Fichier Existant...",
+                           "Le Fichier « " + chosen.front() + " » existe déjà, il sera Remplacé..."}) ==
+         platform::Answer::Ok;
+}
+
+void QtPrinter::beginPaper() {
+  printer_->setDocName(QStringLiteral("Ventoria"));
+  printer_->setCreator(QStringLiteral("Ventoria"));
+  printer_->setPageSize(QPageSize(QPageSize::A4));
+  printer_->setPageOrientation(orientation_ == platform::PageOrientation::Landscape ? QPageLayout::Landscape
+                                                                                    : QPageLayout::Portrait);
+  printer_->setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter);
+  printer_->setColorMode(mode_ == platform::ColourMode::Colour ? QPrinter::Color : QPrinter::GrayScale);
+  if (file_.isEmpty() && quality_ == platform::PrintQuality::Draft) printer_->setResolution(150);
+  if (!painter_.begin(printer_.get())) {
+    const std::string target = file_.isEmpty() ? fromQt(printer_->printerName()) : fromQt(file_);
+    close();
+    const platform::FileFault fault("d'imprimer sur", target, "accès refusé");
+    dialogs_.message({platform::MessageKind::Critical, platform::MessageButtons::Ok,
+                      "Impression Impossible...", fault.what()});
+    throw fault;
+  }
+  pageEnded_ = false;
+  bottom_ = area().top();
+}
+
+QRectF QtPrinter::area() const {
+  return {QPointF(0, 0), printer_->pageRect(QPrinter::DevicePixel).size()};
+}
+
+void QtPrinter::paintPicture(const platform::PageGrid& grid, int left, int top) {
+  if (!page()) return;
+  const double unit = printer_->resolution() / 1440.0;
+  bottom_ = paintGrid(painter_, area().adjusted(left * unit, top * unit, 0, 0), grid,
+                      mode_ == platform::ColourMode::Colour);
+}
+
+void QtPrinter::printLine(const std::string& line) {
+  if (!page()) return;
+  bottom_ = paintLine(painter_, area(), bottom_, toQt(line));
+}
+
+void QtPrinter::endDocument() {
+  if (!painter_.isActive()) return;
+  pageEnded_ = true;
+  if (file_.isEmpty()) close();
+}
+
+void QtPrinter::killDocument() {
+  if (painter_.isActive() && file_.isEmpty()) printer_->abort();
+  finish();
+}
+
+void QtPrinter::finish() {
+  close();
+  declined_ = false;
+}
+
+void QtPrinter::close() {
+  if (painter_.isActive()) painter_.end();
+  printer_.reset();
+  file_.clear();
+}
+
+}  // namespace desktop
