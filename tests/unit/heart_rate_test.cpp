@@ -11,6 +11,7 @@
 #include "platform/each_on_its_own.h"
 #include "support/faulty_file_system.h"
 #include "support/memory_file_system.h"
+#include "support/recorded_devices.h"
 #include "support/recorded_media.h"
 #include "support/recorded_outputs.h"
 
@@ -64,7 +65,9 @@ struct HeartRate : testing::Test {
   support::RecordedMedia media;
   support::RecordedLevel level;
   support::RecordedShell shell;
-  platform::Outside outside{clock, sound, dialogs, files, saver, media, level, shell};
+  support::RecordedVolume volume;
+  support::RecordedPrinter printer;
+  platform::Outside outside{clock, sound, dialogs, files, saver, media, level, shell, volume, printer};
   voice::Voice speaker{state, loop, sound, screens.main, screens.player};
   forms::CreerCycle& form = screens.editor;
   std::vector<std::string> faults;
@@ -212,7 +215,7 @@ TEST_F(HeartRate, ComesUpWithTheSavedFigures) {
 }
 
 TEST_F(HeartRate, TakesARecordWithoutAnAgeForANewOne) {
-  load(stored("   Masculin190050", "53"));
+  load(record("   Masculin190050", "53"));
   EXPECT_THAT(boxes(), ElementsAre(" ", " ", " ", " "));
   EXPECT_EQ(form.Combo8.index, 0);
   EXPECT_EQ(state.modeAffichageFC, 3);
