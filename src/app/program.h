@@ -17,6 +17,7 @@ struct Setup {
   std::string folder;   // the program's folder; everything that the program keeps lies in it
   std::string version;  // shown in the main menu
   std::function<void(const std::string&)> faultObserver;  // told each fault before the rider is
+  std::string documentsFolder = {};                       // where the rider picks music to import
 };
 
 class Program {

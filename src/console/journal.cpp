@@ -27,12 +27,20 @@ void Journal::write(std::string_view kind, const std::vector<std::string_view>& 
   lines_.push_back(std::move(line));
 }
 
+void Journal::writeState(std::string_view kind, const std::string& state) {
+  std::string& last = states_[std::string(kind)];
+  if (last == state) return;
+  last = state;
+  write(kind, {state});
+}
+
 void Journal::print(std::ostream& out, std::string_view kind) {
   const auto printed = [&](const Line& line) { return kind.empty() || line.kind == kind; };
   for (const Line& line : lines_) {
     if (printed(line)) out << line.text << '\n';
   }
   std::erase_if(lines_, printed);
+  std::erase_if(states_, [&](const auto& state) { return kind.empty() || state.first == kind; });
 }
 
 }  // namespace console

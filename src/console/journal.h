@@ -1,6 +1,7 @@
 // What the program has done to the outside, a line each: seconds since the start, kind, the rest.
 #pragma once
 
+#include <map>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -16,6 +17,8 @@ class Journal {
 
   // The rest is given as fields, parted by tabs; each is escaped.
   void write(std::string_view kind, const std::vector<std::string_view>& fields);
+  // For what is set over and over: nothing where the last line of the kind, not printed yet, says the same.
+  void writeState(std::string_view kind, const std::string& state);
   // Prints the lines of a kind, or all of them for an empty one, and forgets what it printed.
   void print(std::ostream& out, std::string_view kind);
 
@@ -29,6 +32,7 @@ class Journal {
 
   const platform::Clock& clock_;
   std::vector<Line> lines_;
+  std::map<std::string, std::string> states_;  // the last of each kind that is such
 };
 
 }  // namespace console

@@ -11,8 +11,10 @@ namespace console {
 namespace {
 
 // The menus that open at a click into another control; those of the main screen can always be reached.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 1> popUps{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 3> popUps{{
     {"CreerCycle", "mnSupprimer"},
+    {"EnrUneAnnonce", "mnEcout"},
+    {"EnrUneAnnonce", "mnsupress"},
 }};
 
 bool isPopUp(const platform::MenuItem& root) {

@@ -15,7 +15,7 @@ class SimulatedOutputLevel final : public platform::OutputLevel {
   void set(std::uint16_t left, std::uint16_t right) override {
     char text[16];
     std::snprintf(text, sizeof text, "%04X %04X", unsigned{left}, unsigned{right});
-    journal_.write("level", {text});
+    journal_.writeState("level", text);
   }
 
  private:

@@ -30,6 +30,7 @@ CellEditor::CellEditor(const voice::Toolbox& tools, heartrate::Calculator& calcu
   form_.Command1.click.handle([this] { endEditing(); });
   form_.Combo1.click.handle([this] { validerChoix(); });
   form_.Combo1.enter.handle([this] { validerSaisie(); });
+  form_.Combo1.validate.handle([this] { ecouterAnnonce(); });
   for (auto* box : {&form_.Combo2, &form_.Combo3, &form_.Combo4}) {
     box->click.handle([this] { validerDuree(); });
   }
@@ -266,6 +267,15 @@ void CellEditor::validerDuree() {
   if (colonneEdit_ != column::duration || grid_.rowCount() == 0) return;
   grid_.setText(grid_.selectedRow(), column::duration,
                 form_.Combo2.text.get() + ":" + form_.Combo3.text.get() + ":" + form_.Combo4.text.get());
+}
+
+// The announcement that was chosen is played on leaving its cell, with the volume at hand.
+void CellEditor::ecouterAnnonce() {
+  const std::string& chosen = form_.Combo1.text;
+  if (colonneEdit_ != column::announcement || platform::trim(chosen).empty()) return;
+  if (!tools_.screens.volume.visible) tools_.screens.volume.show();
+  tools_.screens.player.Text1.text = tools_.state.dossierAnnonces + chosen;
+  tools_.screens.player.Timer2.enabled = true;
 }
 
 }  // namespace editor

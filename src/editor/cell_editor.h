@@ -18,6 +18,7 @@ class CellEditor {
   void validerChoix();
   void validerSaisie();
   void validerDuree();
+  void ecouterAnnonce();
 
  private:
   void endEditing();

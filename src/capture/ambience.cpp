@@ -1,0 +1,88 @@
+#include "capture/ambience.h"
+
+namespace capture {
+
+Ambience::Ambience(const voice::Toolbox& tools, Selection& selection)
+    : tools_(tools), main_(tools.screens.main), form_(tools.screens.announcements), selection_(selection) {
+  connectMainScreen();
+  form_.MyButton9.click.handle([this] { leaveLibrary(); });
+  form_.MyButton7.click.handle([this] { leaveRecording(); });
+  form_.Timer12.tick.handle([this] {
+    form_.Timer12.enabled = false;
+    form_.MyButton12.click();
+  });
+  form_.Timer13.tick.handle([this] { startWholeLibrary(); });
+  form_.Timer14.tick.handle([this] {
+    form_.Timer14.enabled = false;
+    form_.Command8.click();
+  });
+}
+
+void Ambience::connectMainScreen() {
+  main_.mnEnrAnnVocale.click.handle([this] { openRecording(); });
+  main_.mnambiance.click.handle([this] { openLibrary(); });
+  main_.mnSelctMusiqPrefere.click.handle([this] {
+    openLibrary();
+    form_.Timer14.enabled = true;
+  });
+  main_.MyButton19.click.handle([this] {
+    form_.load();  // leaving an empty list unloaded it
+    form_.Timer13.enabled = true;
+    main_.MyButton21.visible = true;
+    main_.MyButton19.visible = false;
+  });
+  main_.MyButton21.click.handle([this] {
+    tools_.screens.player.Timer3.enabled = true;
+    main_.MyButton21.visible = false;
+    main_.MyButton19.visible = true;
+  });
+}
+
+void Ambience::openRecording() {
+  tools_.screens.player.Timer3.enabled = true;
+  form_.MyFrame1.visible = false;
+  main_.hide();
+  form_.show();
+}
+
+void Ambience::openLibrary() {
+  main_.hide();
+  form_.show();
+  form_.MyFrame1.visible = true;
+}
+
+void Ambience::startWholeLibrary() {
+  main_.Check10.value = 1;
+  form_.Timer13.enabled = false;
+  const auto library = static_cast<int>(form_.File1.lines().size());
+  int& ticked = selection_.nbMusiquesCochees;
+  if (ticked == 0 || ticked == library) {
+    ticked = library;
+    form_.Command8.click();
+    form_.Check1.value = 1;
+    form_.Check2.value = 1;
+    tools_.voice.attendre(1);
+  }
+  form_.MyButton12.click();
+}
+
+// With a list the page only hides, so that the music keeps going from piece to piece.
+void Ambience::leaveLibrary() {
+  if (form_.ListView1.rowCount() > 0) {
+    form_.hide();
+    main_.show();
+    return;
+  }
+  main_.show();
+  form_.unload();
+}
+
+void Ambience::leaveRecording() {
+  form_.VScroll1.value = 7;
+  tools_.outside.media.send("stop capture");
+  tools_.outside.media.send("close all");
+  form_.hide();
+  main_.show();
+}
+
+}  // namespace capture

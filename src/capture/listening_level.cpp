@@ -1,0 +1,92 @@
+#include "capture/listening_level.h"
+
+#include <array>
+
+namespace capture {
+namespace {
+
+constexpr int usualLevel = 7;
+
+// By level from 1 and by balance from -2: the left channel in the low half, the right one in the high half.
+constexpr std::array<std::array<std::uint32_t, 5>, 7> levels{{
+    {0x00000000, 0x00000000, 0x00000000, 0x00000000, 0x00000000},
+    {0x00002828, 0x16972828, 0x28282828, 0x28281192, 0x28280000},
+    {0x00005050, 0x2D2D5050, 0x50505050, 0x50502323, 0x50500000},
+    {0x00007C7C, 0x46067C7C, 0x7C7C7C7C, 0x7C7C3677, 0x7C7C0000},
+    {0x0000A7A7, 0x5E4EA7A7, 0xA7A7A7A7, 0xA7A7495A, 0xA7A70000},
+    {0x0000D3D3, 0x5CADD3D3, 0xD3D3D3D3, 0xD3D35CAD, 0xD3D30000},
+    {0x0000FFFF, 0x9000FFFF, 0xFFFFFFFF, 0xFFFF6FFF, 0xFFFF0000},
+}};
+
+}  // namespace
+
+ListeningLevel::ListeningLevel(const voice::Toolbox& tools)
+    : form_(tools.screens.announcements), output_(tools.outside.level) {
+  form_.VScroll1.change.handle(
+      [this] { form_.MyFrame2.caption = "Volume " + std::to_string(form_.VScroll1.value - 1); });
+  form_.VScroll1.scroll.handle([this] { movedByHand(); });
+  form_.MyButton1.click.handle([this] { fadeOut(); });
+  form_.MyButton2.click.handle([this] { fadeIn(); });
+  form_.HScroll3.change.handle([this] {
+    form_.Timer5.interval = form_.HScroll3.value;
+    form_.Timer6.interval = form_.HScroll3.value;
+  });
+  form_.Timer2.tick.handle([this] { apply(); });
+  form_.Timer5.tick.handle([this] { fadeStep(form_.Timer5, -1, form_.VScroll1.last); });
+  form_.Timer6.tick.handle([this] { fadeStep(form_.Timer6, 1, form_.VScroll1.first); });
+  form_.Timer10.tick.handle([this] {
+    form_.Timer10.enabled = false;
+    form_.MyButton1.click();
+  });
+  form_.Timer11.tick.handle([this] {
+    form_.Timer11.enabled = false;
+    form_.MyButton2.click();
+  });
+}
+
+void ListeningLevel::makeReady() {
+  movedByHand();
+  form_.VScroll1.value = usualLevel;
+}
+
+// Above the table the last level stays.
+void ListeningLevel::apply() {
+  const auto row = static_cast<std::size_t>(form_.VScroll1.value - 1);
+  const auto column = static_cast<std::size_t>(form_.HScroll1.value + 2);
+  if (row >= levels.size() || column >= levels[row].size()) return;
+  const std::uint32_t both = levels[row][column];
+  output_.set(static_cast<std::uint16_t>(both & 0xFFFF), static_cast<std::uint16_t>(both >> 16));
+}
+
+void ListeningLevel::movedByHand() {
+  form_.Timer5.enabled = false;
+  form_.Timer6.enabled = false;
+  form_.MyButton1.enabled = true;
+  form_.MyButton2.enabled = true;
+}
+
+void ListeningLevel::fadeOut() {
+  form_.MyButton2.enabled = true;
+  form_.MyButton1.enabled = false;
+  form_.Timer6.enabled = false;
+  form_.Timer5.enabled = true;
+  if (form_.Command3.caption == "Stopper l'Enregistrement en Cours")
+    form_.Command3.caption = "Enregistrement Stoppé";
+}
+
+void ListeningLevel::fadeIn() {
+  form_.MyButton2.enabled = false;
+  form_.MyButton1.enabled = true;
+  form_.Timer5.enabled = false;
+  form_.Timer6.enabled = true;
+}
+
+void ListeningLevel::fadeStep(platform::Timer& timer, int step, int last) {
+  if (form_.VScroll1.value != last) form_.VScroll1.value = form_.VScroll1.value + step;
+  if (form_.VScroll1.value != last) return;
+  timer.enabled = false;
+  form_.MyButton1.enabled = true;
+  form_.MyButton2.enabled = true;
+}
+
+}  // namespace capture

@@ -1,0 +1,25 @@
+// How loud the rider hears the program: the bar, the balance, and the fades.
+#pragma once
+
+#include "voice/toolbox.h"
+
+namespace capture {
+
+class ListeningLevel {
+ public:
+  explicit ListeningLevel(const voice::Toolbox& tools);
+
+  void makeReady();
+
+ private:
+  void apply();
+  void movedByHand();
+  void fadeOut();
+  void fadeIn();
+  void fadeStep(platform::Timer& timer, int step, int last);
+
+  forms::EnrUneAnnonce& form_;
+  platform::OutputLevel& output_;
+};
+
+}  // namespace capture

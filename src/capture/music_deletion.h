@@ -1,0 +1,26 @@
+// Taking music out of the list, or off the disk.
+#pragma once
+
+#include <string>
+
+#include "capture/selection_list.h"
+
+namespace capture {
+
+class MusicDeletion {
+ public:
+  MusicDeletion(const voice::Toolbox& tools, SelectionList& list, Selection& selection);
+
+ private:
+  void removeFromList();
+  void deletePiece();
+  void deleteAll();
+
+  voice::Toolbox tools_;
+  forms::EnrUneAnnonce& form_;
+  SelectionList& list_;
+  Selection& selection_;
+  std::string nomMusique_;  // the row just taken out of the list
+};
+
+}  // namespace capture

@@ -1,0 +1,72 @@
+#include "capture/music_import.h"
+
+#include "platform/file_copy.h"
+
+namespace capture {
+
+MusicImport::MusicImport(const voice::Toolbox& tools, SelectionList& list, Selection& selection,
+                         std::string documentsFolder)
+    : tools_(tools),
+      form_(tools.screens.announcements),
+      list_(list),
+      selection_(selection),
+      documentsFolder_(std::move(documentsFolder)) {
+  form_.MyButton4.click.handle([this] { importer(); });
+  form_.MyButton16.click.handle([this] { givenUp_ = true; });
+}
+
+void MusicImport::importer() {
+  form_.MyButton13.click();
+  const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+      {platform::FilePurpose::OpenSeveral, "Importer une Musique", documentsFolder_,
+       "Fichiers (Musiques) mp3|*.mp3|Musiques wma|*.wma", ""});
+  if (chosen.empty()) return;
+  form_.MyButton4.enabled = false;  // events are served while it copies
+  try {
+    copyAll(chosen);
+  } catch (const platform::Fault&) {
+    rebuild();
+    throw;
+  }
+  rebuild();
+}
+
+// What was copied is there, whatever became of the others.
+void MusicImport::rebuild() {
+  form_.MyFrame6.visible = false;
+  form_.MyButton4.enabled = true;
+  selection_.listeChargee = "";
+  form_.Command8.click();
+  list_.readLibrary();
+}
+
+void MusicImport::copyAll(const std::vector<std::string>& chosen) {
+  nbFichiersChoisis_ = chosen.size();
+  givenUp_ = false;
+  for (copied_ = 0; copied_ < chosen.size() && !givenUp_; ++copied_) {
+    const std::string& from = chosen[copied_];
+    const std::string name = from.substr(from.rfind('/') + 1);
+    const std::string to = list_.pathOf(name);
+    if (!tools_.outside.files.exists(to)) {
+      copyOne(from, to, name);
+      continue;
+    }
+    tools_.outside.dialogs.message(
+        {platform::MessageKind::Information, platform::MessageButtons::Ok, "Impossible de copier...",
+         "Cette Musique (" + name + ") est déjà présente dans votre Bibliothèque..."});
+  }
+}
+
+void MusicImport::copyOne(const std::string& from, const std::string& to, const std::string& name) {
+  form_.Label27.caption = "Copie de (" + name + ")";
+  form_.MyFrame6.visible = true;
+  const auto show = [this](std::uint64_t done, std::uint64_t total) {
+    const std::uint64_t part = total == 0 ? 100 : done * 100 / total;
+    form_.ProgressBar1.value = static_cast<int>((copied_ * 100 + part) / nbFichiersChoisis_);
+    tools_.loop.serveEvents();
+    return !givenUp_ && !tools_.loop.quitting();
+  };
+  if (show(0, 1)) platform::copyFile(tools_.outside.files, from, to, show);
+}
+
+}  // namespace capture

@@ -1,0 +1,32 @@
+// Copying the rider's music into the library.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "capture/selection_list.h"
+
+namespace capture {
+
+class MusicImport {
+ public:
+  MusicImport(const voice::Toolbox& tools, SelectionList& list, Selection& selection,
+              std::string documentsFolder);
+
+ private:
+  void importer();
+  void copyAll(const std::vector<std::string>& chosen);
+  void copyOne(const std::string& from, const std::string& to, const std::string& name);
+  void rebuild();
+
+  voice::Toolbox tools_;
+  forms::EnrUneAnnonce& form_;
+  SelectionList& list_;
+  Selection& selection_;
+  std::string documentsFolder_;
+  std::size_t copied_ = 0;  // files of the batch that are done
+  std::size_t nbFichiersChoisis_ = 0;
+  bool givenUp_ = false;
+};
+
+}  // namespace capture

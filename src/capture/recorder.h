@@ -1,0 +1,40 @@
+// Recording the rider's voice and listening to the take.
+#pragma once
+
+#include <string>
+
+#include "platform/clock.h"
+#include "voice/toolbox.h"
+
+namespace capture {
+
+class Recorder {
+ public:
+  explicit Recorder(const voice::Toolbox& tools);
+
+  // No take, nothing running: as the page is loaded.
+  void makeReady();
+
+ private:
+  void recordVoice();
+  void recordOverMusic();
+  void demarrerCapture();
+  void watch();
+  void keepLimit();
+  void stop();
+  void playBackOnce();
+  void listen();
+  void countListening();
+  [[nodiscard]] bool listening() const;
+  std::string send(const std::string& command) { return tools_.outside.media.send(command); }
+
+  voice::Toolbox tools_;
+  forms::EnrUneAnnonce& form_;
+  int secondesEnregistrees_ = 0;  // since the last press of Command2
+  int secondesEcoutees_ = 0;      // since listening began
+  std::string ecouteApresArret_;  // "oui" until the first stop has played the take back
+  std::string etatCapture_;       // last status word
+  platform::Instant heureDebut_{0};
+};
+
+}  // namespace capture

@@ -1,0 +1,17 @@
+// What the list of music, its player and its deletions share.
+#pragma once
+
+#include <string>
+
+namespace capture {
+
+struct Selection {
+  int nbMusiquesCochees = 0;  // ticked, as the start button says; removing rows may put it out of step
+  int nbMusiquesJouees = 0;   // started since the selection began
+  int prochaineMusique = 1;   // row where the search for the next ticked one begins
+  std::string listeChargee;   // "ok": the list keeps its ticks; empty: it is made anew at the next visit
+};
+
+inline constexpr const char* noMusicChosen = "Actuellement Aucune Ambiance Musicale Choisie";
+
+}  // namespace capture

@@ -1,0 +1,108 @@
+#include "capture/selection_player.h"
+
+#include "platform/text.h"
+
+namespace capture {
+namespace {
+
+constexpr int largestSize = 14;      // points
+constexpr int nameWidth = 7000;      // twips
+constexpr int twipsAPointWide = 11;  // of one character in the mean, for each point of its size
+
+}  // namespace
+
+void fitName(forms::EnrUneAnnonce& form, const std::string& name) {
+  const auto characters = static_cast<int>(platform::length(name));
+  const auto measure = [&](int size) {
+    form.Label26.size = size;
+    form.Label26.width = characters * size * twipsAPointWide;
+  };
+  form.Label26.caption = name;
+  measure(largestSize);
+  while (form.Label26.width > form.Label23.width && form.Label26.size > 1) measure(form.Label26.size - 1);
+  form.Label23.size = form.Label26.size;
+  form.Label6.size = form.Label26.size;
+}
+
+SelectionPlayer::SelectionPlayer(const voice::Toolbox& tools, SelectionList& list, Selection& selection)
+    : tools_(tools), form_(tools.screens.announcements), list_(list), selection_(selection) {
+  form_.Label23.width = nameWidth;
+  form_.MyButton12.click.handle([this] { demarrer(); });
+  form_.Timer4.tick.handle([this] { watch(); });
+  form_.mnEcouter.click.handle([this] { ecouter(); });
+}
+
+void SelectionPlayer::demarrer() {
+  tools_.state.selectionEnCours = "oui";
+  selection_.listeChargee = "";
+  selection_.nbMusiquesJouees = 0;
+  form_.Timer4.enabled = true;
+  selection_.prochaineMusique = 1;
+  musiqueSuivante();
+  tools_.screens.main.MyButton19.visible = false;
+  tools_.screens.main.MyButton21.visible = true;
+}
+
+int SelectionPlayer::tickedFrom(int row) const {
+  while (row <= form_.ListView1.rowCount() && !form_.ListView1.checked(row)) ++row;
+  return row <= form_.ListView1.rowCount() ? row : 0;
+}
+
+void SelectionPlayer::musiqueSuivante() {
+  if (selection_.nbMusiquesCochees == 0) {
+    form_.Timer4.enabled = false;
+    return;
+  }
+  if (form_.ListView1.rowCount() == 0) return;
+  int indexMusique = tickedFrom(selection_.prochaineMusique);
+  if (indexMusique == 0 && form_.Check2.value != 0) indexMusique = tickedFrom(1);
+  if (indexMusique == 0) {
+    form_.Timer4.enabled = false;
+    return;
+  }
+  ++selection_.nbMusiquesJouees;
+  selection_.prochaineMusique = indexMusique + 1;
+  play(form_.ListView1.text(indexMusique, 1));
+}
+
+// The player does it in an event of its own, once this handler is through.
+void SelectionPlayer::play(const std::string& name) {
+  tools_.screens.player.Text1.text = list_.pathOf(name);
+  tools_.screens.player.Timer2.enabled = true;
+  form_.Label6.caption = name;
+  form_.Label23.caption = name;
+  fitName(form_, name);
+  form_.Label23.visible = true;
+}
+
+void SelectionPlayer::watch() {
+  const bool chosen = form_.Label6.caption != noMusicChosen;
+  form_.Label5.visible = chosen;
+  form_.Label7.visible = chosen;
+  for (platform::Button* button :
+       {&form_.Command9, &form_.Command10, &form_.Command11, &form_.Command12, &form_.Command13}) {
+    button->enabled = chosen;
+  }
+  if (chosen) {
+    form_.Label6.visible = true;
+    // The player holds the position at the end of a piece, so that a look each second finds it there.
+    if (form_.Label5.caption == tools_.state.dureeMusique) musiqueSuivante();
+  }
+  if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) form_.Command13.enabled = false;
+}
+
+void SelectionPlayer::ecouter() {
+  const int row = form_.ListView1.selectedRow();
+  if (row == 0) return;
+  tools_.state.selectionEnCours = "";
+  const std::string& name = form_.ListView1.text(row, 1);
+  if (!tools_.outside.files.exists(list_.pathOf(name))) {
+    tools_.outside.dialogs.message({platform::MessageKind::Information, platform::MessageButtons::Ok,
+                                    "Musique Introuvable...", "Cette Musique a été Supprimée..."});
+    return;
+  }
+  play(name);
+  form_.Timer4.enabled = true;
+}
+
+}  // namespace capture

@@ -1,0 +1,31 @@
+// Playing the ticked music, one piece after the other, or one piece on its own.
+#pragma once
+
+#include <string>
+
+#include "capture/selection_list.h"
+
+namespace capture {
+
+class SelectionPlayer {
+ public:
+  SelectionPlayer(const voice::Toolbox& tools, SelectionList& list, Selection& selection);
+
+ private:
+  void demarrer();
+  void musiqueSuivante();
+  void watch();
+  void ecouter();
+  void play(const std::string& name);
+  [[nodiscard]] int tickedFrom(int row) const;
+
+  voice::Toolbox tools_;
+  forms::EnrUneAnnonce& form_;
+  SelectionList& list_;
+  Selection& selection_;
+};
+
+// The name of the chosen piece in the largest size that lets it fit its place.
+void fitName(forms::EnrUneAnnonce& form, const std::string& name);
+
+}  // namespace capture

@@ -1,0 +1,35 @@
+// Opening, playing and destroying announcements that were saved.
+#pragma once
+
+#include <string>
+
+#include "voice/toolbox.h"
+
+namespace capture {
+
+// The name under which this page's player goes.
+inline constexpr const char* aliasVideo = "video001";
+
+class StoredAnnouncements {
+ public:
+  explicit StoredAnnouncements(const voice::Toolbox& tools);
+
+  // Nothing opened: as the page is loaded.
+  void makeReady();
+
+ private:
+  void ouvrir();
+  void lireAnnonce();
+  void follow();
+  void play();
+  void pause();
+  void stop();
+  void replay();
+  void destroy();
+  std::string send(const std::string& command) { return tools_.outside.media.send(command); }
+
+  voice::Toolbox tools_;
+  forms::EnrUneAnnonce& form_;
+};
+
+}  // namespace capture

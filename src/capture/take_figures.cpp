@@ -1,0 +1,42 @@
+#include "capture/take_figures.h"
+
+#include <cmath>
+
+#include "model/numbers.h"
+
+namespace capture {
+namespace {
+
+// With two decimals at least and at most.
+std::string megabytes(double value) {
+  const long long hundredths = std::llround(value * 100);
+  const std::string decimals = std::to_string(hundredths % 100 + 100).substr(1);
+  return std::to_string(hundredths / 100) + "." + decimals + " Mo";
+}
+
+}  // namespace
+
+TakeFigures::TakeFigures(const voice::Toolbox& tools)
+    : form_(tools.screens.announcements), media_(tools.outside.media) {
+  form_.Command5.click.handle([this] { show(); });
+}
+
+double TakeFigures::ask(const char* figure) {
+  return model::lenientNumber(media_.send(std::string("status capture ") + figure));
+}
+
+void TakeFigures::show() {
+  media_.send("set capture time format ms");
+  std::string lines = "Milliseconds = " + model::plainNumber(ask("length")) + "\n";
+  media_.send("set capture time format bytes");
+  form_.Label8.caption = megabytes(ask("length") / 1024 / 1024);
+  lines += "Mo = " + form_.Label8.caption.get() + "\n";
+  const double channels = ask("channels");
+  if (channels == 1) lines += "Channels = 1 (mono)\n";
+  if (channels == 2) lines += "Cannaux = 2 (stereo)\n";
+  lines += "Bits per sample = " + model::plainNumber(ask("bitspersample")) + "\n";
+  lines += "Bytes per second = " + model::plainNumber(ask("bytespersec")) + "\n";
+  form_.Label3.caption = lines;
+}
+
+}  // namespace capture

@@ -1,0 +1,20 @@
+// The figures of the take: its length, its size, its format.
+#pragma once
+
+#include "voice/toolbox.h"
+
+namespace capture {
+
+class TakeFigures {
+ public:
+  explicit TakeFigures(const voice::Toolbox& tools);
+
+ private:
+  void show();
+  double ask(const char* figure);
+
+  forms::EnrUneAnnonce& form_;
+  platform::MediaCommands& media_;
+};
+
+}  // namespace capture

@@ -1,0 +1,74 @@
+#include "capture/take_saving.h"
+
+#include "platform/each_on_its_own.h"
+#include "platform/file_copy.h"
+#include "platform/text.h"
+
+namespace capture {
+namespace {
+
+constexpr std::string_view extension = ".wav";
+
+std::string twoDigits(long value) {
+  return (value < 10 ? "0" : "") + std::to_string(value);
+}
+
+}  // namespace
+
+TakeSaving::TakeSaving(const voice::Toolbox& tools) : tools_(tools), form_(tools.screens.announcements) {
+  form_.Command1.click.handle([this] { save(); });
+}
+
+// "Annonce du 16 11 26 à 20 31 05"
+std::string TakeSaving::proposedName() const {
+  const platform::LocalTime now = tools_.loop.clock().localTime();
+  const auto midnight = std::chrono::floor<std::chrono::days>(now);
+  const std::chrono::year_month_day day{midnight};
+  const std::chrono::hh_mm_ss time{now - midnight};
+  return "Annonce du " + twoDigits(static_cast<long>(unsigned{day.day()})) + " " +
+         twoDigits(static_cast<long>(unsigned{day.month()})) + " " + twoDigits(int{day.year()} % 100) +
+         " à " + twoDigits(time.hours().count()) + " " + twoDigits(time.minutes().count()) + " " +
+         twoDigits(static_cast<long>(time.seconds().count()));
+}
+
+std::string TakeSaving::pathOf(const std::string& name) const {
+  return tools_.state.dossierAnnonces + name + std::string(extension);
+}
+
+std::optional<std::string> TakeSaving::askName() {
+  for (;;) {
+    const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+        {platform::FilePurpose::Save, "Enregistrer sous", tools_.state.dossierAnnonces, "Fichiers wav |*.wav",
+         proposedName()});
+    if (chosen.empty() || !chosen.front().ends_with(extension)) return std::nullopt;
+    std::string name = chosen.front().substr(chosen.front().rfind('/') + 1);
+    name.resize(name.size() - extension.size());
+    if (name.empty()) return std::nullopt;
+    // It lands among the announcements wherever the rider went, so that is where it may replace one.
+    if (!tools_.outside.files.exists(pathOf(name))) return name;
+    const platform::Answer answer = tools_.outside.dialogs.message(
+        {platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,
+         "Contrôle Existance Fichier...",
+         "Cette Annonce (" + name +
+             ") éxiste Déjà...!\nConfirmez son Remplacement en Cliquant sur (OK)\n"
+             "ou, Rebaptisez-la en Cliquant sur (Annuler)...!"});
+    if (answer == platform::Answer::Ok) return name;
+  }
+}
+
+void TakeSaving::save() {
+  const std::optional<std::string> name = askName();
+  if (!name) return;
+  const std::string& folder = tools_.state.dossierAnnonces;
+  tools_.outside.media.workIn(folder);
+  tools_.outside.media.send("save capture tma");
+  platform::eachOnItsOwn([&] { platform::copyFile(tools_.outside.files, folder + "tma", pathOf(*name)); });
+  for (platform::Button* button : {&form_.Command2, &form_.MyButton10, &form_.Command4})
+    button->enabled = true;
+  form_.Command3.enabled = false;
+  form_.Command1.enabled = false;
+  form_.Label1.caption = "Prêt pour Enregistrer une Annonce";
+  form_.Label14.caption = "(" + *name + ")Enregistrée";
+}
+
+}  // namespace capture

@@ -1,0 +1,26 @@
+// Keeping the take as an announcement.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "voice/toolbox.h"
+
+namespace capture {
+
+class TakeSaving {
+ public:
+  explicit TakeSaving(const voice::Toolbox& tools);
+
+ private:
+  void save();
+  // The announcement's name without its extension; none where the rider gave up or the name is refused.
+  std::optional<std::string> askName();
+  [[nodiscard]] std::string proposedName() const;
+  [[nodiscard]] std::string pathOf(const std::string& name) const;
+
+  voice::Toolbox tools_;
+  forms::EnrUneAnnonce& form_;
+};
+
+}  // namespace capture

@@ -1,0 +1,22 @@
+// A desktop that opens nothing and is only a journal. The machine has a network.
+#pragma once
+
+#include "console/journal.h"
+#include "platform/shell.h"
+
+namespace console {
+
+class SimulatedShell final : public platform::Shell {
+ public:
+  explicit SimulatedShell(Journal& journal) : journal_(journal) {}
+
+  void openFile(const std::string& path) override { journal_.write("shell", {path}); }
+  void openAddress(const std::string& url) override { journal_.write("shell", {url}); }
+  void openSoundSettings() override { journal_.write("shell", {"sound settings"}); }
+  bool connected() override { return true; }
+
+ private:
+  Journal& journal_;
+};
+
+}  // namespace console
