@@ -4,6 +4,7 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(PULSE REQUIRED IMPORTED_TARGET libpulse)
 pkg_check_modules(SNDFILE REQUIRED IMPORTED_TARGET sndfile)
 pkg_check_modules(SAMPLERATE REQUIRED IMPORTED_TARGET samplerate)
+pkg_check_modules(MPV REQUIRED IMPORTED_TARGET mpv)
 
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
@@ -13,7 +14,7 @@ set(CMAKE_AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/src/desktop/ui)
 # Objects rather than an archive: a resource file registers itself only if its object is really linked.
 ventoria_floor(desktop TYPE OBJECT
   LINKS ventoria_app Qt6::Widgets Qt6::Svg Qt6::DBus Qt6::Network Qt6::PrintSupport PkgConfig::PULSE PkgConfig::SNDFILE
-    PkgConfig::SAMPLERATE)
+    PkgConfig::SAMPLERATE PkgConfig::MPV)
 get_target_property(desktop_kind ventoria_desktop TYPE)
 if(NOT desktop_kind STREQUAL "INTERFACE_LIBRARY")
   file(GLOB extras CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/*.h ${PROJECT_SOURCE_DIR}/src/desktop/ui/*.ui

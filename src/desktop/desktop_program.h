@@ -7,7 +7,7 @@
 
 #include "app/program.h"
 #include "desktop/dbus_screen_saver.h"
-#include "desktop/no_media.h"
+#include "desktop/mpv_media.h"
 #include "desktop/pulse_connection.h"
 #include "desktop/pulse_output_level.h"
 #include "desktop/pulse_sound_output.h"
@@ -16,6 +16,7 @@
 #include "desktop/qt_shell.h"
 #include "desktop/windows.h"
 #include "platform/disk_file_system.h"
+#include "platform/media_parser.h"
 
 namespace desktop {
 
@@ -44,7 +45,8 @@ class DesktopProgram final : public QObject {
   QtDialogs dialogs_;
   platform::DiskFileSystem files_;
   DbusScreenSaver screenSaver_;
-  NoMedia media_;
+  MpvMedia mpv_{connection_, files_};
+  platform::ParsedMediaCommands media_{mpv_};
   PulseOutputLevel level_;
   QtShell shell_;
   app::Program program_;

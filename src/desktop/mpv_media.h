@@ -1,0 +1,60 @@
+// Music and recorder on the real devices: libmpv plays, the sound server records.
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "desktop/mpv_player.h"
+#include "desktop/pulse_recorder.h"
+#include "platform/file_system.h"
+#include "platform/media_backend.h"
+#include "platform/recording.h"
+
+namespace desktop {
+
+class MpvMedia final : public platform::MediaBackend {
+ public:
+  MpvMedia(PulseConnection& connection, platform::FileSystem& files)
+      : connection_(connection), files_(files) {}
+
+  void openFile(const std::string& alias, const std::string& path) override;
+  void openRecorder(const std::string& alias) override;
+  void close(const std::string& alias) override { devices_.erase(alias); }
+  void closeAll() override { devices_.clear(); }
+  void play(const std::string& alias) override;
+  void playFrom(const std::string& alias, std::int64_t position) override;
+  void stop(const std::string& alias) override;
+  void pause(const std::string& alias) override;
+  void seek(const std::string& alias, std::int64_t position) override;
+  void record(const std::string& alias) override;
+  void save(const std::string& alias, const std::string& path) override;
+  void setTimeFormat(const std::string& alias, platform::TimeFormat format) override;
+  void setRecording(const std::string& alias, platform::RecordingFigure figure, int value) override;
+  void setSpeed(const std::string& alias, int thousandths) override;
+  void setVolume(const std::string& alias, int thousandths) override;
+  void setAudible(const std::string& alias, bool audible) override;
+  [[nodiscard]] std::string mode(const std::string& alias) override;
+  [[nodiscard]] std::optional<std::int64_t> figure(const std::string& alias,
+                                                   platform::MediaFigure figure) override;
+
+ private:
+  struct Device {
+    std::unique_ptr<MpvPlayer> player;        // a recorder has one while it plays its take
+    std::unique_ptr<PulseRecorder> recorder;  // null for a player of files
+    platform::RecordingFormat format;
+    platform::TimeFormat timeFormat = platform::TimeFormat::Milliseconds;
+
+    [[nodiscard]] std::int64_t length() const;  // ms
+    [[nodiscard]] std::int64_t position() const;
+  };
+
+  Device* find(const std::string& alias);
+  // What plays the file or the take; null where there is nothing to play.
+  MpvPlayer* playerOf(const std::string& alias);
+
+  PulseConnection& connection_;
+  platform::FileSystem& files_;
+  std::map<std::string, Device> devices_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,161 @@
+#include "desktop/mpv_player.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <clocale>
+#include <cmath>
+#include <utility>
+
+namespace desktop {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 3s;  // with a disk that has to wake up
+
+constexpr std::array<std::pair<const char*, const char*>, 13> kOptions{{
+    {"config", "no"},
+    {"terminal", "no"},
+    {"load-scripts", "no"},
+    {"ytdl", "no"},
+    {"access-references", "no"},
+    {"input-default-bindings", "no"},
+    {"vid", "no"},
+    {"idle", "yes"},
+    {"keep-open", "no"},
+    {"pause", "yes"},
+    {"hr-seek", "yes"},
+    {"ao", "pulse,null"},
+    {"audio-client-name", "Ventoria"},
+}};
+
+mpv_handle* newHandle() {
+  std::setlocale(LC_NUMERIC, "C");  // the library refuses to live with any other
+  mpv_handle* handle = mpv_create();
+  if (handle == nullptr) return nullptr;
+  for (const auto& [name, value] : kOptions) mpv_set_option_string(handle, name, value);
+  if (mpv_initialize(handle) >= 0) return handle;
+  mpv_terminate_destroy(handle);
+  return nullptr;
+}
+
+std::string seconds(std::int64_t milliseconds) {
+  const std::string rest = std::to_string(milliseconds % 1000);
+  return std::to_string(milliseconds / 1000) + "." + std::string(3 - rest.size(), '0') + rest;
+}
+
+}  // namespace
+
+MpvPlayer::MpvPlayer(std::string address) : address_(std::move(address)), handle_(newHandle()) {
+  if (!handle_ || !load(0)) return;
+  double duration = 0;
+  mpv_get_property(handle_.get(), "duration", MPV_FORMAT_DOUBLE, &duration);
+  length_ = std::llround(std::max(duration, 0.0) * 1000);
+  opened_ = true;
+}
+
+// Waits until the piece stands there, or cannot be read.
+bool MpvPlayer::load(std::int64_t from) {
+  mpv_set_property_string(handle_.get(), "start", seconds(from).c_str());
+  std::array<const char*, 3> command{"loadfile", address_.c_str(), nullptr};
+  loaded_ = ended_ = false;
+  sought_ = from;
+  if (mpv_command(handle_.get(), command.data()) < 0) return false;
+  const auto patienceEnds = std::chrono::steady_clock::now() + kPatience;
+  while (!loaded_ && !ended_ && std::chrono::steady_clock::now() < patienceEnds) {
+    take(*mpv_wait_event(handle_.get(), 0.1));
+  }
+  return loaded_;
+}
+
+void MpvPlayer::take(const mpv_event& event) {
+  switch (event.event_id) {
+    case MPV_EVENT_FILE_LOADED:
+      loaded_ = true;
+      break;
+    case MPV_EVENT_PLAYBACK_RESTART:
+      sought_ = -1;
+      break;
+    case MPV_EVENT_END_FILE: {
+      const auto reason = static_cast<const mpv_event_end_file*>(event.data)->reason;
+      if (reason != MPV_END_FILE_REASON_EOF && reason != MPV_END_FILE_REASON_ERROR) break;
+      ended_ = true;
+      mode_ = Mode::Stopped;
+      break;
+    }
+    default:
+      break;
+  }
+}
+
+void MpvPlayer::takeEvents() {
+  for (;;) {
+    const mpv_event* event = mpv_wait_event(handle_.get(), 0);
+    if (event->event_id == MPV_EVENT_NONE) return;
+    take(*event);
+  }
+}
+
+void MpvPlayer::setFlag(const char* property, bool on) {
+  int value = on ? 1 : 0;
+  mpv_set_property(handle_.get(), property, MPV_FORMAT_FLAG, &value);
+}
+
+void MpvPlayer::play() {
+  takeEvents();
+  if (ended_) return;
+  setFlag("pause", false);
+  mode_ = Mode::Playing;
+}
+
+void MpvPlayer::hold(Mode mode) {
+  takeEvents();
+  setFlag("pause", true);
+  mode_ = mode;
+}
+
+void MpvPlayer::pause() {
+  if (this->mode() == Mode::Playing) hold(Mode::Paused);
+}
+
+void MpvPlayer::seek(std::int64_t milliseconds) {
+  hold(Mode::Stopped);
+  const std::int64_t target = std::clamp<std::int64_t>(milliseconds, 0, length_);
+  if (ended_) {  // the library has closed the piece
+    load(target);
+    return;
+  }
+  const std::string place = seconds(target);
+  std::array<const char*, 4> command{"seek", place.c_str(), "absolute+exact", nullptr};
+  if (mpv_command(handle_.get(), command.data()) >= 0) sought_ = target;
+}
+
+void MpvPlayer::setSpeed(double factor) {
+  mpv_set_property(handle_.get(), "speed", MPV_FORMAT_DOUBLE, &factor);
+}
+
+void MpvPlayer::setVolume(double percent) {
+  mpv_set_property(handle_.get(), "volume", MPV_FORMAT_DOUBLE, &percent);
+}
+
+void MpvPlayer::setAudible(bool audible) {
+  setFlag("mute", !audible);
+}
+
+MpvPlayer::Mode MpvPlayer::mode() {
+  takeEvents();
+  return mode_;
+}
+
+std::int64_t MpvPlayer::position() {
+  takeEvents();
+  if (ended_) return length_;
+  if (sought_ >= 0) return sought_;
+  double reached = 0;
+  mpv_get_property(handle_.get(), "time-pos", MPV_FORMAT_DOUBLE, &reached);
+  // Some decoders run a little past the length that they told.
+  return std::clamp<std::int64_t>(std::llround(reached * 1000), 0, std::max<std::int64_t>(length_ - 1, 0));
+}
+
+}  // namespace desktop

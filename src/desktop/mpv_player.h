@@ -1,0 +1,55 @@
+// One piece of music or one take, played by libmpv without a window.
+#pragma once
+
+#include <mpv/client.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace desktop {
+
+class MpvPlayer {
+ public:
+  enum class Mode { Stopped, Paused, Playing };
+
+  // A file's path, or any other address that the library takes. Waits until the length is known.
+  explicit MpvPlayer(std::string address);
+  // False: there is nothing in it to play.
+  [[nodiscard]] bool opened() const { return opened_; }
+
+  void play();
+  void stop() { hold(Mode::Stopped); }
+  void pause();
+  void seek(std::int64_t milliseconds);  // leaves it stopped
+  void setSpeed(double factor);
+  void setVolume(double percent);
+  void setAudible(bool audible);
+
+  [[nodiscard]] Mode mode();
+  [[nodiscard]] std::int64_t length() const { return length_; }  // ms
+  // The length exactly once the piece has ended, and only then.
+  [[nodiscard]] std::int64_t position();
+
+ private:
+  struct Destroy {
+    void operator()(mpv_handle* handle) const { mpv_terminate_destroy(handle); }
+  };
+
+  bool load(std::int64_t from);
+  void hold(Mode mode);
+  void setFlag(const char* property, bool on);
+  void takeEvents();
+  void take(const mpv_event& event);
+
+  std::string address_;
+  std::unique_ptr<mpv_handle, Destroy> handle_;
+  bool opened_ = false;
+  bool loaded_ = false;
+  bool ended_ = false;
+  std::int64_t length_ = 0;
+  std::int64_t sought_ = -1;  // where it will stand once it has got there; -1: it is there
+  Mode mode_ = Mode::Stopped;
+};
+
+}  // namespace desktop

@@ -1,0 +1,137 @@
+// Plays and records at a real sound server; run it under with-sound-server.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <numbers>
+#include <thread>
+
+#include "desktop/mpv_media.h"
+#include "platform/disk_file_system.h"
+#include "platform/media_parser.h"
+
+namespace desktop {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+// Looks until it is so; the bound is only there to end a test that has failed.
+bool comes(const std::function<bool()>& so) {
+  const auto end = std::chrono::steady_clock::now() + 20s;
+  while (!so() && std::chrono::steady_clock::now() < end) std::this_thread::sleep_for(5ms);
+  return so();
+}
+
+struct MpvMediaTest : testing::Test {
+  const std::string folder = (fs::temp_directory_path() / ("médias & " + std::to_string(getpid()))).string();
+  const std::string piece = folder + "/un \"air\" alias b parent 1 🎵.wav";
+  platform::DiskFileSystem files;
+  PulseConnection connection{"Ventoria"};
+  MpvMedia media{connection, files};
+  platform::ParsedMediaCommands commands{media};
+
+  MpvMediaTest() {
+    files.makeFolder(folder);
+    commands.workIn(folder);
+    platform::RecordingFormat format;
+    std::vector<unsigned char> tone(static_cast<std::size_t>(format.bytesPerSecond()));
+    for (std::size_t i = 0; i < tone.size(); ++i) {
+      const double phase = 2 * std::numbers::pi * 440 * static_cast<double>(i) / format.samplesPerSecond;
+      tone[i] = static_cast<unsigned char>(128 + std::lround(60 * std::sin(phase)));
+    }
+    platform::saveWhole(files, piece, platform::wavFile(format, tone));
+  }
+  ~MpvMediaTest() override { fs::remove_all(folder); }
+
+  std::string send(const std::string& command) { return commands.send(command); }
+  void open() { send("open MPEGVideo!" + piece + " alias m parent 0 Style 1073741824"); }
+  int position() { return std::atoi(send("status m position notify").c_str()); }
+};
+
+TEST_F(MpvMediaTest, PlaysToItsLengthExactlyAndAgain) {
+  open();
+  EXPECT_EQ(send("status m length"), "1000");
+  EXPECT_EQ(send("status m mode"), "stopped");
+  EXPECT_EQ(position(), 0);
+  send("play m from 0");
+  EXPECT_EQ(send("status m mode"), "playing");
+  EXPECT_TRUE(comes([&] { return position() > 300; }));
+  EXPECT_TRUE(comes([&] { return send("status m mode") == "stopped"; }));
+  EXPECT_EQ(position(), 1000);
+  send("play m from 400");
+  EXPECT_EQ(send("status m mode"), "playing");
+  EXPECT_LT(position(), 1000);
+  EXPECT_TRUE(comes([&] { return position() == 1000; }));
+}
+
+TEST_F(MpvMediaTest, HoldsWhereItIsAndGoesOn) {
+  open();
+  send("play m from 0");
+  EXPECT_TRUE(comes([&] { return position() > 100; }));
+  send("stop m");
+  const int held = position();
+  EXPECT_EQ(send("status m mode"), "stopped");
+  send("play m");
+  EXPECT_TRUE(comes([&] { return position() > held; }));
+  send("seek m to 250");
+  EXPECT_EQ(position(), 250);
+  EXPECT_TRUE(comes([&] { return position() == 250; }));
+  send("close m");
+  EXPECT_EQ(send("status m mode"), "");
+}
+
+TEST_F(MpvMediaTest, OpensNothingThatDoesNotSound) {
+  platform::saveWhole(files, folder + "/text.mp3", std::string("Ceci n'est pas de la musique."));
+  send("open MPEGVideo!" + folder + "/text.mp3 alias m parent 0 Style 1073741824");
+  EXPECT_EQ(send("status m mode"), "");
+  send("open MPEGVideo!" + folder + "/absent.mp3 alias m parent 0 Style 1073741824");
+  EXPECT_EQ(send("status m mode"), "");
+}
+
+TEST_F(MpvMediaTest, RecordsListensAndSaves) {
+  for (const char* command :
+       {"open new type waveaudio alias capture", "seek capture to start", "set capture samplespersec 11025",
+        "set capture bitspersample 8", "set capture channels 1", "record capture"}) {
+    send(command);
+  }
+  EXPECT_EQ(send("status capture mode"), "recording");
+  EXPECT_TRUE(comes([&] { return std::atoi(send("status capture length").c_str()) > 400; }));
+  send("stop capture");
+  EXPECT_EQ(send("status capture mode"), "stopped");
+  const std::string length = send("status capture length");
+  send("set capture time format bytes");
+  const std::string bytes = send("status capture length");
+  EXPECT_EQ(send("status capture bytespersec"), "11025");
+  send("save capture tma");
+  const auto saved = files.open(folder + "/tma", platform::OpenMode::Read);
+  EXPECT_NEAR(static_cast<double>(saved->size()), 44 + std::atof(bytes.c_str()), 1);
+  send("set capture time format ms");
+  send("play capture from 0");
+  EXPECT_EQ(send("status capture mode"), "playing");
+  EXPECT_TRUE(comes([&] { return send("status capture mode") == "stopped"; }));
+  EXPECT_EQ(send("status capture position notify"), length);
+}
+
+// No server is no reason to wait: the music runs on unheard, and a recording stays empty.
+TEST_F(MpvMediaTest, RunsWithoutAServer) {
+  const std::string server = std::getenv("PULSE_SERVER");
+  setenv("PULSE_SERVER", "unix:/nonexistent", 1);
+  PulseConnection nowhere("Ventoria");
+  MpvMedia silent(nowhere, files);
+  silent.openFile("m", piece);
+  silent.play("m");
+  EXPECT_TRUE(comes([&] { return silent.figure("m", platform::MediaFigure::Position) == 1000; }));
+  silent.openRecorder("capture");
+  silent.record("capture");
+  EXPECT_EQ(silent.mode("capture"), "stopped");
+  EXPECT_EQ(silent.figure("capture", platform::MediaFigure::Length), 0);
+  setenv("PULSE_SERVER", server.c_str(), 1);
+}
+
+}  // namespace
+}  // namespace desktop
