@@ -1,7 +1,10 @@
 #include "app/program.h"
 
+#include "capture/page.h"
 #include "editor/page.h"
 #include "platform/fault.h"
+#include "player/file_information.h"
+#include "player/player.h"
 #include "runner/advance.h"
 #include "runner/chrono.h"
 #include "runner/countdown.h"
@@ -24,8 +27,11 @@ struct Program::Logic {
         countdown(tools, advance),
         handOver(tools),
         settings(tools),
-        mainScreen(tools, settings, setup.folder, setup.version),
-        editorPage(tools) {}
+        mainScreen(tools, settings, setup.folder,
+                   player::informationFichier(player::programFile(), setup.version).FileVersion),
+        editorPage(tools),
+        player(tools),
+        announcementsPage(tools, setup.documentsFolder) {}
 
   voice::Voice voice;
   voice::Toolbox tools;
@@ -37,6 +43,8 @@ struct Program::Logic {
   runner::SettingsPage settings;
   runner::MainScreen mainScreen;
   editor::Page editorPage;
+  player::Player player;
+  capture::Page announcementsPage;
 };
 
 namespace {
@@ -44,11 +52,6 @@ namespace {
 void tellFault(platform::Dialogs& dialogs, const std::string& text) {
   dialogs.message(
       {platform::MessageKind::Critical, platform::MessageButtons::Ok, "Une Erreur est Survenue...", text});
-}
-
-// The orders to the music's engine are one-shot timers, each of which ends with its own first tick.
-void endAfterOneTick(platform::Timer& timer) {
-  timer.tick.handle([&timer] { timer.enabled = false; });
 }
 
 }  // namespace
@@ -67,8 +70,6 @@ Program::Program(const platform::Outside& outside, Setup setup)
     if (observer) observer(text);
     tellFault(outside_.dialogs, text);
   });
-  endAfterOneTick(screens_.announcements.Timer12);
-  endAfterOneTick(screens_.player.Timer3);
   logic_ = std::make_unique<Logic>(*this, setup);
 }
 
