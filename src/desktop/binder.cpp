@@ -1,18 +1,21 @@
 #include "desktop/binder.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QAbstractSlider>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCompleter>
+#include <QContextMenuEvent>
 #include <QCursor>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTableView>
+#include <QRadioButton>
 #include <QTimer>
 #include <algorithm>
 #include <stdexcept>
@@ -43,6 +46,8 @@ bool canShow(const QWidget& widget, ControlKind kind) {
       return qobject_cast<const QAbstractButton*>(&widget) != nullptr;
     case ControlKind::CheckBox:
       return qobject_cast<const QCheckBox*>(&widget) != nullptr;
+    case ControlKind::Option:
+      return qobject_cast<const QRadioButton*>(&widget) != nullptr;
     case ControlKind::ComboBox:
       return qobject_cast<const QComboBox*>(&widget) != nullptr;
     case ControlKind::TextBox:
@@ -52,7 +57,7 @@ bool canShow(const QWidget& widget, ControlKind kind) {
     case ControlKind::ProgressBar:
       return qobject_cast<const QProgressBar*>(&widget) != nullptr;
     case ControlKind::Grid:
-      return qobject_cast<const QTableView*>(&widget) != nullptr;
+      return qobject_cast<const QAbstractScrollArea*>(&widget) != nullptr;
     case ControlKind::Label:
       return widget.metaObject()->indexOfProperty("text") >= 0;
     default:
@@ -91,7 +96,7 @@ void showCaption(QWidget& widget, const QString& text) {
 void showLook(QWidget& widget, const Control& control) {
   QString style;
   if (!control.colour.get().automatic) {
-    style += QStringLiteral("color: %1;").arg(onScreen(widget.palette(), control.colour).name());
+    style += QStringLiteral("color: %1;").arg(onScreen(QGuiApplication::palette(), control.colour).name());
   }
   if (control.bold) style += QStringLiteral("font-weight: 700;");
   widget.setStyleSheet(style);
@@ -169,8 +174,12 @@ void Binder::tie(Control& control, QWidget& widget) {
   controls_.insert(&widget, &control);
   widget.setMouseTracking(true);
   widget.installEventFilter(this);
+  // A list takes the mouse in its viewport; a menu that it opens is not the last button's.
+  if (auto* list = qobject_cast<QAbstractScrollArea*>(&widget)) list->viewport()->installEventFilter(this);
   if (auto* box = dynamic_cast<platform::CheckBox*>(&control)) {
     tieCheckBox(*box, dynamic_cast<QCheckBox&>(widget));
+  } else if (auto* option = dynamic_cast<platform::Option*>(&control)) {
+    tieOption(*option, dynamic_cast<QRadioButton&>(widget));
   } else if (auto* combo = dynamic_cast<platform::ComboBox*>(&control)) {
     tieComboBox(*combo, dynamic_cast<QComboBox&>(widget));
   } else if (auto* text = dynamic_cast<platform::TextBox*>(&control)) {
@@ -193,6 +202,15 @@ void Binder::tieCheckBox(platform::CheckBox& box, QCheckBox& widget) {
   connect(&widget, &QCheckBox::clicked, this, [this, &box, &widget](bool on) {
     widget.setTristate(false);
     run([&box, on] { box.value = on ? 1 : 0; });
+  });
+}
+
+void Binder::tieOption(platform::Option& option, QRadioButton& widget) {
+  // Which options exclude one another is the form's affair.
+  widget.setAutoExclusive(false);
+  connect(&widget, &QRadioButton::clicked, this, [this, &option, &widget] {
+    widget.setChecked(true);
+    run([&option] { option.value = true; });
   });
 }
 
@@ -272,6 +290,8 @@ void Binder::show(const Component& component, Prop prop, QWidget& widget) {
       if (auto* box = qobject_cast<QCheckBox*>(&widget)) {
         const int value = static_cast<const platform::CheckBox&>(component).value;
         box->setCheckState(value == 0 ? Qt::Unchecked : value == 1 ? Qt::Checked : Qt::PartiallyChecked);
+      } else if (auto* option = qobject_cast<QRadioButton*>(&widget)) {
+        option->setChecked(static_cast<const platform::Option&>(component).value);
       } else if (auto* slider = qobject_cast<QAbstractSlider*>(&widget)) {
         slider->setValue(static_cast<const platform::ScrollBar&>(component).value);
       } else if (auto* progress = qobject_cast<QProgressBar*>(&widget)) {
@@ -355,7 +375,10 @@ void Binder::popUp(QMenu& menu) {
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
   Control* control = controls_.value(watched);
-  if (control == nullptr) return false;
+  if (control == nullptr) {
+    if (event->type() == QEvent::MouseButtonPress) pressed_ = static_cast<QWidget*>(watched)->parentWidget();
+    return false;
+  }
   auto* widget = static_cast<QWidget*>(watched);
   switch (event->type()) {
     case QEvent::MouseMove: {
@@ -368,6 +391,14 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
       pressed_ = widget;
       if (static_cast<QMouseEvent*>(event)->button() == Qt::RightButton && control->alternate.handled()) {
+        run([control] { control->alternate(); });
+        return true;
+      }
+      break;
+    case QEvent::ContextMenu:  // by the key; the mouse's button is told above
+      if (static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard &&
+          control->alternate.handled()) {
+        pressed_ = widget;
         run([control] { control->alternate(); });
         return true;
       }

@@ -1,5 +1,6 @@
 #include "desktop/chronometer.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
 
@@ -18,7 +19,7 @@ int textWidth(const QFont& font, const QString& text) {
 }  // namespace
 
 ChronoDigits::ChronoDigits(QWidget* parent) : QWidget(parent) {
-  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
 void ChronoDigits::setText(const QString& text) {
@@ -47,9 +48,10 @@ void ChronoDigits::paintEvent(QPaintEvent*) {
       {1.0, static_cast<double>(width()) / hint.width(), static_cast<double>(height()) / hint.height()});
   font.setPixelSize(std::max(8, static_cast<int>(font.pixelSize() * shrink)));
   painter.setFont(font);
-  const QColor bright = palette().color(role::text);
+  const QColor bright = QGuiApplication::palette().color(role::text);
   const bool dim = leading_ && text_ == QLatin1String("00");
-  painter.setPen(dim ? mixed(palette().color(role::ground), bright, isDark(palette()) ? 0.30 : 0.33)
+  painter.setPen(dim ? mixed(QGuiApplication::palette().color(role::ground), bright,
+                             isDark(QGuiApplication::palette()) ? 0.30 : 0.33)
                      : bright);
   const QString shown = leading_ ? text_ : QLatin1Char(':') + text_;
   const int baseline = height() / 2 + static_cast<int>(font.pixelSize() * 0.36);
@@ -83,17 +85,17 @@ void CountdownRing::paintEvent(QPaintEvent*) {
   const double stroke = side * 0.05;
   QRectF circle(0, 0, side - stroke, side - stroke);
   circle.moveCenter(QRectF(rect()).center());
-  painter.setPen(QPen(palette().color(role::line), stroke));
+  painter.setPen(QPen(QGuiApplication::palette().color(role::line), stroke));
   painter.drawEllipse(circle);
 
   const double left = std::clamp(text_.toDouble() / total_, 0.0, 1.0);
-  painter.setPen(QPen(palette().color(role::accent), stroke, Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(QGuiApplication::palette().color(role::accent), stroke, Qt::SolidLine, Qt::RoundCap));
   if (left > 0) painter.drawArc(circle, 90 * 16, static_cast<int>(-left * 360 * 16));
 
   QFont font = numberFont(this, 10);
   font.setPixelSize(std::max(8, static_cast<int>(side * 0.52)));
   painter.setFont(font);
-  painter.setPen(palette().color(role::text));
+  painter.setPen(QGuiApplication::palette().color(role::text));
   const QRect digits = QFontMetrics(font).tightBoundingRect(text_);
   const QPointF centre = circle.center();
   painter.drawText(QPointF(centre.x() - digits.center().x(), centre.y() - digits.center().y()), text_);

@@ -1,6 +1,6 @@
 #include "desktop/editor_view.h"
 
-#include <QPainter>
+#include <QGuiApplication>
 #include <algorithm>
 #include <array>
 
@@ -151,7 +151,7 @@ void EditorView::refreshCalculator() {
                            Band{ui_->band53, &form_.Label53, EffortFamily::Warmth},
                            Band{ui_->band54, &form_.Label54, EffortFamily::Strength},
                            Band{ui_->band55, &form_.Label55, EffortFamily::Speed}}) {
-    zone.band->show(toQt(zone.label->caption.get()), familyColour(ui_->ListView1->palette(), zone.family));
+    zone.band->show(toQt(zone.label->caption.get()), familyColour(QGuiApplication::palette(), zone.family));
   }
 }
 

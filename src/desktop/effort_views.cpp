@@ -1,5 +1,6 @@
 #include "desktop/effort_views.h"
 
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -32,7 +33,7 @@ void EffortChip::show(model::EffortFamily family, bool any) {
 }
 
 QSize EffortChip::sizeHint() const {
-  return {dp(this, 16), dp(this, 44)};
+  return {dp(this, px_ * 0.36), dp(this, px_)};
 }
 
 void EffortChip::paintEvent(QPaintEvent*) {
@@ -40,8 +41,8 @@ void EffortChip::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(familyColour(palette(), family_));
-  const double h = std::min(height(), dp(this, 44));
+  painter.setBrush(familyColour(QGuiApplication::palette(), family_));
+  const double h = std::min(height(), dp(this, px_));
   painter.drawRoundedRect(QRectF(0, (height() - h) / 2, width(), h), width() * 0.3, width() * 0.3);
 }
 
@@ -64,10 +65,10 @@ void SequenceBar::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   const double radius = height() / 2.0;
-  painter.setBrush(palette().color(role::line));
+  painter.setBrush(QGuiApplication::palette().color(role::line));
   painter.drawRoundedRect(QRectF(rect()), radius, radius);
   if (share_ <= 0) return;
-  painter.setBrush(familyColour(palette(), family_));
+  painter.setBrush(familyColour(QGuiApplication::palette(), family_));
   painter.setClipRect(QRectF(0, 0, width() * share_, height()));
   painter.drawRoundedRect(QRectF(rect()), radius, radius);
 }
@@ -174,7 +175,7 @@ void SessionProfile::paintEvent(QPaintEvent*) {
   const double gap = width() > dp(this, 400) ? 1.5 : 0.5;
   for (std::size_t i = 0; i < bars_.size(); ++i) {
     const QRectF& bar = bars_[i];
-    const QColor colour = familyColour(palette(), model::effortFamily(steps_[i].kind));
+    const QColor colour = familyColour(QGuiApplication::palette(), model::effortFamily(steps_[i].kind));
     const bool done = static_cast<int>(i) < place_;
     painter.setOpacity(done ? 0.35 : 1.0);
     painter.setPen(Qt::NoPen);
@@ -190,7 +191,7 @@ void SessionProfile::paintEvent(QPaintEvent*) {
     }
     painter.setOpacity(1.0);
     if (selectedRow_ > 0 && steps_[i].row == selectedRow_ && steps_[i].seconds > 0) {
-      painter.setPen(QPen(palette().color(role::text), dp(this, 2)));
+      painter.setPen(QPen(QGuiApplication::palette().color(role::text), dp(this, 2)));
       painter.setBrush(Qt::NoBrush);
       const double top = dp(this, headroom - 4);
       painter.drawRoundedRect(QRectF(bar.left(), top, std::max(bar.width() - 1, 4.0), height() - top - 1), 3,
@@ -202,10 +203,10 @@ void SessionProfile::paintEvent(QPaintEvent*) {
   const double share = steps_[at].seconds > 0 ? std::min(1.0, placeSeconds_ / steps_[at].seconds) : 0;
   const double x = std::clamp(bars_[at].left() + bars_[at].width() * share, 1.0 * dp(this, 5),
                               1.0 * width() - dp(this, 5));
-  painter.setPen(QPen(palette().color(role::text), dp(this, 2.5)));
+  painter.setPen(QPen(QGuiApplication::palette().color(role::text), dp(this, 2.5)));
   painter.drawLine(QPointF(x, dp(this, 8)), QPointF(x, height()));
   painter.setPen(Qt::NoPen);
-  painter.setBrush(palette().color(role::text));
+  painter.setBrush(QGuiApplication::palette().color(role::text));
   painter.drawEllipse(QPointF(x, dp(this, 6)), dp(this, 5), dp(this, 5));
 }
 
@@ -225,7 +226,7 @@ void ZoneBand::show(const QString& range, const QColor& colour) {
 }
 
 QSize ZoneBand::sizeHint() const {
-  return {dp(this, 160), dp(this, 12)};
+  return {dp(this, 160), dp(this, 9)};
 }
 
 void ZoneBand::paintEvent(QPaintEvent*) {
@@ -235,7 +236,7 @@ void ZoneBand::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   const double radius = height() / 2.0;
-  painter.setBrush(palette().color(role::line));
+  painter.setBrush(QGuiApplication::palette().color(role::line));
   painter.drawRoundedRect(QRectF(rect()), radius, radius);
   if (to_ <= from_) return;
   const auto x = [&](double beats) {

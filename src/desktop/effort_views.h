@@ -12,6 +12,8 @@ namespace desktop {
 
 class EffortChip final : public QWidget {
   Q_OBJECT
+  Q_PROPERTY(int px MEMBER px_)  // its height
+
  public:
   explicit EffortChip(QWidget* parent = nullptr);
   void show(model::EffortFamily family, bool any = true);
@@ -23,6 +25,7 @@ class EffortChip final : public QWidget {
  private:
   model::EffortFamily family_ = model::EffortFamily::Endurance;
   bool any_ = false;
+  int px_ = 44;
 };
 
 class SequenceBar final : public QWidget {

@@ -1,5 +1,6 @@
 #include "desktop/fit_label.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
 
@@ -24,11 +25,13 @@ void FitLabel::setText(const QString& text) {
   if (text_ == text) return;
   text_ = text;
   setAccessibleDescription(unit_.isEmpty() ? text : text + QLatin1Char(' ') + unit_);
+  updateGeometry();
   update();
 }
 
 QSize FitLabel::sizeHint() const {
-  return {dp(this, px_), QFontMetrics(numberFont(this, px_)).height()};
+  const QFontMetrics metrics(numberFont(this, px_));
+  return {metrics.horizontalAdvance(text_) + dp(this, 4), metrics.height()};
 }
 
 QSize FitLabel::minimumSizeHint() const {
@@ -53,16 +56,16 @@ void FitLabel::paintEvent(QPaintEvent*) {
   const int unitWidth = unit.isEmpty() ? 0 : QFontMetrics(unitFont).horizontalAdvance(unit) + dp(this, 6);
   const QRect place = rect().adjusted(0, 0, -unitWidth, 0);
   painter.setFont(fitted(place));
-  painter.setPen(palette().color(tone_ == QLatin1String("wrong")    ? role::wrong
-                                 : tone_ == QLatin1String("second") ? role::second
-                                                                    : role::text));
+  painter.setPen(QGuiApplication::palette().color(tone_ == QLatin1String("wrong")    ? role::wrong
+                                                  : tone_ == QLatin1String("second") ? role::second
+                                                                                     : role::text));
   QRect drawn;
   painter.drawText(place, (centred_ ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextWordWrap,
                    text_, &drawn);
   if (unit.isEmpty()) return;
   const int baseline = drawn.bottom() - painter.fontMetrics().descent();
   painter.setFont(unitFont);
-  painter.setPen(palette().color(role::second));
+  painter.setPen(QGuiApplication::palette().color(role::second));
   painter.drawText(drawn.right() + dp(this, 6), baseline, unit);
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/grid_model.h"
 
 #include "desktop/qt_text.h"
+#include "model/grid_rows.h"
 
 namespace desktop {
 namespace {
@@ -33,6 +34,9 @@ QVariant GridModel::data(const QModelIndex& index, int wanted) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int wanted) const {
   if (orientation != Qt::Horizontal || section >= grid_.columnCount()) return {};
   if (wanted == Qt::DisplayRole) return toQt(grid_.column(section + 1).header);
+  if (wanted == Qt::TextAlignmentRole && section + 1 == model::column::sessionName) {
+    return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+  }
   return {};
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/grid_table.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -29,7 +30,7 @@ class CellPainter final : public QStyledItemDelegate {
     const platform::Grid& grid = *table_->grid();
     const int row = index.row() + 1;
     const int column = index.column() + 1;
-    const QPalette& palette = table_->palette();
+    const QPalette palette = QGuiApplication::palette();
     if (row == grid.selectedRow()) {
       painter->fillRect(option.rect, mixed(palette.color(role::card), palette.color(role::accent), 0.16));
     }
@@ -37,15 +38,18 @@ class CellPainter final : public QStyledItemDelegate {
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     if (table_->hasFocus() && row == grid.selectedRow() && column == table_->pressedColumn()) {
       painter->setPen(QPen(palette.color(role::accent), 2));
+      painter->setBrush(Qt::NoBrush);
       painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
     }
 
     const std::string& cell = grid.text(row, column);
-    const platform::CellLook look = grid.look(row, column);
+    // A cell without a colour of its own goes with its row.
+    platform::CellLook look = grid.look(row, column);
+    if (look.colour.automatic) look = grid.look(row, model::column::sessionName);
     const bool marker = column > model::column::sessionName && cell.starts_with("--");
     painter->setPen(marker ? palette.color(role::second) : onScreen(palette, look.colour));
     painter->setFont(sansFont(table_, 15, look.bold ? QFont::Bold : QFont::Normal));
-    const int inset = dp(table_, column == model::column::sessionName ? 14 : 3);
+    const int inset = dp(table_, column == model::column::sessionName ? 12 : 3);
     const QRect place = option.rect.adjusted(inset, 0, -dp(table_, 3), 0);
     if (column == model::column::sequence && model::isSequence(grid, row)) {
       paintKind(*painter, place, toQt(cell));
@@ -70,7 +74,7 @@ class CellPainter final : public QStyledItemDelegate {
                      shown);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(familyColour(table_->palette(), model::effortFamily(fromQt(kind))));
+    painter.setBrush(familyColour(QGuiApplication::palette(), model::effortFamily(fromQt(kind))));
     painter.drawRoundedRect(QRect(x, place.center().y() - high / 2, chip, high), chip / 3.0, chip / 3.0);
   }
 
@@ -107,7 +111,7 @@ void GridTable::showGrid(platform::Grid& grid, Runner run) {
   connect(model_, &GridModel::columnsChanged, this, &GridTable::layColumns);
   connect(model_, &GridModel::contentChanged, this, &GridTable::tellVisibleRows);
   connect(model_, &GridModel::focusAsked, this, [this] { setFocus(); });
-  connect(model_, &GridModel::revealAsked, this, [this](int row) { scrollTo(model_->index(row - 1, 2)); });
+  connect(model_, &GridModel::revealAsked, this, [this](int row) { showRow(row); });
   connect(model_, &GridModel::selectionMoved, this, [this](int row) {
     refreshRow(selectedRow_);
     selectedRow_ = row;
@@ -191,7 +195,7 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
     const int wanted = std::clamp(to, 1, grid_->rowCount());
     run_([this, wanted] { grid_->select(wanted); });
     model_->flush();
-    scrollTo(model_->index(wanted - 1, 2));
+    showRow(wanted);
   };
   const auto sideways = [&](int step) {
     for (int c = cursorColumn_ + step; c >= 1 && c <= grid_->columnCount(); c += step) {
@@ -238,6 +242,11 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
     default:
       event->ignore();
   }
+}
+
+// By a column that no grid hides.
+void GridTable::showRow(int row) {
+  scrollTo(model_->index(row - 1, std::min(2, model_->columnCount() - 1)));
 }
 
 void GridTable::refreshRow(int row) {

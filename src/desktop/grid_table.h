@@ -9,7 +9,7 @@
 
 namespace desktop {
 
-class GridTable final : public QTableView {
+class GridTable : public QTableView {
   Q_OBJECT
  public:
   using Runner = std::function<void(std::function<void()>)>;
@@ -43,16 +43,23 @@ class GridTable final : public QTableView {
   bool viewportEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
- private:
   struct Cell {
     int row;
     int column;
   };
   [[nodiscard]] Cell cellAt(const QPoint& point) const;
+  void setCursorColumn(int column) { cursorColumn_ = column; }
+  // What the person does with the grid.
+  void act(std::function<void(platform::Grid&)> deed) {
+    run_([grid = grid_, deed = std::move(deed)] { deed(*grid); });
+  }
+
+ private:
   void press(int row, int column, platform::MouseButton button);
   void layColumns();
   void tellVisibleRows();
   void refreshRow(int row);
+  void showRow(int row);
 
   platform::Grid* grid_ = nullptr;
   GridModel* model_ = nullptr;

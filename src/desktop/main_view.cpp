@@ -1,5 +1,6 @@
 #include "desktop/main_view.h"
 
+#include <QGuiApplication>
 #include <QStyle>
 
 #include "desktop/qt_text.h"
@@ -35,11 +36,10 @@ bool says(const std::string& text) {
 }  // namespace
 
 MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidget& page)
-    : form_(form), state_(state), page_(page), ui_(std::make_unique<Ui::MainForm>()) {
+    : form_(form), state_(state), ui_(std::make_unique<Ui::MainForm>()) {
   ui_->setupUi(&page);
-  for (QWidget* widget :
-       std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1, ui_->Label2,
-                                       ui_->Label3, ui_->sequenceBar, ui_->kindChip}) {
+  for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1,
+                                                         ui_->Label2, ui_->Label3, ui_->sequenceBar}) {
     keepPlace(*widget);
   }
   // The panel takes the pointer as one; what it holds only shows.
@@ -83,6 +83,9 @@ void MainView::refreshPages() {
   const bool settings = form_.Picture1.visible;
   ui_->countdownPage->setVisible(form_.MyFrame2.visible && !settings);
   ui_->ridePage->setVisible(!form_.MyFrame2.visible && !settings);
+  // A title that only repeats the product's name beside it says nothing.
+  const bool titled = form_.MyFrame1.caption != form_.Label30.caption;
+  ui_->MyFrame1->setText(titled ? toQt(form_.MyFrame1.caption.get()) : QString());
   ui_->timeBoxes->setVisible(form_.Combo1.visible || form_.Combo2.visible || form_.Combo3.visible);
   const bool volumeKnown =
       !form_.Label36.caption.get().empty() || form_.Label38.caption != "Volume Actuel ()";
@@ -123,7 +126,7 @@ QString MainView::describe(int row) const {
   const model::RunPlan& plan = state_.plan;
   const QString kind = toQt(plan.planSequence[at(row)]).toHtmlEscaped();
   QStringList facts{QStringLiteral("<span style=\"color:%1;font-weight:700\">%2</span>")
-                        .arg(page_.palette().color(role::text).name(), kind)};
+                        .arg(QGuiApplication::palette().color(role::text).name(), kind)};
   if (plan.planSequence[at(row)] != model::vocalAnnouncement) {
     facts << toQt(plan.planDuree[at(row)]).toHtmlEscaped();
     if (says(plan.planCadence[at(row)])) {

@@ -39,7 +39,6 @@ class MainView final : public QObject {
 
   forms::MainForm& form_;
   const model::SharedState& state_;
-  QWidget& page_;
   std::unique_ptr<Ui::MainForm> ui_;
   QTimer pending_;
 };

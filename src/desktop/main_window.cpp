@@ -1,42 +1,13 @@
 #include "desktop/main_window.h"
 
 #include <QCloseEvent>
-#include <QLayout>
-#include <QStackedLayout>
-#include <algorithm>
-#include <cmath>
 
-#include "desktop/picture.h"
+#include "desktop/window_scale.h"
 
 namespace desktop {
 namespace {
 
-constexpr double designWidth = 1280;
-constexpr double designHeight = 800;
-constexpr double step = 0.05;  // a new style sheet for every pixel of a drag would stutter
-
-// A layout's own lengths, remembered at the first meeting, at a scale.
-void scaleLayout(QLayout& layout, double scale) {
-  if (!layout.property("design").isValid()) {
-    const QMargins margins = layout.contentsMargins();
-    QVariantList lengths{margins.left(), margins.top(), margins.right(), margins.bottom()};
-    if (const auto* grid = qobject_cast<QGridLayout*>(&layout)) {
-      lengths << grid->horizontalSpacing() << grid->verticalSpacing();
-    } else {
-      lengths << layout.spacing() << layout.spacing();
-    }
-    layout.setProperty("design", lengths);
-  }
-  const QVariantList lengths = layout.property("design").toList();
-  const auto length = [&](qsizetype i) { return static_cast<int>(std::lround(lengths[i].toInt() * scale)); };
-  layout.setContentsMargins(length(0), length(1), length(2), length(3));
-  if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
-    grid->setHorizontalSpacing(length(4));
-    grid->setVerticalSpacing(length(5));
-  } else {
-    layout.setSpacing(length(4));
-  }
-}
+constexpr QSize design(1280, 800);
 
 }  // namespace
 
@@ -45,7 +16,7 @@ MainWindow::MainWindow(ThemeMode mode) : mode_(mode) {
   setCentralWidget(&pages_);
   setMinimumSize(960, 600);
   setWindowIcon(QIcon(QStringLiteral(":/ventoria/icons/ventoria.svg")));
-  resize(static_cast<int>(designWidth), static_cast<int>(designHeight));
+  resize(design);
 }
 
 void MainWindow::addPage(QWidget* page) {
@@ -56,6 +27,7 @@ void MainWindow::addPage(QWidget* page) {
 
 void MainWindow::showPage(QWidget* page) {
   pages_.setCurrentWidget(page);
+  page->setFocus();  // no control has the keyboard until the rider wants one
 }
 
 void MainWindow::setTheme(ThemeMode mode) {
@@ -66,18 +38,10 @@ void MainWindow::setTheme(ThemeMode mode) {
 }
 
 void MainWindow::restyle() {
-  const double fitting = std::min(width() / designWidth, height() / designHeight);
-  const double scale = std::max(0.7, std::floor(fitting / step + 1e-9) * step);
+  const double scale = fittingScale(size(), design);
   if (scale == scale_) return;
   scale_ = scale;
-  setProperty("scale", scale);
-  setStyleSheet(themeStyleSheet(mode_, scale));
-  for (QLayout* layout : pages_.findChildren<QLayout*>()) {
-    if (qobject_cast<QStackedLayout*>(layout) == nullptr && layout->parentWidget() != &pages_) {
-      scaleLayout(*layout, scale);
-    }
-  }
-  for (QWidget* widget : pages_.findChildren<QWidget*>()) widget->updateGeometry();
+  scaleWindow(*this, pages_, mode_, scale);
   emit rescaled();
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/picture.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <algorithm>
@@ -65,7 +66,7 @@ QSize Picture::sizeHint() const {
 
 void Picture::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  paint(painter, picture_, QRectF(rect()), palette());
+  paint(painter, picture_, QRectF(rect()), QGuiApplication::palette());
 }
 
 PictureButton::PictureButton(QWidget* parent) : QToolButton(parent) {
@@ -84,7 +85,7 @@ void PictureButton::paintEvent(QPaintEvent* event) {
   const double side = std::min({width(), height(), dp(this, 24)});
   QRectF place(0, 0, side, side);
   place.moveCenter(QRectF(rect()).center());
-  paint(painter, picture_, place, palette());
+  paint(painter, picture_, place, QGuiApplication::palette());
 }
 
 }  // namespace desktop

@@ -20,7 +20,7 @@ struct NamedColour {
   const char* light;
 };
 
-constexpr std::array<NamedColour, 14> colours{{
+constexpr std::array<NamedColour, 15> colours{{
     {"ground", "#0f1419", "#f4f6f8"},
     {"card", "#182029", "#ffffff"},
     {"raised", "#202b36", "#eaeff3"},
@@ -35,6 +35,7 @@ constexpr std::array<NamedColour, 14> colours{{
     {"warning", "#ffb454", "#8a5200"},
     {"wrong", "#ff6b6b", "#b3261e"},
     {"good", "#5ad19a", "#0f7347"},
+    {"scrim", "#d80b0f13", "#d8e4e9ee"},
 }};
 
 struct FamilyColour {

@@ -1,6 +1,8 @@
 // ventoria-stage: the console's commands over the desktop's real windows, with the console's simulated
 // devices and clock, and pictures of what stands there.
 #include <QApplication>
+#include <QMenu>
+#include <QPainter>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -42,10 +44,18 @@ StageOptions parse(std::vector<std::string> words) {
 }
 
 void capture(desktop::Windows& windows, const platform::Form& form, const std::string& path) {
-  if (windows.page(form) == nullptr) throw console::CommandError(form.name() + " has no window");
+  QWidget* window = windows.windowOf(form);
+  if (window == nullptr) throw console::CommandError(form.name() + " has no window");
   windows.refresh();
   for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
-  if (!windows.window().grab().save(desktop::toQt(path))) throw console::CommandError("cannot write " + path);
+  QPixmap picture = window->grab();
+  QPainter painter(&picture);
+  for (QWidget* menu : QApplication::topLevelWidgets()) {
+    if (qobject_cast<QMenu*>(menu) == nullptr || !menu->isVisible()) continue;
+    painter.drawPixmap(menu->pos() - window->pos(), menu->grab());
+  }
+  painter.end();
+  if (!picture.save(desktop::toQt(path))) throw console::CommandError("cannot write " + path);
 }
 
 int run(const StageOptions& options) {
