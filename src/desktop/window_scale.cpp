@@ -1,0 +1,56 @@
+#include "desktop/window_scale.h"
+
+#include <QLayout>
+#include <QStackedLayout>
+#include <algorithm>
+#include <cmath>
+
+namespace desktop {
+namespace {
+
+constexpr double step = 0.05;  // a new style sheet for every pixel of a drag would stutter
+constexpr double smallest = 0.7;
+
+// A layout's own lengths, remembered at the first meeting, at a scale.
+void scaleLayout(QLayout& layout, double scale) {
+  if (!layout.property("design").isValid()) {
+    const QMargins margins = layout.contentsMargins();
+    QVariantList lengths{margins.left(), margins.top(), margins.right(), margins.bottom()};
+    if (const auto* grid = qobject_cast<QGridLayout*>(&layout)) {
+      lengths << grid->horizontalSpacing() << grid->verticalSpacing();
+    } else {
+      lengths << layout.spacing() << layout.spacing();
+    }
+    layout.setProperty("design", lengths);
+  }
+  const QVariantList lengths = layout.property("design").toList();
+  const auto length = [&](qsizetype i) { return static_cast<int>(std::lround(lengths[i].toInt() * scale)); };
+  layout.setContentsMargins(length(0), length(1), length(2), length(3));
+  if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
+    grid->setHorizontalSpacing(length(4));
+    grid->setVerticalSpacing(length(5));
+  } else {
+    layout.setSpacing(length(4));
+  }
+}
+
+}  // namespace
+
+double fittingScale(const QSize& size, const QSize& design) {
+  const double fitting = std::min(size.width() / static_cast<double>(design.width()),
+                                  size.height() / static_cast<double>(design.height()));
+  return std::max(smallest, std::floor(fitting / step + 1e-9) * step);
+}
+
+void scaleWindow(QWidget& window, QWidget& contents, ThemeMode mode, double scale) {
+  window.setProperty("scale", scale);
+  window.setStyleSheet(themeStyleSheet(mode, scale));
+  for (QLayout* layout : contents.findChildren<QLayout*>()) {
+    if (qobject_cast<QStackedLayout*>(layout) == nullptr && layout->parentWidget() != &contents) {
+      scaleLayout(*layout, scale);
+    }
+  }
+  for (QWidget* widget : contents.findChildren<QWidget*>()) widget->updateGeometry();
+}
+
+}  // namespace desktop

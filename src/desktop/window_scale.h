@@ -1,0 +1,16 @@
+// Everything in a window grows with it: the style sheet's lengths and the layouts' own.
+#pragma once
+
+#include <QSize>
+#include <QWidget>
+
+#include "desktop/theme.h"
+
+namespace desktop {
+
+// How much larger than its design a window is, in steps that keep a drag from stuttering.
+[[nodiscard]] double fittingScale(const QSize& size, const QSize& design);
+// Shows all of `contents` at that scale, under the style sheet of its window.
+void scaleWindow(QWidget& window, QWidget& contents, ThemeMode mode, double scale);
+
+}  // namespace desktop
