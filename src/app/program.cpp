@@ -2,9 +2,12 @@
 
 #include "capture/page.h"
 #include "editor/page.h"
+#include "help/films.h"
+#include "help/web.h"
 #include "platform/fault.h"
 #include "player/file_information.h"
 #include "player/player.h"
+#include "print/print_form.h"
 #include "runner/advance.h"
 #include "runner/chrono.h"
 #include "runner/countdown.h"
@@ -13,6 +16,7 @@
 #include "runner/reset.h"
 #include "runner/settings_page.h"
 #include "voice/toolbox.h"
+#include "volume/volume_general.h"
 
 namespace app {
 
@@ -31,7 +35,11 @@ struct Program::Logic {
                    player::informationFichier(player::programFile(), setup.version).FileVersion),
         editorPage(tools),
         player(tools),
-        announcementsPage(tools, setup.documentsFolder) {}
+        announcementsPage(tools, setup.documentsFolder),
+        volumeGeneral(tools),
+        printForm(tools),
+        films(tools),
+        web(tools) {}
 
   voice::Voice voice;
   voice::Toolbox tools;
@@ -45,6 +53,10 @@ struct Program::Logic {
   editor::Page editorPage;
   player::Player player;
   capture::Page announcementsPage;
+  volume::VolumeGeneral volumeGeneral;
+  print::PrintForm printForm;
+  help::Films films;
+  help::Web web;
 };
 
 namespace {

@@ -9,8 +9,12 @@
 #include "console/reach.h"
 #include "console/ride_clock.h"
 #include "console/ride_screen.h"
+#include "console/simulated_endpoint_volume.h"
 #include "console/simulated_media.h"
+#include "console/simulated_output_level.h"
+#include "console/simulated_printer.h"
 #include "console/simulated_screen_saver.h"
+#include "console/simulated_shell.h"
 #include "console/simulated_sound.h"
 #include "platform/disk_file_system.h"
 #include "platform/media_parser.h"
@@ -99,8 +103,13 @@ class Ride {
         saver_(journal_),
         media_(clock_, files_, machine_),
         mediaCommands_(media_),
-        program_({clock_, voice_, dialogs_, files_, saver_, mediaCommands_},
-                 {scratch_.folder(), VENTORIA_VERSION, {}}),
+        level_(journal_),
+        shell_(journal_),
+        volume_(machine_, journal_),
+        printer_(journal_),
+        program_(
+            {clock_, voice_, dialogs_, files_, saver_, mediaCommands_, level_, shell_, volume_, printer_},
+            {scratch_.folder(), VENTORIA_VERSION, {}}),
         glance_(static_cast<int>(100 * speed)) {
     silence_.attach(loop_);
     loop_.onInput([this] { attend(); });
@@ -179,6 +188,10 @@ class Ride {
   SimulatedMachine machine_;
   SimulatedMedia media_;
   platform::ParsedMediaCommands mediaCommands_;
+  SimulatedOutputLevel level_;
+  SimulatedShell shell_;
+  SimulatedEndpointVolume volume_;
+  SimulatedPrinter printer_;
   app::Program program_;
   platform::EventLoop& loop_ = program_.loop();
   forms::MainForm& main_ = program_.screens().main;

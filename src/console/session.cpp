@@ -1,5 +1,7 @@
 #include "console/session.h"
 
+#include "platform/documents_folder.h"
+
 namespace console {
 namespace {
 
@@ -10,9 +12,11 @@ std::unique_ptr<platform::Clock> clockFor(const Options& options) {
 
 }  // namespace
 
-Session::Session(const Options& options, const std::string& folder, std::ostream& out, RiderHands* hands)
+Session::Session(const Options& options, const std::string& folder, std::ostream& out, RiderHands* hands,
+                 platform::FileSystem* files)
     : clock_(clockFor(options)),
       journal_(*clock_),
+      files_(files != nullptr ? *files : disk_),
       sound_(options.sound, files_, folder, journal_),
       dialogs_(journal_),
       screenSaver_(journal_),
@@ -20,9 +24,15 @@ Session::Session(const Options& options, const std::string& folder, std::ostream
       media_(*clock_, files_, machine_),
       mediaCommands_(media_),
       journaledMedia_(mediaCommands_, journal_),
+      level_(journal_),
+      shell_(journal_),
+      volume_(machine_, journal_),
+      printer_(journal_),
       program_(
-          {*clock_, sound_, dialogs_, files_, screenSaver_, journaledMedia_},
-          {folder, VENTORIA_VERSION, [this](const std::string& text) { journal_.write("fault", {text}); }}),
+          {*clock_, sound_, dialogs_, files_, screenSaver_, journaledMedia_, level_, shell_, volume_,
+           printer_},
+          {folder, VENTORIA_VERSION, [this](const std::string& text) { journal_.write("fault", {text}); },
+           platform::documentsFolder()}),
       interpreter_({program_.screens(), program_.state(), program_.loop(), journal_, dialogs_, machine_},
                    hands != nullptr ? *hands : directHands_, out) {
   sound_.attach(program_.loop());

@@ -9,8 +9,12 @@
 #include "console/direct_hands.h"
 #include "console/interpreter.h"
 #include "console/options.h"
+#include "console/simulated_endpoint_volume.h"
 #include "console/simulated_media.h"
+#include "console/simulated_output_level.h"
+#include "console/simulated_printer.h"
 #include "console/simulated_screen_saver.h"
+#include "console/simulated_shell.h"
 #include "platform/disk_file_system.h"
 #include "platform/media_parser.h"
 
@@ -18,9 +22,10 @@ namespace console {
 
 class Session {
  public:
-  // `folder` is absolute. `hands` are those of a front with windows, which also tells of its pop-up menus; none:
-  // hands on the controls themselves.
-  Session(const Options& options, const std::string& folder, std::ostream& out, RiderHands* hands = nullptr);
+  // `folder` is absolute. `hands` are those of a front with windows, which also tells of its pop-up menus;
+  // none: hands on the controls themselves. `files` stands in for the disk.
+  Session(const Options& options, const std::string& folder, std::ostream& out, RiderHands* hands = nullptr,
+          platform::FileSystem* files = nullptr);
 
   // Starts the program, then carries out the commands. The exit status.
   int run(std::istream& in, std::ostream& errors);
@@ -31,7 +36,8 @@ class Session {
  private:
   std::unique_ptr<platform::Clock> clock_;
   Journal journal_;
-  platform::DiskFileSystem files_;
+  platform::DiskFileSystem disk_;
+  platform::FileSystem& files_;
   SimulatedSound sound_;
   ScriptedDialogs dialogs_;
   SimulatedScreenSaver screenSaver_;
@@ -39,6 +45,10 @@ class Session {
   SimulatedMedia media_;
   platform::ParsedMediaCommands mediaCommands_;
   JournaledMedia journaledMedia_;
+  SimulatedOutputLevel level_;
+  SimulatedShell shell_;
+  SimulatedEndpointVolume volume_;
+  SimulatedPrinter printer_;
   app::Program program_;
   DirectHands directHands_;
   Interpreter interpreter_;

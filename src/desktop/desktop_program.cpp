@@ -19,7 +19,10 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode mode)
                                }}),
       dialogs_([this]() -> QWidget* { return &windows_.window(); }),
       level_(connection_),
-      program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_},
+      shell_(dialogs_),
+      volume_(connection_),
+      printer_(dialogs_),
+      program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_, volume_, printer_},
                {folder, VENTORIA_VERSION, {}, platform::documentsFolder()}),
       windows_(program_, mode) {
   alarm_.setSingleShot(true);

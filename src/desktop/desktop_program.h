@@ -9,10 +9,12 @@
 #include "desktop/dbus_screen_saver.h"
 #include "desktop/mpv_media.h"
 #include "desktop/pulse_connection.h"
+#include "desktop/pulse_endpoint_volume.h"
 #include "desktop/pulse_output_level.h"
 #include "desktop/pulse_sound_output.h"
 #include "desktop/qt_clock.h"
 #include "desktop/qt_dialogs.h"
+#include "desktop/qt_printer.h"
 #include "desktop/qt_shell.h"
 #include "desktop/windows.h"
 #include "platform/disk_file_system.h"
@@ -49,6 +51,8 @@ class DesktopProgram final : public QObject {
   platform::ParsedMediaCommands media_{mpv_};
   PulseOutputLevel level_;
   QtShell shell_;
+  PulseEndpointVolume volume_;
+  QtPrinter printer_;
   app::Program program_;
   Windows windows_;
   QTimer alarm_;

@@ -15,7 +15,7 @@ namespace desktop {
 namespace {
 
 constexpr double kPointsPerTwip = 1.0 / 20;
-constexpr double kLineOfText = 360;                    // twips, the footer with the space above it
+constexpr double kLineOfText = 360;                     // twips, the footer with the space above it
 constexpr std::array<double, 4> kSizes{9, 8, 7, 6.25};  // points, the first that fits is taken
 const QColor kInk(0, 0, 0);
 const QColor kHair(0x9a, 0xa5, 0xb0);
@@ -51,7 +51,8 @@ void paintText(const Paper& paper, const QRectF& cell, QString text, Qt::Alignme
     fits = needed.width() <= inside.width() && needed.height() <= inside.height();
     if (fits) break;
   }
-  if (!fits) text = QFontMetricsF(font, paper.painter.device()).elidedText(text, Qt::ElideRight, inside.width());
+  if (!fits)
+    text = QFontMetricsF(font, paper.painter.device()).elidedText(text, Qt::ElideRight, inside.width());
   paper.painter.setFont(font);
   paper.painter.setPen(kInk);
   paper.painter.drawText(inside, fits ? wrapFlags(place) : static_cast<int>(place), text);
@@ -59,9 +60,12 @@ void paintText(const Paper& paper, const QRectF& cell, QString text, Qt::Alignme
 
 Qt::Alignment placeOf(platform::CellPlace place) {
   switch (place) {
-    case platform::CellPlace::Left: return Qt::AlignLeft | Qt::AlignVCenter;
-    case platform::CellPlace::Centre: return Qt::AlignCenter;
-    case platform::CellPlace::CentreBottom: return Qt::AlignHCenter | Qt::AlignBottom;
+    case platform::CellPlace::Left:
+      return Qt::AlignLeft | Qt::AlignVCenter;
+    case platform::CellPlace::Centre:
+      return Qt::AlignCenter;
+    case platform::CellPlace::CentreBottom:
+      return Qt::AlignHCenter | Qt::AlignBottom;
   }
   return Qt::AlignCenter;
 }
@@ -70,7 +74,8 @@ Qt::Alignment placeOf(platform::CellPlace place) {
 void paintFamily(const Paper& paper, const QRectF& cell, const std::string& kind) {
   const QColor colour = familyColour(themePalette(ThemeMode::Light), model::effortFamily(kind));
   const double gap = 25 * paper.unit;
-  paper.painter.fillRect(QRectF(cell.left() + gap, cell.top() + gap, 90 * paper.unit, cell.height() - 2 * gap), colour);
+  paper.painter.fillRect(
+      QRectF(cell.left() + gap, cell.top() + gap, 90 * paper.unit, cell.height() - 2 * gap), colour);
 }
 
 bool namesAKind(const std::string& text) {

@@ -89,7 +89,8 @@ bool PulseEndpointVolume::open() {
     request = pa_context_get_server_info(
         followed_,
         [](pa_context*, const pa_server_info* server, void* name) {
-          if (server && server->default_sink_name) *static_cast<std::string*>(name) = server->default_sink_name;
+          if (server && server->default_sink_name)
+            *static_cast<std::string*>(name) = server->default_sink_name;
         },
         &found);
   }

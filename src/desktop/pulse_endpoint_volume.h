@@ -52,8 +52,8 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
   std::string sink_;
   std::optional<Device> device_;  // with all below, touched under the connection's lock
   std::vector<pa_operation*> requests_;
-  int writes_ = 0;                // on their way: what the server answers meanwhile is older than they are
-  bool seen_ = false;             // whether the last look found a device
+  int writes_ = 0;     // on their way: what the server answers meanwhile is older than they are
+  bool seen_ = false;  // whether the last look found a device
 };
 
 }  // namespace desktop

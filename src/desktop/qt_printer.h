@@ -40,10 +40,10 @@ class QtPrinter final : public platform::Printer {
   platform::PrintQuality quality_ = platform::PrintQuality::High;
   std::unique_ptr<QPrinter> printer_;
   QPainter painter_;
-  QString file_;             // the PDF file; empty on paper
-  bool declined_ = false;    // the rider wants no file: nothing is drawn until all is finished
-  bool pageEnded_ = false;   // the next document begins on a new page of the file
-  double bottom_ = 0;        // of what stands on the page
+  QString file_;            // the PDF file; empty on paper
+  bool declined_ = false;   // the rider wants no file: nothing is drawn until all is finished
+  bool pageEnded_ = false;  // the next document begins on a new page of the file
+  double bottom_ = 0;       // of what stands on the page
 };
 
 }  // namespace desktop

@@ -3,9 +3,13 @@
 
 #include "platform/clock.h"
 #include "platform/dialogs.h"
+#include "platform/endpoint_volume.h"
 #include "platform/file_system.h"
 #include "platform/media_commands.h"
+#include "platform/output_level.h"
+#include "platform/printer.h"
 #include "platform/screen_saver.h"
+#include "platform/shell.h"
 #include "platform/sound_output.h"
 
 namespace platform {
@@ -17,6 +21,10 @@ struct Outside {
   FileSystem& files;
   ScreenSaver& screenSaver;
   MediaCommands& media;
+  OutputLevel& level;
+  Shell& shell;
+  EndpointVolume& volume;
+  Printer& printer;
 };
 
 }  // namespace platform

@@ -1,0 +1,26 @@
+#include "help/web.h"
+
+#include "help/addresses.h"
+
+namespace help {
+
+Web::Web(const voice::Toolbox& tools) : tools_(tools) {
+  forms::MainForm& main = tools_.screens.main;
+  main.mnVisitSite.click.handle([this] { visit(address::author); });
+  main.mnMenuVentoria.click.handle([this] { visit(address::product); });
+  main.mnPartenaire.click.handle([this] { visit(address::partner); });
+  // The product's name is where a rider looks for those who made it.
+  main.Label30.click.handle([&main] { main.Picture12.visible = true; });
+}
+
+void Web::visit(const std::string& address) {
+  if (tools_.outside.shell.connected()) {
+    tools_.outside.shell.openAddress(address);
+  } else {
+    tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
+                                    "Impossibilité de se Connecter...",
+                                    "Vous n'êtes pas Connecté à Internet, veuillez essayer ultérieurement."});
+  }
+}
+
+}  // namespace help

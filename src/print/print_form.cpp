@@ -1,0 +1,203 @@
+#include "print/print_form.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <new>
+
+#include "model/grid_rows.h"
+#include "model/time_value.h"
+#include "platform/fault.h"
+
+namespace print {
+namespace {
+
+constexpr int tallRow = 600;   // twips: the head and the first row
+constexpr int plainRow = 315;  // twips
+
+struct HeadCell {
+  const char* text;
+  int width;  // twips
+  platform::CellPlace place;
+};
+
+// The last three columns (announcement, delete mark, heart rate) get no head, and the width that they need.
+constexpr std::array<HeadCell, 12> headCells{{
+    {"N°", 500, platform::CellPlace::CentreBottom},
+    {"Le Nom de la Séance", 3500, platform::CellPlace::CentreBottom},
+    {"Nom de la Séquence", 2000, platform::CellPlace::Centre},
+    {"Cadence", 1200, platform::CellPlace::Centre},
+    {"Plateau", 1500, platform::CellPlace::Left},
+    {"Braquet", 1500, platform::CellPlace::Centre},
+    {"Rép O/N", 1200, platform::CellPlace::Centre},
+    {"NB Fois", 900, platform::CellPlace::Centre},
+    {"Durée H:M:S", 1835, platform::CellPlace::Centre},
+    {"", 2000, platform::CellPlace::Left},
+    {"", 300, platform::CellPlace::Left},
+    {"", 1000, platform::CellPlace::Left},
+}};
+
+constexpr int kindColumn = 2;
+
+// Steps of `step` from 1 up to `last`.
+int stepsTo(int last, int step) {
+  return (last + step - 1) / step;
+}
+
+std::string twoDigits(unsigned number) {
+  return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+// "16/11/2026"
+std::string dateOf(platform::LocalTime now) {
+  const std::chrono::year_month_day date{std::chrono::floor<std::chrono::days>(now)};
+  return twoDigits(static_cast<unsigned>(date.day())) + "/" + twoDigits(static_cast<unsigned>(date.month())) +
+         "/" + std::to_string(static_cast<int>(date.year()));
+}
+
+std::string timeOf(platform::LocalTime now) {
+  const auto sinceMidnight = now - std::chrono::floor<std::chrono::days>(now);
+  return model::formatSeconds(std::chrono::floor<std::chrono::seconds>(sinceMidnight).count());
+}
+
+}  // namespace
+
+platform::PageGrid pageFrom(const forms::ImprimerTQ1& form, int firstRow) {
+  platform::PageGrid page;
+  page.headHeight = tallRow;
+  page.kindColumn = kindColumn;
+  for (const HeadCell& cell : headCells) page.columns.push_back({cell.text, cell.width, cell.place});
+  // A grid cannot be scrolled beyond its last row.
+  const int top = std::min(firstRow, form.Grid.rowCount());
+  const int bottom = std::min(top + rowsPerPage - 1, form.Grid.rowCount());
+  for (int row = top; row <= bottom; ++row) {
+    platform::PageGrid::Row& line = page.rows.emplace_back();
+    line.height = row == 1 ? tallRow : plainRow;
+    for (int column = 1; column <= form.Grid.columnCount(); ++column) {
+      line.cells.push_back(form.Grid.text(row, column));
+    }
+  }
+  return page;
+}
+
+PrintForm::PrintForm(const voice::Toolbox& tools)
+    : tools_(tools), form_(tools.screens.print), printer_(tools.outside.printer) {
+  form_.onLoad.handle([this] { prepare(); });
+  tools_.screens.editor.Command35.click.handle([this] { open(); });
+  tools_.screens.editor.mnImprim.click.handle([this] { open(); });
+  form_.Timer1.tick.handle([this] {
+    form_.Timer1.enabled = false;
+    form_.Command2.click();
+  });
+  form_.Command1.click.handle([this] { printList(); });
+  form_.Command2.click.handle([this] { loadList(); });
+  form_.Command3.click.handle([this] { form_.unload(); });
+  form_.MyButton1.click.handle([this] {
+    form_.MyButton2.visible = false;
+    form_.Command1.click();
+    leave();
+  });
+  form_.MyButton2.click.handle([this] {
+    printer_.killDocument();
+    leave();
+  });
+  form_.Command34.click.handle([this] { form_.MyButton2.click(); });
+  const auto exclude = [](platform::Option& chosen, platform::Option& other) {
+    chosen.click.handle([&chosen, &other] {
+      if (chosen.value) other.value = false;
+    });
+  };
+  exclude(form_.Option1, form_.Option2);
+  exclude(form_.Option2, form_.Option1);
+  form_.Label1.click.handle([this] { form_.Option1.value = true; });
+}
+
+// The form opens each time as if it were new.
+void PrintForm::prepare() {
+  form_.MyFrame1.caption = "";
+  form_.ProgressBar1.visible = false;
+  form_.MyButton2.visible = true;
+  form_.Option1.value = true;
+}
+
+void PrintForm::open() {
+  form_.show();
+  form_.Timer1.enabled = true;
+}
+
+void PrintForm::leave() {
+  form_.Grid.clearRows();
+  form_.Command3.click();
+}
+
+void PrintForm::loadList() {
+  const platform::Grid& list = tools_.screens.editor.ListView1;
+  const int rows = list.rowCount();
+  if (rows < 1) return;
+  form_.Grid.clearRows();
+  form_.Grid.clearColumns();
+  for (const HeadCell& cell : headCells) {
+    form_.Grid.addColumn({cell.text, cell.width, platform::Alignment::Centre});
+  }
+  for (int row = 1; row <= rows; ++row) loadRow(row);
+  form_.MyFrame1.caption = std::to_string(stepsTo(rows, rowsPerPage)) + " page(s) à Imprimer";
+}
+
+// Without the cycle's name; the number of each row is that of the one above it.
+void PrintForm::loadRow(int row) {
+  const platform::Grid& list = tools_.screens.editor.ListView1;
+  std::vector<std::string> cells{row == 1 ? " " : list.text(row - 1, model::column::number)};
+  for (int column = model::column::sessionName; column <= list.columnCount(); ++column) {
+    cells.push_back(list.text(row, column));
+  }
+  form_.Grid.addRow(std::move(cells));
+}
+
+void PrintForm::printList() {
+  form_.ProgressBar1.visible = true;
+  form_.ProgressBar1.value = 0;
+  page_ = 0;
+  // By the grid's rows, not the list's: 35 rows of a list make two pages.
+  pages_ = stepsTo(gridRows(), rowsPerPage);
+  try {
+    for (int row = 1; row <= gridRows(); row += rowsPerPage) {
+      ++page_;
+      form_.MyFrame1.caption =
+          "Impression de " + std::to_string(page_) + "/" + std::to_string(pages_) + " page(s)";
+      form_.ProgressBar1.value = static_cast<int>(std::lround(100 - 100.0 / page_));
+      if (gridRows() == 1) break;
+      printPage(row);
+    }
+    printer_.finish();
+  } catch (const platform::OutOfMemory&) {
+    tooLarge();
+  } catch (const std::bad_alloc&) {
+    tooLarge();
+  } catch (const platform::Fault&) {  // is not told
+    form_.Grid.clearRows();
+  }
+}
+
+void PrintForm::printPage(int firstRow) {
+  form_.Grid.reveal(firstRow);
+  printer_.setOrientation(platform::PageOrientation::Landscape);
+  if (form_.Option1.value) printer_.setColourMode(platform::ColourMode::Colour);
+  if (form_.Option2.value) printer_.setColourMode(platform::ColourMode::Monochrome);
+  printer_.setPaperSize(platform::PaperSize::A4);
+  printer_.setQuality(platform::PrintQuality::High);
+  printer_.paintPicture(pageFrom(form_, firstRow), 0, 0);
+  const platform::LocalTime now = tools_.loop.clock().localTime();
+  printer_.printLine("Edité Le(" + dateOf(now) + ") à (" + timeOf(now) + ") Page (" + std::to_string(page_) +
+                     "/" + std::to_string(pages_) + ")");
+  printer_.endDocument();
+}
+
+void PrintForm::tooLarge() {
+  tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
+                                  "Dépassement de Capacité...",
+                                  "Cette Sélection est trop volumineuse (" + std::to_string(pages_) +
+                                      " pages) pour l'envoyer à l'Impression..."});
+  form_.Grid.clearRows();
+}
+
+}  // namespace print

@@ -1,0 +1,37 @@
+// The print form: copies the editor's list and sends it to the printer, each page a document of its own.
+#pragma once
+
+#include "platform/printer.h"
+#include "voice/toolbox.h"
+
+namespace print {
+
+inline constexpr int rowsPerPage = 35;
+
+// The page that begins with a row of the form's grid.
+[[nodiscard]] platform::PageGrid pageFrom(const forms::ImprimerTQ1& form, int firstRow);
+
+class PrintForm {
+ public:
+  explicit PrintForm(const voice::Toolbox& tools);
+
+ private:
+  void prepare();
+  void open();
+  void loadList();
+  void loadRow(int row);
+  void printList();
+  void printPage(int firstRow);
+  void tooLarge();
+  void leave();
+  // The grid's rows on paper, the head counted in.
+  [[nodiscard]] int gridRows() const { return form_.Grid.rowCount() + 1; }
+
+  voice::Toolbox tools_;
+  forms::ImprimerTQ1& form_;
+  platform::Printer& printer_;
+  int page_ = 0;
+  int pages_ = 0;
+};
+
+}  // namespace print

@@ -1,0 +1,139 @@
+#include "volume/volume_general.h"
+
+#include <algorithm>
+#include <array>
+
+namespace volume {
+namespace {
+
+using platform::Colour;
+
+constexpr int silentBelow = 50;  // %, from where a ride can be heard in a room
+constexpr Colour red = Colour::rgb(255, 0, 0);
+constexpr Colour black = Colour::rgb(0, 0, 0);
+constexpr Colour green = Colour::rgb(0, 255, 0);
+constexpr Colour darkBlue = Colour::rgb(0, 0, 128);
+
+struct Advice {
+  int from;  // %
+  const char* text;
+  Colour colour;
+};
+
+// The last row whose level is reached counts.
+constexpr std::array<Advice, 4> advices{{
+    {0, "Le Volume de votre (Son) semble insuffisant...", red},
+    {silentBelow, "Le Volume de votre (Son) semble un peu faible...", green},
+    {75, "Le Volume de votre (Son) semble satisfaisant...", darkBlue},
+    {86, "Le Volume de votre (Son) semble un peu fort...", black},
+}};
+
+const Advice& adviceFor(int percent) {
+  return *std::find_if(advices.rbegin(), advices.rend(),
+                       [&](const Advice& row) { return percent >= row.from; });
+}
+
+std::string asText(bool value) {
+  return value ? "Vrai" : "Faux";
+}
+
+}  // namespace
+
+VolumeGeneral::VolumeGeneral(const voice::Toolbox& tools)
+    : tools_(tools), form_(tools.screens.volume), main_(tools.screens.main) {
+  form_.onLoad.handle([this] { load(); });
+  form_.onUnload.handle([this] { master_.reset(); });
+  form_.Tmr_Spy.tick.handle([this] { spy(); });
+  const auto setPercent = [this] { master().Percent(form_.VScroll1.value); };
+  form_.VScroll1.change.handle(setPercent);
+  form_.VScroll1.scroll.handle(setPercent);
+  form_.Chk_Mute.click.handle([this] { master().Mute(form_.Chk_Mute.value == 1); });
+  form_.MyButton7.click.handle([this] { form_.unload(); });
+  main_.Picture2.click.handle([this] { main_.Frame5.visible = false; });
+  connectCallers();
+}
+
+void VolumeGeneral::connectCallers() {
+  for (platform::MenuItem* entry : {&main_.mnVolume, &main_.mnRGS, &main_.mnRGS2}) {
+    entry->click.handle([this] { form_.show(); });
+  }
+  for (platform::Button* button : {&main_.MyButton13, &tools_.screens.announcements.MyButton15}) {
+    button->click.handle([this] { form_.show(); });
+  }
+  main_.MyButton14.click.handle([this] {
+    form_.unload();
+    main_.Timer7.enabled = false;  // the ten seconds begin anew
+    main_.Timer7.interval = 10000;
+    main_.Timer7.enabled = true;
+    form_.show();
+  });
+  main_.Timer7.tick.handle([this] {
+    form_.unload();
+    main_.Timer7.enabled = false;
+  });
+  const auto openSettings = [this] { tools_.outside.shell.openSoundSettings(); };
+  form_.MyButton10.click.handle(openSettings);
+  for (platform::MenuItem* entry : {&main_.mnAjusterAudio, &main_.mnAjustAudio, &main_.mnAjustAudio2}) {
+    entry->click.handle(openSettings);
+  }
+}
+
+clsAfMasterVolume& VolumeGeneral::master() {
+  if (!master_) master_.emplace(tools_.outside.volume);
+  return *master_;
+}
+
+void VolumeGeneral::load() {
+  const bool volume = master().VolumeEnabled();
+  const bool mute = master().MuteEnabled();
+  form_.Lbl_OS.caption =
+      clsAfMasterVolume::UseAudioInterface() ? "(Pour Vista et supérieur)" : "(Pour XP et inférieur)";
+  form_.Lbl_Class.caption = "Volume supporté => " + asText(volume) + "\nMute supporté => " + asText(mute);
+  form_.VScroll1.enabled = volume;
+  form_.Chk_Mute.enabled = mute;
+  form_.Lbl_SoundCard1.caption = "Nombre de cartes : '" + std::to_string(master().GetNumberOfDevices()) + "'";
+  form_.Txt_CardName.text = master().GetActiveDeviceName();
+}
+
+void VolumeGeneral::spy() {
+  form_.Chk_Mute.value = master().Mute() ? 1 : 0;
+  etatMuet_ = form_.Chk_Mute.value;
+  showMute();
+  showVolume();
+  noticeOnce();
+}
+
+void VolumeGeneral::showMute() {
+  const bool on = etatMuet_ == 0;
+  main_.Label34.caption = on ? "Le (Son) est Activé." : "Mais le (Son) est Désactivé.";
+  main_.Label34.colour = on ? darkBlue : red;
+  main_.Image17.visible = on;
+  main_.Image18.visible = !on;
+  form_.Image3.picture = on ? form_.Image1.picture : form_.Image4.picture;
+  tools_.screens.editor.Image2.picture = form_.Image3.picture;
+}
+
+// Where the bars really move they write back what was read, which changes nothing.
+void VolumeGeneral::showVolume() {
+  const int percent = master().Percent();
+  form_.VScroll1.value = percent;
+  tools_.screens.announcements.VScroll2.value = percent;
+  form_.Lbl_Volume.caption = std::to_string(percent) + " %";
+  volumeAffiche_ = std::to_string(percent);
+  main_.Label38.caption = "Volume Actuel (" + volumeAffiche_ + "%)";
+  const Advice& advice = adviceFor(percent);
+  main_.Label36.caption = advice.text;
+  main_.Label36.colour = advice.colour;
+}
+
+// A sound that nobody would hear is told once, at the start, where it can be put right.
+void VolumeGeneral::noticeOnce() {
+  if (noticed_) return;
+  noticed_ = true;
+  const bool unheard = etatMuet_ != 0 || form_.VScroll1.value < silentBelow;
+  if (!master().VolumeEnabled() || !unheard) return;
+  main_.Picture2.caption = main_.Label36.caption.get() + "\n" + main_.Label34.caption.get();
+  main_.Frame5.visible = true;
+}
+
+}  // namespace volume

@@ -1,0 +1,34 @@
+// The volume dialog, and the advice about the sound that it keeps up to date on the other screens.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "voice/toolbox.h"
+#include "volume/cls_af_master_volume.h"
+
+namespace volume {
+
+class VolumeGeneral {
+ public:
+  explicit VolumeGeneral(const voice::Toolbox& tools);
+
+ private:
+  clsAfMasterVolume& master();
+  void connectCallers();
+  void load();
+  void spy();
+  void showMute();
+  void showVolume();
+  void noticeOnce();
+
+  voice::Toolbox tools_;
+  forms::VolumeGeneral& form_;
+  forms::MainForm& main_;
+  std::optional<clsAfMasterVolume> master_;  // made at first use, dropped at unload
+  int etatMuet_ = 0;
+  std::string volumeAffiche_;
+  bool noticed_ = false;
+};
+
+}  // namespace volume
