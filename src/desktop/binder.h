@@ -20,6 +20,7 @@ class QCheckBox;
 class QComboBox;
 class QLineEdit;
 class QMenu;
+class QRadioButton;
 
 namespace desktop {
 
@@ -47,6 +48,7 @@ class Binder final : public QObject {
   void tie(platform::Control& control, QWidget& widget);
   void tieButton(platform::Control& control, QAbstractButton& button);
   void tieCheckBox(platform::CheckBox& box, QCheckBox& widget);
+  void tieOption(platform::Option& option, QRadioButton& widget);
   void tieComboBox(platform::ComboBox& box, QComboBox& widget);
   void tieTextBox(platform::TextBox& box, QLineEdit& widget);
   void tieScrollBar(platform::ScrollBar& bar, QAbstractSlider& widget);

@@ -9,9 +9,10 @@ constexpr std::string_view readOut = "a hidden read-out of the row in hand";
 constexpr std::string_view helper = "a hidden helper that only lists files";
 constexpr std::string_view films = "Label20 and Image7 open the films already";
 constexpr std::string_view columnHead = "the grid's header shows its tool tip over the column";
+constexpr std::string_view worker = "a hidden worker that code presses";
 constexpr std::string_view neverShown = "hidden from the start, and nothing ever shows it";
 
-constexpr std::array<UnseenControl, 39> table{{
+constexpr std::array<UnseenControl, 47> table{{
     {"MainForm", "MyFrame4", neverShown},
     {"MainForm", "Image19", neverShown},
     {"MainForm", "Image2", neverShown},
@@ -51,6 +52,14 @@ constexpr std::array<UnseenControl, 39> table{{
     {"CreerCycle", "Label51", neverShown},
     {"CreerCycle", "MyButton27", neverShown},
     {"CreerCycle", "MyButton29", neverShown},
+    {"EnrUneAnnonce", "File1", helper},
+    {"EnrUneAnnonce", "Label23", "Label6 says the same name, and fits it by itself"},
+    {"EnrUneAnnonce", "Label26", "only measures"},
+    {"VolumeGeneral", "Image1", "where Image3 takes its picture from"},
+    {"VolumeGeneral", "Image4", "where Image3 takes its picture from"},
+    {"ImprimerTQ1", "Command1", worker},
+    {"ImprimerTQ1", "Command2", worker},
+    {"ImprimerTQ1", "Command3", worker},
 }};
 
 }  // namespace

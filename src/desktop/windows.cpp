@@ -6,15 +6,16 @@
 #include <array>
 
 #include "desktop/qt_text.h"
+#include "ui_aide_tq.h"
 
 namespace desktop {
 namespace {
 
 // What the window can be dragged by; a press there does nothing else.
-constexpr std::array<const char*, 20> handles{"header",  "Image7",  "MyFrame1", "MyFrame2", "Picture1",
-                                              "Label4",  "Label5",  "Label6",   "Label9",   "Label10",
-                                              "Label11", "Label13", "Label15",  "Label16",  "Label17",
-                                              "Label18", "Label20", "Label39",  "ridePage", "editorHeader"};
+constexpr std::array<const char*, 22> handles{
+    "header",  "Image7",  "MyFrame1", "MyFrame2",     "Picture1",        "Label4",       "Label5",  "Label6",
+    "Label9",  "Label10", "Label11",  "Label13",      "Label15",         "Label16",      "Label17", "Label18",
+    "Label20", "Label39", "ridePage", "editorHeader", "recordingHeader", "libraryHeader"};
 
 }  // namespace
 
@@ -23,23 +24,41 @@ Windows::Windows(app::Program& program, ThemeMode mode)
       window_(mode),
       binder_(program.loop()),
       mainPage_(new QWidget),
-      editorPage_(new QWidget) {
+      editorPage_(new QWidget),
+      announcePage_(new QWidget),
+      volumeWindow_(program.screens().volume, QSize(520, 500), mode, window_),
+      printWindow_(program.screens().print, QSize(980, 740), mode, window_),
+      filmsWindow_(program.screens().films, QSize(860, 620), mode, window_) {
   forms::Screens& screens = program.screens();
   mainView_ = std::make_unique<MainView>(screens.main, program.state(), *mainPage_);
   editorView_ = std::make_unique<EditorView>(screens.editor, *editorPage_, binder_);
-  binder_.bind(screens.main, *mainPage_);
-  binder_.bind(screens.editor, *editorPage_);
-  window_.addPage(mainPage_);
-  window_.addPage(editorPage_);
-  connect(&window_, &MainWindow::rescaled, this, [this] { editorView_->rescale(); });
-  followForm(screens.main, *mainPage_);
-  followForm(screens.editor, *editorPage_);
+  announceView_ =
+      std::make_unique<AnnounceView>(screens.announcements, program.state(), *announcePage_, binder_);
+  const std::array<std::pair<platform::Form*, QWidget*>, 3> pages{
+      {{&screens.main, mainPage_}, {&screens.editor, editorPage_}, {&screens.announcements, announcePage_}}};
+  for (const auto& [form, page] : pages) {
+    binder_.bind(*form, *page);
+    window_.addPage(page);
+    followForm(*form, *page);
+  }
+  connect(&window_, &MainWindow::rescaled, this, [this] {
+    editorView_->rescale();
+    announceView_->rescale();
+  });
   screens.editor.watch([this, &form = screens.editor](platform::Component&, platform::Prop prop) {
     if (prop != platform::Prop::Value) return;
     editorView_->setListMode(form.maximised);
     if (form.maximised != window_.isMaximized())
       form.maximised ? window_.showMaximized() : window_.showNormal();
   });
+  volumeView_ = std::make_unique<VolumeView>(screens.volume, screens.main, volumeWindow_.page());
+  printView_ = std::make_unique<PrintView>(screens.print, printWindow_.page());
+  Ui::AideTQ films;
+  films.setupUi(&filmsWindow_.page());
+  films.filmsTitle->setText(toQt(screens.films.caption.get()));
+  openFormWindow(volumeWindow_, screens.volume, screens.volume.MyButton7);
+  openFormWindow(printWindow_, screens.print, screens.print.Command34);
+  openFormWindow(filmsWindow_, screens.films, screens.films.MyButton9);
   window_.setWindowTitle(toQt(screens.main.caption.get()));
   addShortcuts();
   makeDraggable();
@@ -49,15 +68,45 @@ Windows::Windows(app::Program& program, ThemeMode mode)
 Windows::~Windows() = default;
 
 QWidget* Windows::page(const platform::Form& form) const {
-  if (&form == &program_.screens().main) return mainPage_;
-  return &form == &program_.screens().editor ? editorPage_ : nullptr;
+  const forms::Screens& screens = program_.screens();
+  if (&form == &screens.main) return mainPage_;
+  if (&form == &screens.announcements) return announcePage_;
+  if (&form == &screens.volume) return &volumeWindow_.page();
+  if (&form == &screens.print) return &printWindow_.page();
+  if (&form == &screens.films) return &filmsWindow_.page();
+  return &form == &screens.editor ? editorPage_ : nullptr;
+}
+
+QWidget* Windows::windowOf(const platform::Form& form) {
+  QWidget* shown = page(form);
+  return shown != nullptr ? shown->window() : nullptr;
+}
+
+// `way` is how the rider leaves the form.
+void Windows::openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way) {
+  binder_.bind(form, window.page());
+  window.onClose([this, &way] { binder_.run([&way] { way.click(); }); });
+  window.open();
 }
 
 void Windows::followForm(platform::Form& form, QWidget& page) {
   if (form.visible) window_.showPage(&page);
   form.watch([this, &form, &page](platform::Component&, platform::Prop prop) {
-    if (prop == platform::Prop::Visible && form.visible) window_.showPage(&page);
+    if (prop != platform::Prop::Visible) return;
+    form.visible ? window_.showPage(&page) : showWhatIsLeft();
   });
+}
+
+// A form that closes over another one uncovers it.
+void Windows::showWhatIsLeft() {
+  forms::Screens& screens = program_.screens();
+  for (const platform::Form* form :
+       {static_cast<platform::Form*>(&screens.announcements), static_cast<platform::Form*>(&screens.editor),
+        static_cast<platform::Form*>(&screens.main)}) {
+    if (!form->visible) continue;
+    window_.showPage(page(*form));
+    return;
+  }
 }
 
 void Windows::addShortcuts() {
@@ -85,7 +134,7 @@ void Windows::addShortcuts() {
 }
 
 void Windows::makeDraggable() {
-  for (QWidget* page : {mainPage_, editorPage_}) {
+  for (QWidget* page : {mainPage_, editorPage_, announcePage_}) {
     for (const char* name : handles) {
       if (auto* handle = page->findChild<QWidget*>(QLatin1String(name))) handle->installEventFilter(this);
     }
@@ -108,6 +157,9 @@ void Windows::speak(const QString& text) {
 void Windows::refresh() {
   mainView_->refresh();
   editorView_->refresh();
+  announceView_->refresh();
+  volumeView_->refresh();
+  printView_->refresh();
 }
 
 }  // namespace desktop

@@ -6,10 +6,14 @@
 #include <memory>
 
 #include "app/program.h"
+#include "desktop/announce_view.h"
 #include "desktop/binder.h"
 #include "desktop/editor_view.h"
+#include "desktop/form_window.h"
 #include "desktop/main_view.h"
 #include "desktop/main_window.h"
+#include "desktop/print_view.h"
+#include "desktop/volume_view.h"
 
 namespace desktop {
 
@@ -23,12 +27,18 @@ class Windows final : public QObject {
   [[nodiscard]] Binder& binder() { return binder_; }
   // The page that shows a form; null for a form without one.
   [[nodiscard]] QWidget* page(const platform::Form& form) const;
+  // The window that shows a form; null for a form without one.
+  [[nodiscard]] QWidget* windowOf(const platform::Form& form);
   void speak(const QString& text);
+  // What writes the recorder's take to a file, so that its form can be drawn.
+  void onTake(std::function<void(const std::string& path)> save) { announceView_->onTake(std::move(save)); }
   // Brings what is drawn up to date at once.
   void refresh();
 
  private:
   void followForm(platform::Form& form, QWidget& page);
+  void showWhatIsLeft();
+  void openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way);
   void addShortcuts();
   void makeDraggable();
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,8 +48,15 @@ class Windows final : public QObject {
   Binder binder_;
   QWidget* mainPage_;
   QWidget* editorPage_;
+  QWidget* announcePage_;
   std::unique_ptr<MainView> mainView_;
   std::unique_ptr<EditorView> editorView_;
+  std::unique_ptr<AnnounceView> announceView_;
+  FormWindow volumeWindow_;
+  FormWindow printWindow_;
+  FormWindow filmsWindow_;
+  std::unique_ptr<VolumeView> volumeView_;
+  std::unique_ptr<PrintView> printView_;
 };
 
 }  // namespace desktop

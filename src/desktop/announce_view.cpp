@@ -1,0 +1,150 @@
+#include "desktop/announce_view.h"
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "desktop/look.h"
+#include "desktop/qt_text.h"
+#include "ui_enr_une_annonce.h"
+
+namespace desktop {
+namespace {
+
+// The number that stands in a text behind a beginning; 0 for none.
+int numberBehind(const std::string& text, const QString& beginning) {
+  const QRegularExpression pattern(QRegularExpression::escape(beginning) + QStringLiteral("\\s*(\\d+)"));
+  return pattern.match(toQt(text)).captured(1).toInt();
+}
+
+// Seconds of "00:03:12.500"; also without hours or thousandths.
+double secondsOf(const std::string& text) {
+  double seconds = 0;
+  for (const QString& part : toQt(text).split(QLatin1Char(':'))) seconds = seconds * 60 + part.toDouble();
+  return seconds;
+}
+
+double shareOf(const std::string& position, const std::string& length) {
+  const double all = secondsOf(length);
+  return all > 0 ? std::clamp(secondsOf(position) / all, 0.0, 1.0) : 0;
+}
+
+void keepPlace(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+}
+
+}  // namespace
+
+AnnounceView::AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState& state, QWidget& page,
+                           Binder& binder)
+    : form_(form), state_(state), ui_(std::make_unique<Ui::EnrUneAnnonce>()) {
+  ui_->setupUi(&page);
+  for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label16, ui_->Label17}) keepPlace(*widget);
+  ui_->MyFrame1->raise();
+  ui_->infoPlace->raise();
+  ui_->ListView1->showGrid(form.ListView1, [&binder](auto action) { binder.run(std::move(action)); });
+  pending_.setSingleShot(true);
+  pending_.setInterval(0);
+  connect(&pending_, &QTimer::timeout, this, &AnnounceView::refresh);
+  for (platform::Component* component : form.components()) {
+    component->watch([this](platform::Component&, platform::Prop) {
+      if (!pending_.isActive()) pending_.start();
+    });
+  }
+}
+
+AnnounceView::~AnnounceView() = default;
+
+void AnnounceView::rescale() {
+  ui_->ListView1->rescale();
+}
+
+void AnnounceView::refresh() {
+  pending_.stop();
+  ui_->ListView1->gridModel()->flush();
+  refreshPanels();
+  refreshTake();
+  refreshStored();
+  refreshMusic();
+}
+
+void AnnounceView::refreshPanels() {
+  // What is covered must not take the keyboard.
+  ui_->recordingPlace->setVisible(!form_.MyFrame1.visible);
+  ui_->libraryHome->setVisible(!form_.MyFrame5.visible);
+  ui_->infoPlace->setVisible(form_.MyFrame4.visible);
+  ui_->recordingPlace->setEnabled(!form_.MyFrame4.visible);
+  ui_->MyFrame1->setEnabled(!form_.MyFrame4.visible);
+}
+
+int AnnounceView::takeSeconds() const {
+  const std::string& message = form_.Label14.caption.get();
+  if (recording()) return numberBehind(message, QStringLiteral("Durée de l'Annonce ("));
+  if (listening()) return numberBehind(message, QStringLiteral("en Lecture ("));
+  return static_cast<int>(
+      std::lround(numberBehind(form_.Label3.caption.get(), QStringLiteral("Milliseconds =")) / 1000.0));
+}
+
+// Where the take was saved to; empty while it only is in the device.
+std::string AnnounceView::takeFile() const {
+  const QRegularExpression saved(QStringLiteral("^\\((.*)\\)Enregistrée$"));
+  const auto match = saved.match(toQt(form_.Label14.caption.get()));
+  return match.hasMatch() ? state_.dossierAnnonces + fromQt(match.captured(1)) + ".wav" : std::string();
+}
+
+void AnnounceView::refreshTake() {
+  using enum TakeRing::Mood;
+  ui_->takeRing->show(takeSeconds(), recording() ? Recording : listening() ? Listening : Resting);
+  drawTake();
+  // What leads on stands out.
+  const std::pair<QWidget*, bool> steps[] = {
+      {ui_->Command3, recording()},
+      {ui_->Command4, listening()},
+      {ui_->Command1, !recording() && !listening() && form_.Command1.enabled},
+      {ui_->Command2, !recording() && !listening() && !form_.Command1.enabled},
+  };
+  for (const auto& [button, leads] : steps) setLook(*button, leads ? QStringLiteral("primary") : QString());
+}
+
+void AnnounceView::drawTake() {
+  if (recording()) {
+    if (!taking_) ui_->takeWave->setPeaks({});
+    taking_ = true;
+    takeShown_.clear();
+    return;
+  }
+  const std::string file = takeFile();
+  if (std::exchange(taking_, false) && saveTake_) {
+    QTemporaryDir passing;
+    const std::string path = fromQt(passing.filePath(QStringLiteral("take.wav")));
+    saveTake_(path);
+    ui_->takeWave->setPeaks(peaksOf(path, Waveform::parts));
+  } else if (!file.empty() && file != takeShown_) {
+    takeShown_ = file;
+    ui_->takeWave->setPeaks(peaksOf(file, Waveform::parts));
+  }
+}
+
+void AnnounceView::refreshStored() {
+  const std::string& path = form_.Label15.caption.get();
+  const std::string shown = form_.Label9.caption == "Lire une Annonce Enregistrée" ? std::string() : path;
+  if (shown != storedShown_) {
+    storedShown_ = shown;
+    ui_->storedWave->setPeaks(shown.empty() ? std::vector<float>() : peaksOf(shown, Waveform::parts));
+  }
+  ui_->storedWave->setHeard(shareOf(form_.Label17.caption.get(), form_.Label16.caption.get()));
+}
+
+void AnnounceView::refreshMusic() {
+  const bool chosen = form_.Label6.caption != "Actuellement Aucune Ambiance Musicale Choisie";
+  ui_->Label6->setProperty("tone", chosen ? QStringLiteral("text") : QStringLiteral("second"));
+  ui_->musicTimes->setVisible(form_.Label5.visible || form_.Label7.visible);
+  ui_->musicBar->setShare(chosen ? shareOf(form_.Label5.caption.get(), form_.Label7.caption.get()) : 0);
+  setLook(*ui_->MyButton12, form_.MyButton12.enabled ? QStringLiteral("primary") : QString());
+}
+
+}  // namespace desktop

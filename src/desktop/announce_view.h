@@ -1,0 +1,53 @@
+// What the page of announcements and music draws beside its controls: which panel covers which, the seconds
+// and the form of a take, how far a piece has come. It only reads the form.
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "desktop/binder.h"
+#include "forms/enr_une_annonce.h"
+#include "model/shared_state.h"
+
+namespace Ui {
+class EnrUneAnnonce;
+}
+
+namespace desktop {
+
+class AnnounceView final : public QObject {
+  Q_OBJECT
+ public:
+  AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState& state, QWidget& page, Binder& binder);
+  ~AnnounceView() override;
+  void refresh();
+  // The window has another scale.
+  void rescale();
+  // What writes the recorder's take to a file; without it a take shows its form only once it is saved.
+  void onTake(std::function<void(const std::string& path)> save) { saveTake_ = std::move(save); }
+
+ private:
+  void refreshPanels();
+  void refreshTake();
+  void drawTake();
+  void refreshStored();
+  void refreshMusic();
+  [[nodiscard]] bool recording() const { return form_.Timer3.enabled; }
+  [[nodiscard]] bool listening() const { return form_.Timer8.enabled; }
+  [[nodiscard]] int takeSeconds() const;
+  [[nodiscard]] std::string takeFile() const;
+
+  forms::EnrUneAnnonce& form_;
+  const model::SharedState& state_;
+  std::unique_ptr<Ui::EnrUneAnnonce> ui_;
+  QTimer pending_;
+  std::function<void(const std::string&)> saveTake_;
+  bool taking_ = false;    // a recording is under way, or its form is not drawn yet
+  std::string takeShown_;  // file of the take drawn last
+  std::string storedShown_;
+};
+
+}  // namespace desktop

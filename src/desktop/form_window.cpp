@@ -1,0 +1,71 @@
+#include "desktop/form_window.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+#include "desktop/qt_text.h"
+#include "desktop/window_scale.h"
+
+namespace desktop {
+
+FormWindow::FormWindow(platform::Form& form, const QSize& design, ThemeMode mode, QWidget& over)
+    : QDialog(&over, Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      form_(form),
+      over_(over),
+      page_(new QWidget),
+      design_(design),
+      mode_(mode) {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(page_);
+  setMinimumSize(design * 0.7);
+  resize(design);
+}
+
+void FormWindow::open() {
+  restyle();
+  const auto title = [this] { setWindowTitle(toQt(form_.caption.get()).trimmed()); };
+  title();
+  form_.watch([this, title](platform::Component&, platform::Prop prop) {
+    if (prop == platform::Prop::Caption) title();
+    if (prop == platform::Prop::Visible) follow();
+  });
+  follow();
+}
+
+void FormWindow::follow() {
+  if (!form_.visible) {
+    hide();
+    return;
+  }
+  if (!isVisible()) {
+    resize(design_ * scaleOf(&over_));
+    move(over_.geometry().center() - rect().center());
+  }
+  show();
+  raise();
+}
+
+void FormWindow::restyle() {
+  const double scale = fittingScale(size(), design_);
+  if (scale == scale_) return;
+  scale_ = scale;
+  scaleWindow(*this, *this, mode_, scale);
+  emit rescaled();
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (scale_ > 0) restyle();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  reject();
+}
+
+void FormWindow::reject() {
+  if (closeAsked_) closeAsked_();
+}
+
+}  // namespace desktop

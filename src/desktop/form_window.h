@@ -1,0 +1,44 @@
+// A form in a window of its own, over the main window: on the screen while the form is visible.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "desktop/theme.h"
+#include "platform/form.h"
+
+namespace desktop {
+
+class FormWindow final : public QDialog {
+  Q_OBJECT
+ public:
+  // `design` is its size beside a main window of 1280 x 800.
+  FormWindow(platform::Form& form, const QSize& design, ThemeMode mode, QWidget& over);
+  [[nodiscard]] QWidget& page() const { return *page_; }
+  // The page is complete: it takes the window's scale, and the form's state.
+  void open();
+  // What leaves the form when the window is closed or Escape pressed.
+  void onClose(std::function<void()> asked) { closeAsked_ = std::move(asked); }
+
+ signals:
+  void rescaled();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void reject() override;
+
+ private:
+  void follow();
+  void restyle();
+
+  platform::Form& form_;
+  QWidget& over_;
+  QWidget* page_;
+  QSize design_;
+  ThemeMode mode_;
+  double scale_ = 0;
+  std::function<void()> closeAsked_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,24 @@
+// A large button with a drawing, whose caption may take two lines.
+#pragma once
+
+#include <QPushButton>
+
+namespace desktop {
+
+class StepButton final : public QPushButton {
+  Q_OBJECT
+  Q_PROPERTY(QString picture MEMBER picture_)
+
+ public:
+  explicit StepButton(QWidget* parent = nullptr);
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  QString picture_;
+};
+
+}  // namespace desktop

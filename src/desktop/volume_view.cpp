@@ -1,0 +1,25 @@
+#include "desktop/volume_view.h"
+
+#include "desktop/qt_text.h"
+#include "ui_volume_general.h"
+
+namespace desktop {
+
+VolumeView::VolumeView(forms::VolumeGeneral& form, forms::MainForm& main, QWidget& page)
+    : form_(form), main_(main), ui_(std::make_unique<Ui::VolumeGeneral>()) {
+  ui_->setupUi(&page);
+  for (platform::Component* shown :
+       std::initializer_list<platform::Component*>{&form.VScroll1, &main.Label34, &main.Label36}) {
+    shown->watch([this](platform::Component&, platform::Prop) { refresh(); });
+  }
+}
+
+VolumeView::~VolumeView() = default;
+
+void VolumeView::refresh() {
+  ui_->gauge->setPercent(form_.VScroll1.value);
+  ui_->advice->setText(toQt(main_.Label36.caption.get()));
+  ui_->soundState->setText(toQt(main_.Label34.caption.get()));
+}
+
+}  // namespace desktop

@@ -1,0 +1,29 @@
+// What the volume dialog draws beside its controls: the gauge, and the advice that the main screen gives.
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+#include "forms/main_form.h"
+#include "forms/volume_general.h"
+
+namespace Ui {
+class VolumeGeneral;
+}
+
+namespace desktop {
+
+class VolumeView final : public QObject {
+  Q_OBJECT
+ public:
+  VolumeView(forms::VolumeGeneral& form, forms::MainForm& main, QWidget& page);
+  ~VolumeView() override;
+  void refresh();
+
+ private:
+  forms::VolumeGeneral& form_;
+  forms::MainForm& main_;
+  std::unique_ptr<Ui::VolumeGeneral> ui_;
+};
+
+}  // namespace desktop
