@@ -1,0 +1,56 @@
+// Forms, loop and recorded devices for the logic of one screen, without a voice.
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include "support/memory_file_system.h"
+#include "support/recorded_devices.h"
+#include "support/recorded_media.h"
+#include "support/recorded_outputs.h"
+#include "voice/toolbox.h"
+
+namespace support {
+
+struct RecordedDialogs final : platform::Dialogs {
+  std::vector<platform::Message> messages;
+  platform::Answer message(const platform::Message& message) override {
+    messages.push_back(message);
+    return platform::Answer::Ok;
+  }
+  std::vector<std::string> chooseFiles(const platform::FileRequest&) override { return {}; }
+};
+
+struct Rig {
+  Rig() {
+    for (platform::Form* form : screens.all()) form->attach(loop);
+    state.dossierProgramme = "/home/";
+  }
+  void advance(int ms) { loop.runUntil(clock.now() + platform::Instant{ms}); }
+
+  struct : platform::SoundOutput {
+    bool hasDevice() override { return false; }
+    void play(const platform::SoundClip&) override {}
+    void playFile(const std::string&) override {}
+  } sound;
+  struct : platform::ScreenSaver {
+    bool active() override { return false; }
+    void setActive(bool) override {}
+  } saver;
+  platform::SimulatedClock clock{platform::LocalTime{std::chrono::days(20773) + std::chrono::hours(7)}};
+  platform::EventLoop loop{clock};
+  forms::Screens screens;
+  model::SharedState state;
+  MemoryFileSystem files;
+  RecordedDialogs dialogs;
+  RecordedMedia media;
+  RecordedLevel level;
+  RecordedShell shell;
+  RecordedVolume volume;
+  RecordedPrinter printer;
+  platform::Outside outside{clock, sound, dialogs, files, saver, media, level, shell, volume, printer};
+  voice::Voice speaker{state, loop, sound, screens.main, screens.player};
+  voice::Toolbox tools{screens, state, loop, outside, speaker};
+};
+
+}  // namespace support

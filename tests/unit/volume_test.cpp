@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include "support/rig.h"
+#include "volume/volume_general.h"
+
+namespace {
+
+using volume::clsAfMasterVolume;
+
+TEST(MasterVolume, RoundsHalvesToEvenAndKeepsToItsScale) {
+  support::RecordedVolume device;
+  for (const auto& [level, percent] :
+       {std::pair{0.0, 0}, {0.125, 12}, {0.375, 38}, {0.876, 88}, {1.0, 100}, {1.53, 100}}) {
+    device.loudness = level;
+    EXPECT_EQ(clsAfMasterVolume(device).Percent(), percent) << level;
+  }
+  clsAfMasterVolume master(device);
+  for (const int wanted : {-1, 101}) master.Percent(wanted);
+  EXPECT_EQ(device.writes, 0);
+  master.Percent(45);
+  EXPECT_DOUBLE_EQ(device.loudness, 0.45);
+  EXPECT_EQ(master.GetNumberOfDevices(), 2);
+}
+
+TEST(MasterVolume, NamesTheDeviceInThirtyTwoCharacters) {
+  support::RecordedVolume device;
+  for (const auto& [name, shown] :
+       {std::pair{"  Écouteurs ", "Écouteurs"},
+        {"é234567890123456789012345678901234", "é2345678901234567890123456789012"},
+        {"", "Not Identified"}}) {
+    device.name = name;
+    EXPECT_EQ(clsAfMasterVolume(device).GetActiveDeviceName(), shown);
+  }
+}
+
+TEST(MasterVolume, IsFixedAtItsMakingAndInertWithoutADevice) {
+  support::RecordedVolume device;
+  device.present = false;
+  device.silent = true;
+  clsAfMasterVolume master(device);
+  device.present = true;  // comes too late for this one
+  EXPECT_FALSE(master.VolumeEnabled() || master.MuteEnabled() || master.Mute());
+  EXPECT_EQ(master.Percent(), 0);
+  EXPECT_EQ(master.GetNumberOfDevices(), 0);
+  master.Percent(40);
+  master.Mute(false);
+  EXPECT_EQ(device.writes, 0);
+}
+
+struct Dialog : testing::Test, support::Rig {
+  forms::VolumeGeneral& form = screens.volume;
+  forms::MainForm& main = screens.main;
+  volume::VolumeGeneral logic{tools};
+};
+
+TEST_F(Dialog, AdvisesByTheLevel) {
+  const platform::Colour red = platform::Colour::rgb(255, 0, 0);
+  const platform::Colour blue = platform::Colour::rgb(0, 0, 128);
+  const platform::Colour green = platform::Colour::rgb(0, 255, 0);
+  form.load();
+  for (const auto& [percent, words, colour] : {std::tuple{0, "insuffisant", red},
+                                               {49, "insuffisant", red},
+                                               {50, "un peu faible", green},
+                                               {74, "un peu faible", green},
+                                               {75, "satisfaisant", blue},
+                                               {85, "satisfaisant", blue},
+                                               {86, "un peu fort", platform::Colour::rgb(0, 0, 0)},
+                                               {100, "un peu fort", platform::Colour::rgb(0, 0, 0)}}) {
+    volume.loudness = percent / 100.0;
+    advance(200);
+    EXPECT_EQ(main.Label36.caption.get(), std::string("Le Volume de votre (Son) semble ") + words + "...");
+    EXPECT_EQ(main.Label36.colour.get(), colour) << percent;
+    EXPECT_EQ(screens.announcements.VScroll2.value.get(), percent);
+    EXPECT_EQ(main.Label38.caption.get(), "Volume Actuel (" + std::to_string(percent) + "%)");
+  }
+}
+
+TEST_F(Dialog, ShowsMuteApartFromTheLevel) {
+  form.load();
+  for (const bool silent : {true, false}) {
+    volume.silent = silent;
+    advance(200);
+    EXPECT_EQ(main.Label34.caption.get(), silent ? "Mais le (Son) est Désactivé." : "Le (Son) est Activé.");
+    EXPECT_EQ(main.Image18.visible.get(), silent);
+    EXPECT_EQ(main.Image17.visible.get(), !silent);
+    EXPECT_EQ(screens.editor.Image2.picture.get(), (silent ? form.Image4 : form.Image1).picture.get());
+    EXPECT_EQ(main.Label36.caption.get(), "Le Volume de votre (Son) semble satisfaisant...");
+  }
+}
+
+TEST_F(Dialog, WritesWhatTheRiderMovesAlsoWhileItIsUnloaded) {
+  form.show();
+  form.VScroll1.scrollTo(33);
+  EXPECT_DOUBLE_EQ(volume.loudness, 0.33);
+  form.Chk_Mute.value = 1;
+  EXPECT_TRUE(volume.silent);
+  form.MyButton7.click();
+  EXPECT_FALSE(form.loaded());
+  form.VScroll1.value = 60;  // as the music's bar moves it
+  EXPECT_DOUBLE_EQ(volume.loudness, 0.6);
+  const std::string frozen = main.Label38.caption;
+  advance(1000);
+  EXPECT_EQ(main.Label38.caption.get(), frozen);
+}
+
+TEST_F(Dialog, TellsOnceAtTheStartWhatWouldNotBeHeard) {
+  struct Case {
+    double level;
+    bool mute, present, told;
+  };
+  for (const Case& row : {Case{0.8, false, true, false},
+                          {0.4, false, true, true},
+                          {0.8, true, true, true},
+                          {0.0, false, false, false}}) {
+    support::Rig fresh;
+    const volume::VolumeGeneral dialog(fresh.tools);
+    fresh.volume.loudness = row.level;
+    fresh.volume.silent = row.mute;
+    fresh.volume.present = row.present;
+    fresh.screens.volume.load();
+    fresh.advance(200);
+    EXPECT_EQ(fresh.screens.main.Frame5.visible.get(), row.told) << row.level << row.mute;
+    fresh.screens.main.Picture2.click();
+    fresh.advance(1000);
+    EXPECT_FALSE(fresh.screens.main.Frame5.visible);
+  }
+}
+
+}  // namespace
