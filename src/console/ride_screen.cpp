@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "console/profile.h"
+#include "model/vocabulary.h"
 #include "platform/text.h"
 
 namespace console {
@@ -16,6 +17,14 @@ std::string oneLine(std::string text) {
 void append(std::string& line, const std::string& words) {
   if (words.empty()) return;
   line += (line.empty() ? "" : "  ·  ") + words;
+}
+
+// The target as the plan holds it: beats and percentage, however the ride shows them.
+std::string targetOf(const model::SharedState& state) {
+  const auto row = static_cast<std::size_t>(state.sequenceCourante);
+  if (row >= state.plan.planFreqCard.size()) return {};
+  const std::string& target = state.plan.planFreqCard[row];
+  return target == model::noTarget || target.starts_with("--") ? std::string() : target;
 }
 
 void append(std::string& line, const char* name, const std::string& value) {
@@ -38,12 +47,13 @@ std::string presentLine(const forms::MainForm& form, const model::SharedState& s
   append(line, oneLine(form.Label11.caption));
   append(line, "cadence", form.Label10.caption);
   append(line, oneLine(form.Label39.caption));
-  append(line, "cible", form.Label44.caption);
   return line;
 }
 
 std::string totalsLine(const forms::MainForm& form, const model::SharedState& state) {
-  std::string line = "Reste " + model::formatTime(state.dureeTotale);
+  std::string line;
+  if (riding(state)) append(line, "Cible", targetOf(state));
+  append(line, "Reste", model::formatTime(state.dureeTotale));
   append(line, "séquence", form.Label16.caption);
   append(line, "séance", form.Label17.caption);
   return line;
@@ -75,9 +85,9 @@ void RideScreen::show(const forms::MainForm& form, const model::SharedState& sta
       riding(state) ? std::to_string(state.seanceCourante) + "/" + std::to_string(state.sequenceCourante)
                     : std::string();
   if (!terminal_.canRedraw()) {
-    if (sequence == sequence_) return;
+    if (sequence == sequence_ || !form.Timer1.enabled) return;  // between sequences the fields still change
     sequence_ = sequence;
-    if (riding(state)) say(presentLine(form, state) + "  ·  " + totalsLine(form, state));
+    say(presentLine(form, state) + "  ·  " + totalsLine(form, state));
     return;
   }
   const auto width = static_cast<std::size_t>(std::max(10, terminal_.width() - 1));

@@ -80,6 +80,7 @@ void RiderCommands::leaveBox(const platform::Component& touched) {
 }
 
 void RiderCommands::reach(const platform::Component& target) {
+  if (loop_.quitting()) throw Refusal("hidden");  // the program has ended, and its windows with it
   closePopUp(target);
   require(reachOf(target, popUp_));
 }

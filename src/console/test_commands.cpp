@@ -42,10 +42,7 @@ void TestCommands::enrol(CommandTable& table) {
       {"echo", &TestCommands::echo},
   }};
   for (const auto& [name, member] : commands) {
-    table[name] = [this, run = member](Arguments& arguments) {
-      (this->*run)(arguments);
-      arguments.end();
-    };
+    table[name] = [this, run = member](Arguments& arguments) { (this->*run)(arguments); };
   }
 }
 
@@ -57,6 +54,7 @@ void TestCommands::answer(Arguments& arguments) {
 
 void TestCommands::call(Arguments& arguments) {
   const std::string address = arguments.word("FORM.CONTROL");
+  arguments.end();
   platform::Component& found = findControl(world_.screens, address);
   if (auto* entry = dynamic_cast<platform::MenuItem*>(&found)) {
     world_.loop.guard([&] { entry->click(); });
@@ -85,12 +83,14 @@ void TestCommands::set(Arguments& arguments) {
 
 void TestCommands::advance(Arguments& arguments) {
   const double seconds = arguments.decimal("number of seconds");
+  arguments.end();
   if (!(seconds >= 0) || seconds > 1e9) throw CommandError("time only goes forward");
   world_.loop.runUntil(world_.loop.clock().now() + platform::Instant{std::llround(seconds * 1000)});
 }
 
 void TestCommands::volume(Arguments& arguments) {
   const int percent = arguments.number("volume");
+  arguments.end();
   if (percent < 0 || percent > 100) throw CommandError("a volume goes from 0 to 100");
   if (!world_.machine.volume) throw CommandError("there is no volume device");
   world_.machine.volume = percent;
@@ -98,54 +98,70 @@ void TestCommands::volume(Arguments& arguments) {
 
 void TestCommands::mute(Arguments& arguments) {
   const bool on = arguments.flag("0 or 1");
+  arguments.end();
   if (!world_.machine.volume) throw CommandError("there is no volume device");
   world_.machine.muted = on;
 }
 
 void TestCommands::microphone(Arguments& arguments) {
   const std::string state = arguments.word("on or off");
+  arguments.end();
   if (state != "on" && state != "off") throw CommandError("\"" + state + "\" is neither on nor off");
   world_.machine.microphone = state == "on";
 }
 
 void TestCommands::get(Arguments& arguments) {
-  out_ << escaped(valueAt(findProperty(world_.screens, arguments.word("FORM.CONTROL.PROP")))) << '\n';
+  const PropertyAddress address = findProperty(world_.screens, arguments.word("FORM.CONTROL.PROP"));
+  arguments.end();
+  out_ << escaped(valueAt(address)) << '\n';
 }
 
 void TestCommands::rows(Arguments& arguments) {
-  printRows(out_, findControl(world_.screens, arguments.word("FORM.CONTROL")));
+  const platform::Component& gridOrList = findControl(world_.screens, arguments.word("FORM.CONTROL"));
+  arguments.end();
+  printRows(out_, gridOrList);
 }
 
 void TestCommands::cellColour(Arguments& arguments) {
   const platform::Grid& grid = findGrid(world_.screens, arguments.word("FORM.CONTROL"));
   const int row = arguments.number("row");
-  printCellLook(out_, grid, row, arguments.number("column"));
+  const int column = arguments.number("column");
+  arguments.end();
+  printCellLook(out_, grid, row, column);
 }
 
 void TestCommands::lines(Arguments& arguments) {
-  for (const std::string& line : linesOf(findControl(world_.screens, arguments.word("FORM.CONTROL")))) {
-    out_ << escaped(line) << '\n';
-  }
+  const platform::Component& list = findControl(world_.screens, arguments.word("FORM.CONTROL"));
+  arguments.end();
+  for (const std::string& line : linesOf(list)) out_ << escaped(line) << '\n';
 }
 
 void TestCommands::visible(Arguments& arguments) {
-  printVisible(out_, findForm(world_.screens, arguments.word("FORM")), rider_.popUp());
+  const platform::Form& form = findForm(world_.screens, arguments.word("FORM"));
+  arguments.end();
+  if (!world_.loop.quitting()) printVisible(out_, form, rider_.popUp());
 }
 
-void TestCommands::forms(Arguments&) {
+void TestCommands::forms(Arguments& arguments) {
+  arguments.end();
+  if (world_.loop.quitting()) return;  // the program has ended, and its windows with it
   for (const platform::Form* form : onScreen_.inOrder()) out_ << form->name() << '\n';
 }
 
-void TestCommands::plan(Arguments&) {
+void TestCommands::plan(Arguments& arguments) {
+  arguments.end();
   printPlan(out_, world_.state);
 }
 
 void TestCommands::var(Arguments& arguments) {
-  out_ << escaped(variable(world_.state, arguments.word("name"))) << '\n';
+  const std::string name = arguments.word("name");
+  arguments.end();
+  out_ << escaped(variable(world_.state, name)) << '\n';
 }
 
 void TestCommands::journal(Arguments& arguments) {
   const std::string kind = arguments.empty() ? std::string() : arguments.word("kind");
+  arguments.end();
   const std::vector<std::string>& kinds = Journal::kinds();
   if (!kind.empty() && std::find(kinds.begin(), kinds.end(), kind) == kinds.end()) {
     throw CommandError("no kind " + kind + platform::nearNames(kind, kinds));

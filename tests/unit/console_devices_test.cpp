@@ -1,0 +1,228 @@
+#include <gmock/gmock.h>
+
+#include <sstream>
+
+#include "console/arguments.h"
+#include "console/escaping.h"
+#include "console/options.h"
+#include "console/scripted_dialogs.h"
+#include "console/simulated_sound.h"
+#include "console/wav_length.h"
+#include "platform/timer.h"
+#include "support/memory_file_system.h"
+#include "voice/sound_bank.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using console::Arguments;
+using console::CommandError;
+using console::SoundMode;
+using platform::MessageButtons;
+using testing::ElementsAre;
+
+TEST(ConsoleTextTest, TakesTheLastTextToTheEndOfTheLine) {
+  const struct {
+    const char* written;
+    const char* text;
+  } cases[]{{"  two  words \r", "two  words"},
+            {"\"  kept \"", "  kept "},
+            {"\"\"", ""},
+            {"\"", "\""},
+            {"say \"hi\"", "say \"hi\""},
+            {R"(a\tb\nc\\n)", "a\tb\nc\\n"},
+            {R"(C:\dir\)", R"(C:\dir\)"},
+            {"", ""}};
+  for (const auto& [written, text] : cases) {
+    EXPECT_EQ(Arguments(written).text(), text) << written;
+    EXPECT_EQ(console::unescaped(console::escaped(text)), text);
+  }
+  EXPECT_EQ(console::escaped("a\tb\nc\\"), R"(a\tb\nc\\)");
+}
+
+TEST(ConsoleTextTest, RefusesWordsThatAreNoNumbers) {
+  Arguments good(" 12\t-1.5 1 end");
+  EXPECT_EQ(good.number("n"), 12);
+  EXPECT_EQ(good.decimal("n"), -1.5);
+  EXPECT_TRUE(good.flag("f"));
+  EXPECT_THROW(good.end(), CommandError);
+  EXPECT_EQ(good.word("w"), "end");
+  EXPECT_NO_THROW(good.end());
+  EXPECT_THROW(good.word("w"), CommandError);
+  for (const char* bad : {"x", "1x", "99999999999", "1.5"}) {
+    EXPECT_THROW(static_cast<void>(Arguments(bad).number("n")), CommandError) << bad;
+  }
+  EXPECT_THROW(static_cast<void>(Arguments("2").flag("f")), CommandError);
+}
+
+TEST(ConsoleOptionsTest, UnderstandsTheCommandLine) {
+  const auto options =
+      console::parseOptions({"--folder", "/x", "--clock=real", "--now", "2026-01-31 23:59:58.250", "--sound",
+                             "timed", "--volume", "none", "s.txt"});
+  EXPECT_EQ(options.folder, "/x");
+  EXPECT_TRUE(options.realClock);
+  const platform::LocalTime day{std::chrono::local_days{std::chrono::year{2026} / 1 / 31}};
+  EXPECT_EQ(options.start - day, 24h - 1750ms);
+  EXPECT_EQ(options.sound, SoundMode::Timed);
+  EXPECT_EQ(options.volume, std::nullopt);
+  EXPECT_EQ(options.script, "s.txt");
+  const std::vector<std::vector<std::string>> bad{{"--folder"},
+                                                  {"--folder="},
+                                                  {"--nope"},
+                                                  {"a", "b"},
+                                                  {"--sound", "loud"},
+                                                  {"--volume", "101"},
+                                                  {"--volume", "-1"},
+                                                  {"--clock", "fast"},
+                                                  {"--speed", "0"},
+                                                  {"--speed", "nan"},
+                                                  {"--now", "12:00:00"},
+                                                  {"--now", "2026-02-29 12:00:00"},
+                                                  {"--now", "2026-01-01 24:00:00"},
+                                                  {"--now", "2026-01-01 12:00:00.5"}};
+  for (const auto& words : bad) {
+    EXPECT_THROW(static_cast<void>(console::parseOptions(words)), console::UsageError) << words.back();
+  }
+}
+
+class ConsoleDevicesTest : public testing::Test {
+ protected:
+  std::string journal(std::string_view kind = {}) {
+    std::ostringstream out;
+    journal_.print(out, kind);
+    return out.str();
+  }
+
+  platform::SimulatedClock clock_{platform::LocalTime{}};
+  console::Journal journal_{clock_};
+  support::MemoryFileSystem files_;
+};
+
+TEST_F(ConsoleDevicesTest, TheJournalForgetsWhatItPrinted) {
+  journal_.write("saver", {"on"});
+  clock_.sleepUntil(12034ms);
+  journal_.write("dialog", {"message", "a\tb", "c\nd"});
+  EXPECT_EQ(journal("dialog"), "12.034\tdialog\tmessage\ta\\tb\tc\\nd\n");
+  EXPECT_EQ(journal(), "0.000\tsaver\ton\n");
+  EXPECT_EQ(journal(), "");
+}
+
+TEST_F(ConsoleDevicesTest, ASoundTakesItsLengthAndNoTimerFiresInIt) {
+  const platform::SoundClip* clip = voice::promptByNumber(196);  // the ADPCM one
+  ASSERT_NE(clip, nullptr);
+  platform::EventLoop loop(clock_);
+  platform::Form form("Form");
+  int ticks = 0;
+  platform::Timer timer(form, "Timer1", 1, true);
+  timer.tick.handle([&] { ++ticks; });
+  form.attach(loop);
+  form.load();
+  const struct {
+    SoundMode mode;
+    bool takesTime;
+    std::string journalled;
+  } cases[]{{SoundMode::None, false, ""},
+            {SoundMode::Instant, false, "prompt\t196\tfin.wav\n"},
+            {SoundMode::Timed, true, "prompt\t196\tfin.wav\n"}};
+  for (const auto& [mode, takesTime, journalled] : cases) {
+    console::SimulatedSound sound(mode, files_, "/p", journal_);
+    sound.attach(loop);
+    const platform::Instant before = clock_.now();
+    sound.play(*clip);
+    EXPECT_EQ(clock_.now() - before, takesTime ? console::wavLength(clip->wav).value() : 0ms);
+    EXPECT_THAT(journal(), testing::EndsWith(journalled));
+  }
+  EXPECT_GT(clock_.now(), 300ms);
+  EXPECT_EQ(ticks, 0);
+  form.unload();
+}
+
+TEST_F(ConsoleDevicesTest, AFileIsNamedFromTheProgramsFolder) {
+  console::SimulatedSound sound(SoundMode::Instant, files_, "/p/q", journal_);
+  for (const char* path : {"/p/q/annonces/a.wav", "/p/q/annonces//./a.wav", "/p/other.wav", "/p/q2/a.wav"}) {
+    sound.playFile(path);
+  }
+  EXPECT_EQ(journal(),
+            "0.000\tfile\tannonces/a.wav\n0.000\tfile\tannonces/a.wav\n"
+            "0.000\tfile\t/p/other.wav\n0.000\tfile\t/p/q2/a.wav\n");
+}
+
+TEST_F(ConsoleDevicesTest, MessagesTakeTheQueuedAnswerThatTheyOffer) {
+  const struct {
+    const char* queued;
+    MessageButtons buttons;
+    platform::Answer given;
+    bool misfit;
+  } cases[]{{"", MessageButtons::Ok, platform::Answer::Ok, false},
+            {"", MessageButtons::OkCancel, platform::Answer::Cancel, false},
+            {"", MessageButtons::YesNoCancel, platform::Answer::Cancel, false},
+            {"ok", MessageButtons::OkCancel, platform::Answer::Ok, false},
+            {"no", MessageButtons::YesNoCancel, platform::Answer::No, false},
+            {"yes", MessageButtons::OkCancel, platform::Answer::Cancel, true},
+            {"a.tq2", MessageButtons::Ok, platform::Answer::Ok, true}};
+  for (const auto& [queued, buttons, given, misfit] : cases) {
+    console::ScriptedDialogs dialogs(journal_);
+    bool told = false;
+    dialogs.onMisfit([&](const std::string&) { told = true; });
+    if (*queued != 0) dialogs.queue(queued);
+    EXPECT_EQ(dialogs.message({platform::MessageKind::Information, buttons, "T", "x"}), given) << queued;
+    EXPECT_EQ(told, misfit) << queued;
+  }
+}
+
+TEST_F(ConsoleDevicesTest, FileDialogsTakePathsFromTheirFolder) {
+  using platform::FilePurpose;
+  const struct {
+    FilePurpose purpose;
+    const char* queued;
+    std::vector<std::string> chosen;
+  } cases[]{{FilePurpose::Open, "", {}},
+            {FilePurpose::Open, "cancel", {}},
+            {FilePurpose::Open, "ok", {}},
+            {FilePurpose::Open, "a b.tq2", {"/f/a b.tq2"}},
+            {FilePurpose::Open, "../x", {"/x"}},
+            {FilePurpose::Save, "new", {"/f/new.tq2"}},
+            {FilePurpose::Save, "/e/new.txt", {"/e/new.txt"}},
+            {FilePurpose::Save, "ok", {"/f/Proposed.tq2"}},
+            {FilePurpose::Folder, "/e", {"/e"}},
+            {FilePurpose::OpenSeveral, "a.mp3|/e/b.mp3", {"/f/a.mp3", "/e/b.mp3"}}};
+  for (const auto& [purpose, queued, chosen] : cases) {
+    console::ScriptedDialogs dialogs(journal_);
+    if (*queued != 0) dialogs.queue(queued);
+    EXPECT_EQ(dialogs.chooseFiles({purpose, "", "/f", "Fichiers|*.tq2", "Proposed"}), chosen) << queued;
+  }
+  EXPECT_THAT(journal(), testing::HasSubstr("0.000\tdialog\tsave\t\tProposed\tnew\n"));
+}
+
+TEST(WavLengthTest, CountsFramesByCoding) {
+  const auto word = [](unsigned value, int size) {
+    std::string bytes;
+    for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+    return bytes;
+  };
+  const auto wav = [&](unsigned coding, unsigned channels, unsigned rate, unsigned block,
+                       const std::string& between, std::size_t data, unsigned toldData = 0) {
+    const auto size = static_cast<unsigned>(data);
+    const std::string text = "RIFF" + word(0, 4) + "WAVEfmt " + word(16, 4) + word(coding, 2) +
+                             word(channels, 2) + word(rate, 4) + word(0, 4) + word(block, 2) + word(8, 2) +
+                             between + "data" + word(toldData != 0 ? toldData : size, 4) +
+                             std::string(data, 'x');
+    return std::vector<unsigned char>(text.begin(), text.end());
+  };
+  const std::string odd = "LIST" + word(3, 4) + "abc" + word(0, 1);
+  const struct {
+    std::vector<unsigned char> bytes;
+    std::optional<std::chrono::milliseconds> length;
+  } cases[]{{wav(1, 1, 11025, 1, "", 11025), 1000ms},
+            {wav(1, 2, 22050, 4, odd, 44100), 500ms},
+            {wav(1, 1, 1000, 1, "", 500, 0x7FFFFFFF), 500ms},  // a header that promises too much
+            {wav(2, 1, 1000, 10, "", 26), 16ms},  // two blocks of 8 frames, and too little for a third
+            {wav(2, 1, 1000, 10, "", 29), 22ms},
+            {wav(2, 1, 1000, 10, "fact" + word(4, 4) + word(123, 4), 29), 123ms},
+            {wav(1, 0, 1000, 1, "", 10), std::nullopt},
+            {wav(85, 1, 1000, 1, "", 10), std::nullopt},
+            {{'R', 'I', 'F', 'F'}, std::nullopt}};
+  for (const auto& [bytes, length] : cases) EXPECT_EQ(console::wavLength(bytes), length) << bytes.size();
+}
+
+}  // namespace

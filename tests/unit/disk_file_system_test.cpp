@@ -1,0 +1,121 @@
+#include "platform/disk_file_system.h"
+
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+#include "platform/fault.h"
+#include "support/faulty_file_system.h"
+#include "support/memory_file_system.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using platform::FileFault;
+using platform::OpenMode;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class DiskFileSystemTest : public testing::Test {
+ protected:
+  DiskFileSystemTest() { fs::create_directory(folder_); }
+  ~DiskFileSystemTest() override { fs::remove_all(folder_); }
+  [[nodiscard]] std::string in(const std::string& name) const { return (folder_ / name).string(); }
+
+  fs::path folder_ = fs::temp_directory_path() / ("ventoria-disk-" + std::to_string(getpid()));
+  platform::DiskFileSystem disk_;
+};
+
+// The disk and its make in memory must agree, or tests on the latter prove nothing.
+void writesAndReadsAnywhere(platform::FileSystem& files, const std::string& folder) {
+  files.makeFolder(folder);
+  const std::string path = folder + "/é b.tq2";
+  {
+    const auto file = files.open(path, OpenMode::ReadWriteCreate);
+    file->writeAt(4, std::string("five"));
+    file->writeAt(0, std::string("a"));
+    EXPECT_EQ(file->size(), 8U);
+  }
+  const auto again = files.open(path, OpenMode::ReadWriteCreate);
+  again->writeAt(1, std::string("b"));
+  std::string bytes(20, '?');
+  EXPECT_EQ(again->readAt(0, bytes), 8U);
+  EXPECT_EQ(bytes.substr(0, 9), std::string("ab\0\0five?", 9));
+  EXPECT_EQ(again->readAt(7, bytes), 1U);
+  EXPECT_EQ(again->readAt(100, bytes), 0U);
+  for (const char* name : {"Zebre.tq2", "arc.tq2", "Bosse.tq2"}) {
+    files.open(folder + "/" + name, OpenMode::ReadWriteCreate);
+  }
+  EXPECT_THAT(files.list(folder), ElementsAre("arc.tq2", "Bosse.tq2", "Zebre.tq2", "é b.tq2"));
+  EXPECT_THAT(files.list(folder + "/none"), ElementsAre());
+  files.rename(path, folder + "/arc.tq2");
+  EXPECT_FALSE(files.exists(path));
+  EXPECT_EQ(files.open(folder + "/arc.tq2", OpenMode::Read)->size(), 8U);
+  files.remove(folder + "/arc.tq2");
+  EXPECT_FALSE(files.exists(folder + "/arc.tq2"));
+  EXPECT_TRUE(files.exists(folder));
+}
+
+TEST_F(DiskFileSystemTest, WritesAndReadsAnywhereAsInMemory) {
+  writesAndReadsAnywhere(disk_, in("deep/er"));
+  support::MemoryFileSystem memory;
+  writesAndReadsAnywhere(memory, "/deep/er");
+}
+
+TEST_F(DiskFileSystemTest, ListsNoFolders) {
+  disk_.makeFolder(in("a folder"));
+  std::ofstream(in("file")) << "x";
+  EXPECT_THAT(disk_.list(folder_.string()), ElementsAre("file"));
+}
+
+TEST_F(DiskFileSystemTest, TellsFaultsInFrench) {
+  std::ofstream(in("plain")) << "x";
+  disk_.makeFolder(in("empty"));
+  const struct {
+    std::function<void()> act;
+    std::string told;
+  } cases[]{
+      {[&] { static_cast<void>(disk_.open(in("no"), OpenMode::Read)); },
+       "d'ouvrir « " + in("no") + " » : fichier introuvable."},
+      {[&] { static_cast<void>(disk_.open(in("empty"), OpenMode::Read)); }, "c'est un dossier"},
+      {[&] { static_cast<void>(disk_.open(in("plain/x"), OpenMode::ReadWriteCreate)); },
+       "n'est pas un dossier"},
+      {[&] { static_cast<void>(disk_.open(in(std::string(300, 'x')), OpenMode::ReadWriteCreate)); },
+       "nom trop long"},
+      {[&] { disk_.open("/dev/full", OpenMode::ReadWriteCreate)->writeAt(0, std::string("x")); },
+       "d'écrire dans « /dev/full » : espace disque insuffisant."},
+      {[&] { disk_.open(in("plain"), OpenMode::Read)->writeAt(0, std::string("x")); }, "d'écrire dans"},
+      {[&] { disk_.makeFolder(in("plain")); }, "de créer le dossier"},
+      {[&] { disk_.makeFolder(in("plain/sub")); }, "de créer le dossier"},
+      {[&] { disk_.remove(in("no")); }, "de supprimer « " + in("no") + " » : fichier introuvable."},
+      {[&] { disk_.rename(in("no"), in("yes")); }, "de renommer"},
+  };
+  for (const auto& [act, told] : cases) {
+    try {
+      act();
+      ADD_FAILURE() << "no fault: " << told;
+    } catch (const FileFault& fault) {
+      EXPECT_THAT(fault.what(), HasSubstr(told));
+    }
+  }
+}
+
+TEST(FaultyFileSystemTest, FailsFromTheNthCallOfItsKindOn) {
+  using Call = support::FaultyFileSystem::Call;
+  support::MemoryFileSystem memory;
+  support::FaultyFileSystem faulty(memory);
+  const auto file = faulty.open("/f", OpenMode::ReadWriteCreate);
+  faulty.failFrom(Call::Write, 2);
+  file->writeAt(0, std::string("a"));
+  EXPECT_THROW(file->writeAt(1, std::string("b")), FileFault);
+  EXPECT_THROW(file->writeAt(1, std::string("b")), FileFault);
+  EXPECT_NO_THROW(faulty.open("/g", OpenMode::ReadWriteCreate));
+  faulty.heal();
+  file->writeAt(1, std::string("b"));
+  EXPECT_EQ(*memory.files.at("/f"), "ab");
+}
+
+}  // namespace
