@@ -85,7 +85,8 @@ void RideScreen::show(const forms::MainForm& form, const model::SharedState& sta
       riding(state) ? std::to_string(state.seanceCourante) + "/" + std::to_string(state.sequenceCourante)
                     : std::string();
   if (!terminal_.canRedraw()) {
-    if (sequence == sequence_ || !form.Timer1.enabled) return;  // between sequences the fields still change
+    // Until its first second has passed, the fields still show the sequence before.
+    if (sequence == sequence_ || !form.Timer1.enabled || state.ecouleSequence <= 0) return;
     sequence_ = sequence;
     say(presentLine(form, state) + "  ·  " + totalsLine(form, state));
     return;
