@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "desktop/grid_table.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "desktop/unseen_controls.h"
@@ -311,53 +312,59 @@ void Binder::recolour() {
 }
 
 void Binder::tieMenus(platform::Form& form, QWidget& page) {
+  const auto holdsOthers = [&form](const platform::MenuItem& item) {
+    return std::any_of(form.components().begin(), form.components().end(), [&](const Component* other) {
+      const auto* entry = dynamic_cast<const platform::MenuItem*>(other);
+      return entry != nullptr && entry->parent() == &item;
+    });
+  };
   for (Component* component : form.components()) {
     auto* item = dynamic_cast<platform::MenuItem*>(component);
     if (item == nullptr) continue;
-    const bool holdsOthers =
-        std::any_of(form.components().begin(), form.components().end(), [&](Component* other) {
-          const auto* entry = dynamic_cast<platform::MenuItem*>(other);
-          return entry != nullptr && entry->parent() == item;
-        });
-    QAction* action = nullptr;
-    if (holdsOthers) {
-      auto* menu =
-          item->parent() == nullptr ? new QMenu(&page) : menus_.value(item->parent())->addMenu(QString());
+    const bool root = item->parent() == nullptr;
+    if (holdsOthers(*item)) {
+      auto* menu = root ? new QMenu(&page) : menus_.value(item->parent())->addMenu(QString());
       menu->setObjectName(toQt(item->name()));
       menus_.insert(item, menu);
-      action = menu->menuAction();
-    } else if (item->parent() != nullptr) {
-      action = menus_.value(item->parent())->addAction(QString());
+      tieEntry(*item, *menu->menuAction());
+      if (root) tieOpeners(*item, *menu, page);
+    } else if (!root) {
+      QAction* action = menus_.value(item->parent())->addAction(QString());
       action->setObjectName(toQt(item->name()));
       connect(action, &QAction::triggered, this, [this, item] { run([item] { item->click(); }); });
-    } else {
-      continue;
+      tieEntry(*item, *action);
     }
-    const auto refresh = [action, item, menu = menus_.value(item)] {
-      action->setText(toQt(item->caption.get()).replace(QLatin1Char('&'), QLatin1String("&&")));
-      action->setVisible(item->visible);
-      action->setEnabled(item->enabled);
-      if (menu != nullptr) menu->setEnabled(item->enabled);
-    };
-    refresh();
-    item->watch([refresh](Component&, Prop) { refresh(); });
-    if (item->parent() == nullptr) {
-      QMenu* menu = menus_.value(item);
-      item->popUp.handle([this, menu, item] {
-        popUp(*menu);
-        if (poppedUp_) poppedUp_(*item);
-      });
-      const QList<QWidget*> openers = widgetsNamed(page, item->name());
-      for (QWidget* widget : openers) {
-        auto* button = qobject_cast<QPushButton*>(widget);
-        if (button == nullptr) continue;
-        button->setText(toQt(item->caption.get()));
-        connect(button, &QPushButton::clicked, this, [this, button, menu] {
-          pressed_ = button;
-          popUp(*menu);
-        });
-      }
-    }
+  }
+}
+
+void Binder::tieEntry(platform::MenuItem& item, QAction& action) {
+  const auto refresh = [&action, &item, menu = menus_.value(&item)] {
+    action.setText(toQt(item.caption.get()).replace(QLatin1Char('&'), QLatin1String("&&")));
+    action.setVisible(item.visible);
+    action.setEnabled(item.enabled);
+    if (menu != nullptr) menu->setEnabled(item.enabled);
+  };
+  refresh();
+  item.watch([refresh](Component&, Prop) { refresh(); });
+}
+
+// A menu opens where the logic asks for it, and from a button of its name.
+void Binder::tieOpeners(platform::MenuItem& item, QMenu& menu, QWidget& page) {
+  // Somebody who drives the program beside the windows may watch the pop-ups already.
+  if (!item.popUp.handled()) {
+    item.popUp.handle([this, &menu, &item] {
+      popUp(menu);
+      if (poppedUp_) poppedUp_(item);
+    });
+  }
+  for (QWidget* widget : widgetsNamed(page, item.name())) {
+    auto* button = qobject_cast<QPushButton*>(widget);
+    if (button == nullptr) continue;
+    button->setText(toQt(item.caption.get()));
+    connect(button, &QPushButton::clicked, this, [this, button, &menu] {
+      pressed_ = button;
+      popUp(menu);
+    });
   }
 }
 
@@ -369,6 +376,11 @@ void Binder::popUp(QMenu& menu) {
     const QWidget* window = pressed_->window();
     const int right = window->mapToGlobal(QPoint(window->width() - dp(window, 24), 0)).x();
     place.setX(std::min(place.x(), right - menu.sizeHint().width()));
+  } else if (const auto* list = qobject_cast<GridTable*>(pressed_);
+             list != nullptr && !list->rect().contains(list->mapFromGlobal(place))) {
+    // Opened by the keyboard.
+    const QRect cell = list->cellRect(list->pressedRow(), list->pressedColumn());
+    place = list->viewport()->mapToGlobal(cell.bottomLeft() + QPoint(dp(list, 24), 0));
   }
   menu.popup(place);
 }

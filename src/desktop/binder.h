@@ -16,6 +16,7 @@
 
 class QAbstractButton;
 class QAbstractSlider;
+class QAction;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
@@ -53,6 +54,8 @@ class Binder final : public QObject {
   void tieTextBox(platform::TextBox& box, QLineEdit& widget);
   void tieScrollBar(platform::ScrollBar& bar, QAbstractSlider& widget);
   void tieMenus(platform::Form& form, QWidget& page);
+  void tieEntry(platform::MenuItem& item, QAction& action);
+  void tieOpeners(platform::MenuItem& item, QMenu& menu, QWidget& page);
   void show(const platform::Component& component, platform::Prop prop, QWidget& widget);
   void popUp(QMenu& menu);
 

@@ -147,11 +147,12 @@ void WidgetHands::type(platform::Control& box, const std::string& text) {
     direct_.type(box, text);
     return;
   }
-  edit->setFocus();
+  // A drop-down list has the keyboard itself, and hands it on to its line.
+  widget->setFocus();
   edit->selectAll();
-  stroke(*edit, Qt::Key_Backspace);
-  if (!text.empty()) stroke(*edit, 0, toQt(text));
-  stroke(*edit, Qt::Key_Return);
+  stroke(*widget, Qt::Key_Backspace);
+  if (!text.empty()) stroke(*widget, 0, toQt(text));
+  stroke(*widget, Qt::Key_Return);
   settle();
 }
 
@@ -198,15 +199,14 @@ void WidgetHands::key(platform::Control& target, const std::string& key) {
     direct_.key(target, key);
     return;
   }
-  auto* combo = qobject_cast<QComboBox*>(widget);
-  stroke(combo != nullptr ? *combo->lineEdit() : *widget, keyCode(key));
+  stroke(*widget, keyCode(key));
   settle();
 }
 
 void WidgetHands::leave(platform::ComboBox& box) {
   auto* widget = qobject_cast<QComboBox*>(touchable(box));
   if (widget == nullptr || !widget->hasFocus()) return;
-  widget->lineEdit()->clearFocus();
+  widget->clearFocus();
   settle();
 }
 

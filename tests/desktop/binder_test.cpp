@@ -1,0 +1,211 @@
+// Every page's widgets against its form: all bound, presses arrive, writes stay quiet.
+#include "desktop/binder.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
+
+#include "desktop/editor_view.h"
+#include "desktop/grid_table.h"
+#include "desktop/main_view.h"
+#include "desktop/unseen_controls.h"
+#include "forms/screens.h"
+#include "platform/clock.h"
+
+namespace {
+
+using desktop::Binder;
+using desktop::bindingFaults;
+using testing::ElementsAre;
+
+class BinderTest : public testing::Test {
+ protected:
+  template <class Widget>
+  Widget& widget(QWidget& page, const char* name) {
+    auto* found = page.findChild<Widget*>(QLatin1String(name));
+    if (found == nullptr) throw std::out_of_range(name);
+    return *found;
+  }
+
+  platform::SimulatedClock clock_{platform::LocalTime{}};
+  platform::EventLoop loop_{clock_};
+  forms::Screens screens_;
+  model::SharedState state_;
+  Binder binder_{loop_};
+  QWidget main_;
+  QWidget editor_;
+  desktop::MainView mainView_{screens_.main, state_, main_};
+  desktop::EditorView editorView_{screens_.editor, editor_, binder_};
+};
+
+TEST_F(BinderTest, EveryControlStandsOnceOnItsPage) {
+  EXPECT_EQ(bindingFaults(screens_.main, main_).join('\n').toStdString(), "");
+  EXPECT_EQ(bindingFaults(screens_.editor, editor_).join('\n').toStdString(), "");
+
+  // What the check is there to find.
+  delete main_.findChild<QWidget*>("MyButton5");
+  widget<QWidget>(main_, "MyButton6").setObjectName("MyButton7");
+  widget<QLabel>(main_, "Label30").setObjectName("Command4x");
+  QLabel wrongKind(&main_);
+  widget<QPushButton>(main_, "Command4").setObjectName("");
+  wrongKind.setObjectName("Command4");
+  const QStringList faults = bindingFaults(screens_.main, main_);
+  EXPECT_THAT(std::vector<QString>(faults.begin(), faults.end()),
+              testing::UnorderedElementsAre(
+                  "MainForm.MyButton5: no widget shows it", "MainForm.MyButton6: no widget shows it",
+                  "MainForm.MyButton7: stands 2 times", "MainForm.Label30: no widget shows it",
+                  "MainForm.Command4: a widget of this class cannot show it"));
+  EXPECT_THROW(binder_.bind(screens_.main, main_), std::logic_error);
+  for (const desktop::UnseenControl& unseen : desktop::unseenControls()) {
+    for (const platform::Form* form : screens_.all()) {
+      if (form->name() != unseen.form) continue;
+      EXPECT_NO_THROW((void)form->find(unseen.control));
+    }
+  }
+}
+
+TEST_F(BinderTest, WhatThePersonDoesReachesTheControl) {
+  forms::MainForm& form = screens_.main;
+  std::vector<std::string> heard;
+  const auto hear = [&](auto& event, const char* what) {
+    event.handle([&heard, what] { heard.emplace_back(what); });
+  };
+  hear(form.Command7.click, "pause");
+  hear(form.MyButton19.alternate, "other button");
+  hear(form.Picture6.hover, "hover");
+  hear(form.Check8.click, "check");
+  hear(form.Combo5.click, "pick");
+  hear(form.Combo5.enter, "enter");
+  form.Combo5.setLines({"1", "2", "3"});
+  binder_.bind(form, main_);
+  main_.show();
+
+  QTest::mouseClick(&widget<QPushButton>(main_, "Command7"), Qt::LeftButton);
+  QTest::mouseClick(&widget<QPushButton>(main_, "MyButton19"), Qt::RightButton);
+  QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(50, 50), Qt::NoButton, Qt::NoButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(&widget<QWidget>(main_, "Picture6"), &move);
+  QApplication::sendEvent(&widget<QWidget>(main_, "Picture6"), &move);  // at rest: no movement
+  widget<QCheckBox>(main_, "Check8").click();
+  auto& combo = widget<QComboBox>(main_, "Combo5");
+  QTest::keyClick(&combo, Qt::Key_Down);
+  combo.lineEdit()->selectAll();
+  QTest::keyClicks(&combo, "97");
+  QTest::keyClick(&combo, Qt::Key_Return);
+
+  EXPECT_THAT(heard, ElementsAre("pause", "other button", "hover", "check", "pick", "enter"));
+  EXPECT_EQ(form.Check8.value.get(), 1);
+  EXPECT_EQ(form.Combo5.text.get(), "97");
+  EXPECT_EQ(form.Combo5.index.get(), -1);
+}
+
+TEST_F(BinderTest, AWriteFromCodeShowsAndComesBackAsNothing) {
+  forms::MainForm& form = screens_.main;
+  int events = 0;
+  for (auto* event : {&form.Check8.click, &form.Combo5.click, &form.Command7.click}) {
+    event->handle([&events] { ++events; });
+  }
+  form.Combo5.setLines({"1", "2", "3"});
+  binder_.bind(form, main_);
+  form.Combo5.text = "2";
+  form.Combo5.addLine("4");
+  form.Command7.caption = "A & B";
+  form.Command7.enabled = false;
+  form.Label44.size = 18;
+  form.Check8.value = 2;
+  EXPECT_EQ(events, 1) << "the check box's own code event, and nothing from the widgets";
+  form.Combo5.index = 3;
+  EXPECT_EQ(events, 2);
+
+  const auto& combo = widget<QComboBox>(main_, "Combo5");
+  EXPECT_EQ(combo.count(), 4);
+  EXPECT_EQ(combo.currentText(), "4");
+  EXPECT_EQ(widget<QPushButton>(main_, "Command7").text(), "A && B");
+  EXPECT_FALSE(widget<QPushButton>(main_, "Command7").isEnabled());
+  EXPECT_EQ(widget<QWidget>(main_, "Label44").property("pointSize").toInt(), 18);
+  EXPECT_EQ(widget<QCheckBox>(main_, "Check8").checkState(), Qt::PartiallyChecked);
+}
+
+TEST_F(BinderTest, InputDuringABlockingSoundIsHandledBehindIt) {
+  int presses = 0;
+  screens_.main.Command7.click.handle([&presses] { ++presses; });
+  binder_.bind(screens_.main, main_);
+  {
+    const platform::EventLoop::Blocking blocking(loop_);
+    widget<QPushButton>(main_, "Command7").click();
+    QTest::qWait(60);
+    EXPECT_EQ(presses, 0);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&] { return presses == 1; }));
+}
+
+TEST_F(BinderTest, AMenuFollowsItsEntriesAndAFaultReachesTheRider) {
+  std::string fault;
+  loop_.onFault([&fault](const std::string& text) { fault = text; });
+  screens_.main.mnsons.click.handle([] { throw std::runtime_error("plein"); });
+  binder_.bind(screens_.main, main_);
+  auto* action = main_.findChild<QAction*>("mnsons");
+  ASSERT_NE(action, nullptr);
+  screens_.main.mnsons.caption = "Sons";
+  EXPECT_EQ(action->text(), "Sons");
+  action->trigger();
+  EXPECT_EQ(fault, "plein");
+  screens_.main.mnsons.visible = false;
+  EXPECT_FALSE(action->isVisible());
+}
+
+TEST_F(BinderTest, TheGridTakesManyRowsAtOnceAndRepaintsOnlyWhatChanged) {
+  binder_.bind(screens_.editor, editor_);
+  platform::Grid& grid = screens_.editor.ListView1;
+  for (int c = 0; c < 13; ++c) grid.addColumn({"c", 1000, platform::Alignment::Centre});
+  auto& table = widget<desktop::GridTable>(editor_, "ListView1");
+  desktop::GridModel& model = *table.gridModel();
+  model.flush();
+  int insertions = 0;
+  std::vector<std::pair<int, int>> changed;
+  QObject::connect(&model, &QAbstractItemModel::rowsInserted, [&insertions] { ++insertions; });
+  QObject::connect(&model, &QAbstractItemModel::dataChanged,
+                   [&changed](const QModelIndex& a, const QModelIndex& b) {
+                     changed.emplace_back(a.row() * 100 + a.column(), b.row() * 100 + b.column());
+                   });
+  for (int r = 0; r < 10000; ++r) grid.addRow({"1", "2", "3", "Plat"});
+  EXPECT_EQ(model.rowCount(), 0);
+  model.flush();
+  EXPECT_EQ(model.rowCount(), 10000);
+  EXPECT_EQ(insertions, 1);
+
+  grid.setText(5, 4, "Sprint");
+  grid.setText(5, 4, "Sprint");
+  grid.setLook(7, 3, 12, {platform::Colour::rgb(255, 0, 0), true});
+  model.flush();
+  EXPECT_THAT(changed, ElementsAre(std::pair(403, 403), std::pair(600, 612)));
+
+  grid.removeRow(1);
+  grid.insertRow(3, {"x"});
+  model.flush();
+  EXPECT_EQ(model.rowCount(), grid.rowCount());
+
+  // A press of the mouse is a press in the grid, at the cell under it.
+  editor_.resize(1280, 800);
+  editor_.show();
+  QTest::qWait(0);
+  std::pair<int, platform::MouseButton> pressed;
+  grid.pressed.handle([&](platform::MouseButton button) {
+    pressed = {grid.pointedRow() * 100 + grid.pointedColumn(), button};
+  });
+  QTest::mouseClick(table.viewport(), Qt::RightButton, {}, table.cellRect(4, 12).center());
+  EXPECT_EQ(pressed, std::pair(412, platform::MouseButton::Right));
+  EXPECT_EQ(grid.selectedRow(), 4);
+  EXPECT_TRUE(grid.rowShows(4));
+  EXPECT_FALSE(grid.rowShows(9000));
+}
+
+}  // namespace
