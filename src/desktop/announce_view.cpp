@@ -8,6 +8,7 @@
 
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
+#include "platform/each_on_its_own.h"
 #include "ui_enr_une_annonce.h"
 
 namespace desktop {
@@ -121,7 +122,7 @@ void AnnounceView::drawTake() {
   if (std::exchange(taking_, false) && saveTake_) {
     QTemporaryDir passing;
     const std::string path = fromQt(passing.filePath(QStringLiteral("take.wav")));
-    saveTake_(path);
+    platform::eachOnItsOwn([&] { saveTake_(path); });
     ui_->takeWave->setPeaks(peaksOf(path, Waveform::parts));
   } else if (!file.empty() && file != takeShown_) {
     takeShown_ = file;
@@ -144,6 +145,9 @@ void AnnounceView::refreshMusic() {
   ui_->Label6->setProperty("tone", chosen ? QStringLiteral("text") : QStringLiteral("second"));
   ui_->musicTimes->setVisible(form_.Label5.visible || form_.Label7.visible);
   ui_->musicBar->setShare(chosen ? shareOf(form_.Label5.caption.get(), form_.Label7.caption.get()) : 0);
+  const bool empty = form_.File1.lines().empty();
+  setLook(*ui_->MyButton4, empty ? QStringLiteral("primary") : QString());
+  setLook(*ui_->Command8, empty ? QString() : QStringLiteral("primary"));
   setLook(*ui_->MyButton12, form_.MyButton12.enabled ? QStringLiteral("primary") : QString());
 }
 

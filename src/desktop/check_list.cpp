@@ -39,9 +39,9 @@ class RowPainter final : public QStyledItemDelegate {
     if (title) paintBox(*painter, list_->boxRect(row), grid.checked(row), palette);
     painter->setPen(palette.color(title ? role::text : role::second));
     painter->setFont(sansFont(list_, 15, title && grid.checked(row) ? QFont::DemiBold : QFont::Normal));
-    const QRect place = option.rect.adjusted(dp(list_, title ? textInset : 4), 0, -dp(list_, 4), 0);
+    const QRect place = option.rect.adjusted(dp(list_, title ? textInset : 12), 0, -dp(list_, 4), 0);
     painter->drawText(
-        place, (title ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter | Qt::TextSingleLine,
+        place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
         painter->fontMetrics().elidedText(toQt(grid.text(row, column)), Qt::ElideRight, place.width()));
   }
 

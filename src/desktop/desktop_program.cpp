@@ -32,6 +32,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode mode)
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           &DesktopProgram::endWhenQuitting);
   windows_.window().onClose([this] { askToClose(); });
+  windows_.onTake([this](const std::string& path) { mpv_.save("capture", path); });
 }
 
 bool DesktopProgram::start() {

@@ -44,6 +44,7 @@ void FormWindow::follow() {
   }
   show();
   raise();
+  page_->setFocus();  // no control has the keyboard until the rider wants one
 }
 
 void FormWindow::restyle() {

@@ -41,15 +41,19 @@ QSize PagePreview::sheet() const {
   // As wide as there is room, but never higher than a whole sheet shows.
   const double wide = std::min<double>(viewport()->width() - dp(this, 4),
                                        (viewport()->height() - dp(this, 4)) * sheetWidth / sheetHeight);
-  return QSizeF(wide, wide * sheetHeight / sheetWidth).toSize();
+  return {static_cast<int>(wide), static_cast<int>(wide * sheetHeight / sheetWidth)};
+}
+
+int PagePreview::gap() const {
+  return dp(this, 16);
 }
 
 int PagePreview::step() const {
-  return sheet().height() + dp(this, 16);
+  return sheet().height() + gap();
 }
 
 void PagePreview::layOut() {
-  const int all = step() * static_cast<int>(pages_.size()) - dp(this, 12);
+  const int all = step() * static_cast<int>(pages_.size()) - gap() + dp(this, 4);
   verticalScrollBar()->setRange(0, std::max(0, all - viewport()->height()));
   verticalScrollBar()->setPageStep(viewport()->height());
   verticalScrollBar()->setSingleStep(dp(this, 48));
@@ -74,6 +78,7 @@ void PagePreview::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(QGuiApplication::palette().color(role::line), 1));
     painter.setBrush(Qt::white);
     painter.drawRect(paper);
+    painter.setBrush(Qt::NoBrush);
     painter.save();
     painter.translate(paper.topLeft());
     painter.scale(size.width() / (sheetWidth * dots), size.height() / (sheetHeight * dots));

@@ -22,6 +22,7 @@ class PagePreview final : public QAbstractScrollArea {
  private:
   void layOut();
   [[nodiscard]] QSize sheet() const;
+  [[nodiscard]] int gap() const;
   [[nodiscard]] int step() const;
 
   std::vector<platform::PageGrid> pages_;

@@ -9,11 +9,33 @@
 #include "desktop/theme.h"
 
 namespace desktop {
+namespace {
+
+// The place that a text takes within a width: as narrow as its lines can be made without making more of them,
+// so that no word is left alone in the last one.
+QSize balanced(const QFontMetrics& metrics, const QString& text, int width) {
+  const auto laid = [&](int within) {
+    return metrics.boundingRect(QRect(0, 0, within, 10000), Qt::AlignLeft | Qt::TextWordWrap, text);
+  };
+  const int high = laid(width).height();
+  int narrow = width;
+  for (const int step = 4; narrow > step && laid(narrow - step).height() == high &&
+                           laid(narrow - step).width() <= narrow - step;) {
+    narrow -= step;
+  }
+  return {narrow, high};
+}
+
+}  // namespace
 
 StepButton::StepButton(QWidget* parent) : QPushButton(parent) {}
 
+bool StepButton::isTile() const {
+  return property("large").toString() == QLatin1String("tile");
+}
+
 QSize StepButton::sizeHint() const {
-  const bool tile = property("large").toString() == QLatin1String("tile");
+  const bool tile = isTile();
   return {dp(this, tile ? 400 : 200), dp(this, tile ? 88 : 72)};
 }
 
@@ -34,13 +56,12 @@ void StepButton::paintEvent(QPaintEvent*) {
                                    : filled     ? QPalette::HighlightedText
                                                 : role::text);
   const QFont font = sansFont(this, 15, QFont::DemiBold);
-  const int icon = dp(this, 26);
-  const int gap = dp(this, 12);
+  const bool tile = isTile();
+  const int icon = dp(this, tile ? 34 : 26);
+  const int gap = dp(this, tile ? 16 : 12);
   const QRect room = rect().adjusted(dp(this, 12), dp(this, 6), -dp(this, 12), -dp(this, 6));
-  // A line break where the text is wider than its place; the drawing and the text stand together, centred.
   const QString caption = text().replace(QLatin1String("&&"), QLatin1String("&"));
-  const QRect words = QFontMetrics(font).boundingRect(QRect(0, 0, room.width() - icon - gap, room.height()),
-                                                      Qt::AlignLeft | Qt::TextWordWrap, caption);
+  const QSize words = balanced(QFontMetrics(font), caption, room.width() - icon - gap);
   const int left = room.left() + std::max(0, (room.width() - icon - gap - words.width()) / 2);
   QPixmap picture = drawing(picture_, QSize(icon, icon), palette, devicePixelRatioF());
   if (filled || !isEnabled()) {
@@ -51,7 +72,7 @@ void StepButton::paintEvent(QPaintEvent*) {
   painter.drawPixmap(left, room.center().y() - icon / 2, picture);
   painter.setFont(font);
   painter.setPen(ink);
-  painter.drawText(QRect(left + icon + gap, room.top(), room.right() - left - icon - gap + 1, room.height()),
+  painter.drawText(QRect(left + icon + gap, room.top(), words.width(), room.height()),
                    Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, caption);
 }
 

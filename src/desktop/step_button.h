@@ -18,6 +18,8 @@ class StepButton final : public QPushButton {
   void paintEvent(QPaintEvent*) override;
 
  private:
+  [[nodiscard]] bool isTile() const;
+
   QString picture_;
 };
 

@@ -46,7 +46,7 @@ QSize TakeRing::minimumSizeHint() const {
 void TakeRing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const double side = std::min({width() - 4, height() - 4, dp(this, 280)});
+  const double side = std::min({width() - 4, height() - 4, dp(this, 320)});
   const double stroke = side * 0.055;
   QRectF circle(0, 0, side - stroke, side - stroke);
   circle.moveCenter(QRectF(rect()).center());
@@ -110,7 +110,7 @@ void Waveform::setHeard(double share) {
 }
 
 QSize Waveform::sizeHint() const {
-  return {dp(this, 300), dp(this, 96)};
+  return {dp(this, 300), dp(this, 120)};
 }
 
 QSize Waveform::minimumSizeHint() const {

@@ -1,0 +1,131 @@
+// The windows over the whole program: each form has its place, and what a person does there arrives.
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTemporaryFile>
+#include <QTest>
+
+#include "desktop/check_list.h"
+#include "desktop/take_views.h"
+#include "desktop/windows.h"
+#include "platform/recording.h"
+#include "support/simulated_program.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+class ScreensTest : public testing::Test {
+ protected:
+  ScreensTest() {
+    EXPECT_TRUE(program_.start());
+    windows_.emplace(program_.program(), desktop::ThemeMode::Dark);
+    windows_->window().show();
+  }
+  template <class Widget>
+  Widget& widget(const platform::Form& form, const char* name) {
+    auto* found = windows_->page(form)->findChild<Widget*>(QLatin1String(name));
+    if (found == nullptr) throw std::out_of_range(name);
+    return *found;
+  }
+  void settle() {
+    windows_->refresh();
+    QCoreApplication::processEvents();
+  }
+
+  support::SimulatedProgram program_;
+  forms::Screens& screens_ = program_.screens();
+  std::optional<desktop::Windows> windows_;
+};
+
+// That each control stands once on its page is checked as the windows are made: they would throw.
+TEST_F(ScreensTest, EveryFormButThePlayerHasAPlace) {
+  for (const platform::Form* form : screens_.all()) {
+    EXPECT_EQ(windows_->windowOf(*form) == nullptr, form == &screens_.player) << form->name();
+  }
+}
+
+TEST_F(ScreensTest, APageCoversTheOneBelowUntilItsFormCloses) {
+  const auto shown = [&](const platform::Form& form) { return windows_->page(form)->isVisible(); };
+  screens_.announcements.show();
+  EXPECT_TRUE(shown(screens_.announcements));
+  EXPECT_FALSE(shown(screens_.main));
+  screens_.announcements.hide();
+  EXPECT_TRUE(shown(screens_.main));
+}
+
+TEST_F(ScreensTest, ALowerFormHasAWindowThatClosesByItsOwnWayOut) {
+  for (platform::Form* form :
+       std::initializer_list<platform::Form*>{&screens_.volume, &screens_.print, &screens_.films}) {
+    form->show();
+    QWidget* window = windows_->windowOf(*form);
+    EXPECT_TRUE(window->isVisible()) << form->name();
+    EXPECT_NE(window, &windows_->window());
+    QTest::keyClick(window, Qt::Key_Escape);
+    EXPECT_FALSE(form->loaded()) << form->name();
+    EXPECT_FALSE(window->isVisible()) << form->name();
+  }
+}
+
+TEST_F(ScreensTest, TheListOfMusicIsTickedByItsBoxesAndBySpace) {
+  for (int i = 0; i < 5000; ++i)
+    program_.memory.put("/d/ambiances/" + std::to_string(10000 + i) + ".mp3", "");
+  forms::EnrUneAnnonce& form = screens_.announcements;
+  screens_.main.mnambiance.click();
+  settle();
+  widget<QPushButton>(form, "Command8").click();
+  settle();
+  auto& list = widget<desktop::CheckList>(form, "ListView1");
+  EXPECT_EQ(list.model()->rowCount(), 5000);
+
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.boxRect(2).center());
+  EXPECT_TRUE(form.ListView1.checked(2));
+  QTest::keyClick(&list, Qt::Key_Down);
+  QTest::keyClick(&list, Qt::Key_Space);
+  EXPECT_EQ(form.MyButton12.caption.get(), "Démarrer la Liste des (2) Musiques Sélectionnées");
+  QTest::keyClick(&list, Qt::Key_Space);
+  EXPECT_FALSE(form.ListView1.checked(3));
+  EXPECT_EQ(form.MyButton12.caption.get(), "Démarrer la Liste des (1) Musiques Sélectionnées");
+
+  QTest::mouseClick(list.viewport(), Qt::RightButton, {}, list.boxRect(2).center());
+  EXPECT_TRUE(form.mnEcout.enabled && !form.mnsupress.enabled);
+  QTest::mouseClick(list.viewport(), Qt::RightButton, {}, list.cellRect(2, 2).center());
+  EXPECT_TRUE(form.mnsupress.enabled && !form.mnEcout.enabled);
+}
+
+TEST_F(ScreensTest, OptionsAndSlidersFollowTheirFormAndMoveIt) {
+  forms::ImprimerTQ1& print = screens_.print;
+  print.show();
+  auto& colour = widget<QRadioButton>(print, "Option1");
+  auto& monochrome = widget<QRadioButton>(print, "Option2");
+  EXPECT_TRUE(colour.isChecked());
+  monochrome.click();
+  EXPECT_FALSE(print.Option1.value);
+  EXPECT_FALSE(colour.isChecked());
+  monochrome.click();  // stays on
+  EXPECT_TRUE(print.Option2.value && monochrome.isChecked());
+
+  auto& level = widget<QSlider>(screens_.announcements, "VScroll1");
+  screens_.announcements.VScroll1.value = 11;
+  EXPECT_EQ(level.sliderPosition(), 11);
+  level.triggerAction(QAbstractSlider::SliderToMinimum);
+  EXPECT_EQ(screens_.announcements.VScroll1.value, 1);
+}
+
+TEST(Waveform, HasTheLoudestOfEachPartOfAFile) {
+  std::vector<unsigned char> samples(800, 128);
+  samples[150] = 0;    // all the way down
+  samples[750] = 192;  // half way up
+  QTemporaryFile file;
+  ASSERT_TRUE(file.open());
+  const std::vector<char> wav = platform::wavFile({}, samples);
+  file.write(wav.data(), static_cast<qint64>(wav.size()));
+  file.close();
+  EXPECT_THAT(desktop::peaksOf(file.fileName().toStdString(), 8), ElementsAre(0, 1, 0, 0, 0, 0, 0, 0.5F));
+  EXPECT_THAT(desktop::peaksOf("/nowhere.wav", 8), testing::IsEmpty());
+}
+
+}  // namespace
