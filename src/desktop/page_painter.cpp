@@ -41,7 +41,7 @@ int wrapFlags(Qt::Alignment place) {
 
 // The largest font in which the text fits its cell; in the smallest one, what is too long is cut.
 void paintText(const Paper& paper, const QRectF& cell, QString text, Qt::Alignment place, bool bold) {
-  const QRectF inside = cell.adjusted(40 * paper.unit, 0, -40 * paper.unit, 0);
+  const QRectF inside = cell.adjusted(40 * paper.unit, 10 * paper.unit, -40 * paper.unit, -25 * paper.unit);
   QFont font;
   bool fits = false;
   for (const double points : kSizes) {
@@ -118,8 +118,8 @@ double paintGrid(QPainter& painter, const QRectF& area, const platform::PageGrid
       if (c >= row.cells.size()) return;
       const bool marked = inColour && static_cast<int>(c) == grid.kindColumn && namesAKind(row.cells[c]);
       if (marked) paintFamily(paper, cell, row.cells[c]);
-      paintText(paper, marked ? cell.adjusted(100 * paper.unit, 0, -100 * paper.unit, 0) : cell,
-                toQt(row.cells[c]), Qt::AlignCenter, false);
+      paintText(paper, marked ? cell.adjusted(100 * paper.unit, 0, 0, 0) : cell, toQt(row.cells[c]),
+                Qt::AlignCenter, false);
     });
   }
   painter.setPen(QPen(kRule, 25 * paper.unit));

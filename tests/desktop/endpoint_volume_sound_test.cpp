@@ -1,0 +1,109 @@
+// The master volume of a real sound server, beside other programs that change it; run under
+// with-sound-server.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <thread>
+
+#include "desktop/pulse_endpoint_volume.h"
+
+namespace desktop {
+namespace {
+
+using namespace std::chrono_literals;
+
+void pactl(const std::string& words) {
+  ASSERT_EQ(std::system(("pactl " + words).c_str()), 0) << words;
+}
+
+// What another program or server does arrives when it arrives; one that never does fails the whole run.
+bool comes(const std::function<bool()>& expected) {
+  for (int i = 0; i < 1000 && !expected(); ++i) std::this_thread::sleep_for(5ms);
+  return expected();
+}
+
+std::string answerOf(const std::string& words) {
+  std::string path = testing::TempDir() + "/answer";
+  pactl(words + " > " + path);
+  std::ifstream file(path);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+struct EndpointVolume : testing::Test {
+  PulseConnection connection{"Ventoria"};
+  PulseEndpointVolume volume{connection};
+
+  void SetUp() override {
+    ASSERT_NE(std::getenv("SOUND_SERVER_PID_FILE"), nullptr) << "not under with-sound-server";
+    pactl("set-sink-volume test_out 80%");
+    pactl("set-sink-mute test_out 0");
+    ASSERT_TRUE(volume.open());
+  }
+};
+
+TEST_F(EndpointVolume, FollowsOtherPrograms) {
+  EXPECT_EQ(volume.channels(), 2);
+  EXPECT_FALSE(volume.deviceName().empty());
+  EXPECT_NEAR(volume.level(), 0.8, 0.001);
+  pactl("set-sink-volume test_out 35%");
+  pactl("set-sink-mute test_out 1");
+  EXPECT_TRUE(comes([&] { return volume.muted() && std::abs(volume.level() - 0.35) < 0.001; }));
+}
+
+TEST_F(EndpointVolume, SetsThePlainFractionAndKeepsTheBalance) {
+  pactl("set-sink-volume test_out 80% 40%");
+  ASSERT_TRUE(comes([&] { return volume.open() && std::abs(volume.level() - 0.8) < 0.001; }));
+  for (const double step : {0.7, 0.6, 0.5}) {
+    volume.setLevel(step);  // what the server still answers about older steps is passed over
+    EXPECT_NEAR(volume.level(), step, 0.001);
+  }
+  volume.setMuted(true);
+  EXPECT_TRUE(comes([] {
+    const std::string sink = answerOf("get-sink-volume test_out") + answerOf("get-sink-mute test_out");
+    return sink.find(" 50% ") != std::string::npos && sink.find(" 25% ") != std::string::npos &&
+           sink.find("yes") != std::string::npos;
+  }));
+}
+
+// A level between two percents, or above all, comes back rounded at every tick and must not wander.
+TEST_F(EndpointVolume, LeavesALevelThatItsOwnRoundingGivesBack) {
+  for (const std::string units : {"48900", "98304"}) {  // 74.6 % and 150 %
+    pactl("set-sink-volume test_out " + units);
+    const double wanted = std::stod(units) / PA_VOLUME_NORM;
+    ASSERT_TRUE(comes([&] { return std::abs(volume.level() - wanted) < 0.0001; }));
+    volume.setLevel(std::min(1.0, std::round(wanted * 100) / 100));
+    EXPECT_NEAR(volume.level(), wanted, 0.0001);
+    EXPECT_NE(answerOf("get-sink-volume test_out").find(units), std::string::npos);
+  }
+}
+
+TEST_F(EndpointVolume, StaysWithItsDeviceUntilItIsOpenedAnew) {
+  pactl("set-sink-volume test_mic 20%");
+  pactl("set-default-sink test_mic");
+  EXPECT_NEAR(volume.level(), 0.8, 0.001);
+  EXPECT_TRUE(volume.open());
+  EXPECT_NEAR(volume.level(), 0.2, 0.001);
+  EXPECT_EQ(volume.channels(), 1);
+  pactl("set-default-sink test_out");
+}
+
+TEST_F(EndpointVolume, OvercomesAServerThatDies) {
+  pid_t server = 0;
+  std::ifstream(std::getenv("SOUND_SERVER_PID_FILE")) >> server;
+  kill(server, SIGKILL);
+  // Each look is written back, as the bar does it; nothing read while it is away may reach the next one,
+  // which begins at full volume.
+  EXPECT_TRUE(comes([&] {
+    const double read = volume.level();
+    volume.setLevel(read);
+    return read > 0.9;
+  }));
+}
+
+}  // namespace
+}  // namespace desktop
