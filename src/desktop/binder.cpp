@@ -382,6 +382,7 @@ void Binder::popUp(QMenu& menu) {
     const QRect cell = list->cellRect(list->pressedRow(), list->pressedColumn());
     place = list->viewport()->mapToGlobal(cell.bottomLeft() + QPoint(dp(list, 24), 0));
   }
+  menu.setProperty("place", place);  // as asked for; a small screen may move it
   menu.popup(place);
 }
 

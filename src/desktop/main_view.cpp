@@ -114,6 +114,11 @@ void MainView::refreshCards() {
   ui_->gearCard->setVisible(gear);
   ui_->gearCross->setVisible(form_.Label15.visible && form_.Label20.visible && says(form_.Label15.caption) &&
                              says(form_.Label20.caption));
+  // Numbers stand close together, words share the place.
+  const bool words = form_.Label20.caption.get().size() > 2 || form_.Label15.caption.get().size() > 2;
+  ui_->gearLine->setStretch(0, words ? 1 : 0);
+  ui_->Label20->setSizePolicy(words ? QSizePolicy::Ignored : QSizePolicy::Maximum, QSizePolicy::Preferred);
+  ui_->Label15->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   ui_->targetCard->setVisible(form_.Label44.visible && riding());
 }
 

@@ -52,7 +52,8 @@ void capture(desktop::Windows& windows, const platform::Form& form, const std::s
   QPainter painter(&picture);
   for (QWidget* menu : QApplication::topLevelWidgets()) {
     if (qobject_cast<QMenu*>(menu) == nullptr || !menu->isVisible()) continue;
-    painter.drawPixmap(menu->pos() - window->pos(), menu->grab());
+    const QVariant place = menu->property("place");  // the platform without a screen is a small one
+    painter.drawPixmap((place.isValid() ? place.toPoint() : menu->pos()) - window->pos(), menu->grab());
   }
   painter.end();
   if (!picture.save(desktop::toQt(path))) throw console::CommandError("cannot write " + path);

@@ -35,6 +35,14 @@ void click(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftB
   mouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
 }
 
+// A touch elsewhere closes what has popped up.
+void closeMenus() {
+  for (QWidget* menu = QApplication::activePopupWidget(); menu != nullptr;
+       menu = QApplication::activePopupWidget()) {
+    menu->close();
+  }
+}
+
 // A check box is hit on its box, the rest in the middle.
 QPoint spot(const QWidget& widget) {
   return qobject_cast<const QCheckBox*>(&widget) != nullptr ? QPoint(widget.height() / 2, widget.height() / 2)
@@ -68,6 +76,7 @@ QPoint cellSpot(GridTable& table, int row, int column) {
 }  // namespace
 
 QWidget* WidgetHands::touchable(const platform::Component& component) const {
+  closeMenus();
   windows_->refresh();
   settle();
   QWidget* page = windows_->page(component.form());
@@ -80,10 +89,7 @@ void WidgetHands::press(platform::Component& target) {
   if (dynamic_cast<platform::MenuItem*>(&target) != nullptr) {
     QWidget* page = windows_->page(target.form());
     auto* action = page != nullptr ? page->findChild<QAction*>(toQt(target.name())) : nullptr;
-    for (QWidget* menu = QApplication::activePopupWidget(); menu != nullptr;
-         menu = QApplication::activePopupWidget()) {
-      menu->close();
-    }
+    closeMenus();
     action != nullptr ? action->trigger() : direct_.press(target);
   } else if (QWidget* widget = touchable(target)) {
     click(*widget, spot(*widget));
