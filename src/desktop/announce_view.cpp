@@ -47,6 +47,7 @@ AnnounceView::AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState&
   for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label16, ui_->Label17}) keepPlace(*widget);
   ui_->MyFrame1->raise();
   ui_->infoPlace->raise();
+  ui_->infoPlace->hide();
   ui_->ListView1->showGrid(form.ListView1, [&binder](auto action) { binder.run(std::move(action)); });
   pending_.setSingleShot(true);
   pending_.setInterval(0);
@@ -77,9 +78,10 @@ void AnnounceView::refreshPanels() {
   // What is covered must not take the keyboard.
   ui_->recordingPlace->setVisible(!form_.MyFrame1.visible);
   ui_->libraryHome->setVisible(!form_.MyFrame5.visible);
-  ui_->infoPlace->setVisible(form_.MyFrame4.visible);
-  ui_->recordingPlace->setEnabled(!form_.MyFrame4.visible);
-  ui_->MyFrame1->setEnabled(!form_.MyFrame4.visible);
+  const bool info = form_.MyFrame4.visible;
+  if (info == !ui_->infoPlace->isHidden()) return;
+  ui_->infoPlace->setVisible(info);
+  if (info) ui_->MyButton3->setFocus();
 }
 
 int AnnounceView::takeSeconds() const {

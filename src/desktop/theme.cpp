@@ -125,13 +125,16 @@ QString themeStyleSheet(ThemeMode mode, double scale) {
     sheet.replace(QRegularExpression(QLatin1Char('@') + QLatin1String(colour.name) + QLatin1String("\\b")),
                   QLatin1String(mode == ThemeMode::Dark ? colour.dark : colour.light));
   }
-  static const QRegularExpression length(QStringLiteral("(\\d+)dp"));
+  static const QRegularExpression length(QStringLiteral("(\\d+)(dp|hp)"));
   QString sized;
   qsizetype done = 0;
   for (auto match = length.globalMatch(sheet); match.hasNext();) {
     const QRegularExpressionMatch hit = match.next();
     sized += QStringView(sheet).mid(done, hit.capturedStart() - done);
-    sized += QString::number(std::lround(hit.captured(1).toDouble() * scale)) + QLatin1String("px");
+    const long pixels = std::lround(hit.captured(1).toDouble() * scale);
+    // A corner is only drawn where its radius is at most half the box: half a length, rounded down, is "hp".
+    sized +=
+        QString::number(hit.captured(2) == QLatin1String("hp") ? pixels / 2 : pixels) + QLatin1String("px");
     done = hit.capturedEnd();
   }
   sized += QStringView(sheet).mid(done);

@@ -9,13 +9,16 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QRadioButton>
 
+#include "desktop/check_list.h"
 #include "desktop/grid_table.h"
 #include "desktop/qt_text.h"
 
 namespace stage {
 namespace {
 
+using desktop::CheckList;
 using desktop::GridTable;
 using desktop::toQt;
 
@@ -45,8 +48,9 @@ void closeMenus() {
 
 // A check box is hit on its box, the rest in the middle.
 QPoint spot(const QWidget& widget) {
-  return qobject_cast<const QCheckBox*>(&widget) != nullptr ? QPoint(widget.height() / 2, widget.height() / 2)
-                                                            : widget.rect().center();
+  const bool box = qobject_cast<const QCheckBox*>(&widget) != nullptr ||
+                   qobject_cast<const QRadioButton*>(&widget) != nullptr;
+  return box ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center();
 }
 
 void move(QWidget& widget, const QPoint& at) {
@@ -121,13 +125,15 @@ void WidgetHands::hover(platform::Control& target) {
 }
 
 void WidgetHands::tick(platform::Control& box, int value) {
-  auto* widget = qobject_cast<QCheckBox*>(touchable(box));
-  // A person cannot make a box grey; a script can.
-  if (widget == nullptr || value > 1) {
+  auto* widget = qobject_cast<QAbstractButton*>(touchable(box));
+  // A person cannot make a box grey, nor put an option out; a script can.
+  if (widget == nullptr || value > 1 || (value == 0 && qobject_cast<QRadioButton*>(widget) != nullptr)) {
     direct_.tick(box, value);
     return;
   }
-  if (widget->checkState() != (value == 1 ? Qt::Checked : Qt::Unchecked)) click(*widget, spot(*widget));
+  const auto* check = qobject_cast<QCheckBox*>(widget);
+  const Qt::CheckState wanted = value == 1 ? Qt::Checked : Qt::Unchecked;
+  if (check == nullptr || check->checkState() != wanted) click(*widget, spot(*widget));
   settle();
 }
 
@@ -195,7 +201,13 @@ void WidgetHands::hoverCell(platform::Grid& grid, int row, int column) {
 }
 
 void WidgetHands::checkRow(platform::Grid& grid, int row, bool on) {
-  direct_.checkRow(grid, row, on);
+  auto* list = qobject_cast<CheckList*>(touchable(grid));
+  if (list == nullptr || row < 1 || row > grid.rowCount() || grid.checked(row) == on) {
+    direct_.checkRow(grid, row, on);
+  } else {
+    (void)cellSpot(*list, row, 1);
+    click(*list->viewport(), list->boxRect(row).center());
+  }
   settle();
 }
 
