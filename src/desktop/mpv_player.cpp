@@ -60,7 +60,7 @@ bool MpvPlayer::load(std::int64_t from) {
   mpv_set_property_string(handle_.get(), "start", seconds(from).c_str());
   std::array<const char*, 3> command{"loadfile", address_.c_str(), nullptr};
   loaded_ = ended_ = false;
-  sought_ = from;
+  await(from);
   if (mpv_command(handle_.get(), command.data()) < 0) return false;
   const auto patienceEnds = std::chrono::steady_clock::now() + kPatience;
   while (!loaded_ && !ended_ && std::chrono::steady_clock::now() < patienceEnds) {
@@ -75,7 +75,7 @@ void MpvPlayer::take(const mpv_event& event) {
       loaded_ = true;
       break;
     case MPV_EVENT_PLAYBACK_RESTART:
-      sought_ = -1;
+      arrived_ = true;
       break;
     case MPV_EVENT_END_FILE: {
       const auto reason = static_cast<const mpv_event_end_file*>(event.data)->reason;
@@ -92,9 +92,15 @@ void MpvPlayer::take(const mpv_event& event) {
 void MpvPlayer::takeEvents() {
   for (;;) {
     const mpv_event* event = mpv_wait_event(handle_.get(), 0);
-    if (event->event_id == MPV_EVENT_NONE) return;
+    if (event->event_id == MPV_EVENT_NONE) break;
     take(*event);
   }
+  if (arrived_ && mode_ == Mode::Playing) sought_ = -1;
+}
+
+void MpvPlayer::await(std::int64_t position) {
+  sought_ = position;
+  arrived_ = false;
 }
 
 void MpvPlayer::setFlag(const char* property, bool on) {
@@ -128,7 +134,7 @@ void MpvPlayer::seek(std::int64_t milliseconds) {
   }
   const std::string place = seconds(target);
   std::array<const char*, 4> command{"seek", place.c_str(), "absolute+exact", nullptr};
-  if (mpv_command(handle_.get(), command.data()) >= 0) sought_ = target;
+  if (mpv_command(handle_.get(), command.data()) >= 0) await(target);
 }
 
 void MpvPlayer::setSpeed(double factor) {

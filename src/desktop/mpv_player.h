@@ -40,6 +40,7 @@ class MpvPlayer {
   void hold(Mode mode);
   void setFlag(const char* property, bool on);
   void takeEvents();
+  void await(std::int64_t position);
   void take(const mpv_event& event);
 
   std::string address_;
@@ -48,7 +49,8 @@ class MpvPlayer {
   bool loaded_ = false;
   bool ended_ = false;
   std::int64_t length_ = 0;
-  std::int64_t sought_ = -1;  // where it will stand once it has got there; -1: it is there
+  std::int64_t sought_ = -1;  // where it stands, or will once it has got there, until it plays on; -1: none
+  bool arrived_ = false;
   Mode mode_ = Mode::Stopped;
 };
 
