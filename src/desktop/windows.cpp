@@ -1,11 +1,11 @@
 #include "desktop/windows.h"
 
 #include <QMouseEvent>
-#include <QShortcut>
 #include <QWindow>
 #include <array>
 
 #include "desktop/qt_text.h"
+#include "desktop/shortcuts.h"
 #include "ui_aide_tq.h"
 
 namespace desktop {
@@ -60,7 +60,7 @@ Windows::Windows(app::Program& program, ThemeMode mode)
   openFormWindow(printWindow_, screens.print, screens.print.Command34);
   openFormWindow(filmsWindow_, screens.films, screens.films.MyButton9);
   window_.setWindowTitle(toQt(screens.main.caption.get()));
-  addShortcuts();
+  addShortcuts(program, binder_, window_, *mainPage_, *editorPage_);
   makeDraggable();
   refresh();
 }
@@ -106,30 +106,6 @@ void Windows::showWhatIsLeft() {
     if (!form->visible) continue;
     window_.showPage(page(*form));
     return;
-  }
-}
-
-void Windows::addShortcuts() {
-  forms::MainForm& main = program_.screens().main;
-  forms::CreerCycle& editor = program_.screens().editor;
-  struct Key {
-    QKeySequence keys;
-    platform::Button& button;
-    QWidget* page;
-  };
-  const std::array<Key, 5> keys{{{Qt::Key_F5, main.MyButton1, mainPage_},
-                                 {Qt::CTRL | Qt::Key_P, main.Command7, mainPage_},
-                                 {Qt::Key_F5, editor.MyButton5, editorPage_},
-                                 {QKeySequence::Open, editor.Command5, editorPage_},
-                                 {QKeySequence::Save, editor.Command6, editorPage_}}};
-  for (const Key& key : keys) {
-    auto* shortcut = new QShortcut(key.keys, key.page);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(shortcut, &QShortcut::activated, this, [this, &button = key.button] {
-      binder_.run([&button] {
-        if (platform::canBeSeen(button) && platform::isEnabled(button)) button.click();
-      });
-    });
   }
 }
 

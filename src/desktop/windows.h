@@ -39,7 +39,6 @@ class Windows final : public QObject {
   void followForm(platform::Form& form, QWidget& page);
   void showWhatIsLeft();
   void openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way);
-  void addShortcuts();
   void makeDraggable();
   bool eventFilter(QObject* watched, QEvent* event) override;
 

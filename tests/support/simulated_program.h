@@ -1,0 +1,56 @@
+// The whole program over a disk in memory that can fail, worked by the console's commands.
+#pragma once
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "console/session.h"
+#include "support/faulty_file_system.h"
+#include "support/memory_file_system.h"
+
+namespace support {
+
+inline const std::string settingsOff = "000000000000 10               ";
+inline const std::string settingsOn = "0111111111012 1               ";
+
+class SimulatedProgram {
+ public:
+  explicit SimulatedProgram(const std::string& settings = settingsOff,
+                            std::chrono::milliseconds timeOfDay = std::chrono::hours(12))
+      : options_(at(timeOfDay)), session_(options_, "/d", out_, nullptr, &disk) {
+    if (!settings.empty()) memory.put("/d/par.tq3", settings);
+  }
+
+  [[nodiscard]] bool start() { return session_.program().start(); }
+  // Carries the commands out, a line each; what they printed.
+  std::string run(const std::string& commands) {
+    out_.str({});
+    std::istringstream lines(commands);
+    for (std::string line; std::getline(lines, line);) session_.interpreter().execute(line);
+    return out_.str();
+  }
+  [[nodiscard]] int status() { return session_.interpreter().status(); }
+
+  [[nodiscard]] app::Program& program() { return session_.program(); }
+  [[nodiscard]] forms::Screens& screens() { return session_.program().screens(); }
+  [[nodiscard]] platform::Grid& list() { return screens().editor.ListView1; }
+  [[nodiscard]] platform::EventLoop& loop() { return session_.program().loop(); }
+  [[nodiscard]] model::SharedState& state() { return session_.program().state(); }
+
+  MemoryFileSystem memory;
+  FaultyFileSystem disk{memory};
+
+ private:
+  static console::Options at(std::chrono::milliseconds timeOfDay) {
+    console::Options options;
+    options.start = platform::LocalTime{std::chrono::days(20000) + timeOfDay};
+    return options;
+  }
+
+  std::ostringstream out_;
+  console::Options options_;
+  console::Session session_;
+};
+
+}  // namespace support

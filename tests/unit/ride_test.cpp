@@ -1,0 +1,167 @@
+// What a script cannot do: a disk that fails, and a rider who touches something while the program waits.
+#include <gmock/gmock.h>
+
+#include "model/grid_rows.h"
+#include "support/simulated_program.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using support::FaultyFileSystem;
+using support::SimulatedProgram;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr const char* composeTwoRows = R"(press MainForm.mnCreat
+cell CreerCycle.ListView1 2 4
+pick CreerCycle.Combo1 Plat
+cell CreerCycle.ListView1 2 10
+pick CreerCycle.Combo4 10
+press CreerCycle.MyButton1
+cell CreerCycle.ListView1 3 4
+pick CreerCycle.Combo1 Sprint
+cell CreerCycle.ListView1 3 10
+pick CreerCycle.Combo4 20
+advance 1
+)";
+
+constexpr const char* openCountdown = R"(press CreerCycle.MyButton5
+advance 0.1
+journal
+press MainForm.MyButton3
+)";
+
+TEST(Start, MakesItsFoldersAndTellsWhereOneCannotBeMade) {
+  for (int folder = 1; folder <= 5; ++folder) {
+    SimulatedProgram program;
+    program.disk.failFrom(FaultyFileSystem::Call::MakeFolder, folder);
+    EXPECT_FALSE(program.start());
+    EXPECT_THAT(program.run("journal dialog"), HasSubstr("Impossible de créer le dossier « /d"));
+    EXPECT_EQ(program.memory.folders.size(), static_cast<std::size_t>(folder - 1));
+  }
+  SimulatedProgram program;
+  EXPECT_TRUE(program.start());
+  EXPECT_THAT(program.memory.folders,
+              testing::UnorderedElementsAre("/d", "/d/chronodat", "/d/annonces", "/d/ambiances", "/d/Vid"));
+}
+
+TEST(Saving, AFullDiskKeepsTheListAndSaysWhichFile) {
+  for (int write = 1; write <= 3; ++write) {
+    SimulatedProgram program;
+    ASSERT_TRUE(program.start());
+    program.run(composeTwoRows);
+    program.disk.failFrom(FaultyFileSystem::Call::Write, write);
+    const std::string said =
+        program.run("journal\nanswer Matin.tq2\npress CreerCycle.Command6\njournal dialog");
+    EXPECT_THAT(said, HasSubstr("Impossible d'écrire dans « /d/chronodat/Matin.tq2 »"));
+    EXPECT_THAT(said, HasSubstr("La liste est restée telle quelle"));
+    EXPECT_EQ(program.list().rowCount(), 3);
+    program.disk.heal();
+    program.run("answer Matin.tq2\nanswer ok\npress CreerCycle.Command6");
+    EXPECT_EQ(program.list().rowCount(), 2);
+    EXPECT_EQ(program.memory.files.at("/d/chronodat/Matin.tq2")->size(), 450U);
+    program.run("answer Matin.tq2\npress CreerCycle.MyButton4\nexpect CreerCycle.ListView1 3");
+    EXPECT_EQ(program.status(), 0);
+  }
+}
+
+TEST(Settings, AFullDiskKeepsTheBoxesAndTheLengthOfTheCountdown) {
+  SimulatedProgram program;
+  ASSERT_TRUE(program.start());
+  program.disk.failFrom(FaultyFileSystem::Call::Write, 1);
+  const std::string said = program.run(
+      "journal\npress MainForm.mnsons\ntick MainForm.Check4 1\npress MainForm.MyButton7\njournal");
+  EXPECT_THAT(said, HasSubstr("Impossible d'écrire dans « /d/par.tq3 »"));
+  EXPECT_THAT(said, Not(HasSubstr("parPersoenr.wav")));
+  EXPECT_EQ(program.screens().main.Check4.value, 1);
+}
+
+// A wait of n seconds ends n seconds after the nearest whole second, midnight or not.
+TEST(Waits, LastUntilAWholeSecondOfTheClock) {
+  const struct {
+    std::chrono::milliseconds timeOfDay;
+    std::chrono::milliseconds lasts;
+  } waits[] = {{12s + 400ms, 600ms},  {12s + 500ms, 500ms},        {13s + 500ms, 1500ms},
+               {12s + 600ms, 1400ms}, {23h + 59min + 59s, 1000ms}, {24h - 400ms, 1400ms}};
+  for (const auto& wait : waits) {
+    SimulatedProgram program(support::settingsOff, wait.timeOfDay);
+    ASSERT_TRUE(program.start());
+    program.run("press MainForm.Command4");  // waits one second, and quits
+    EXPECT_EQ(program.loop().clock().now(), wait.lasts) << wait.timeOfDay.count();
+    EXPECT_TRUE(program.loop().quitting());
+  }
+}
+
+class WaitingRide : public testing::Test {
+ protected:
+  WaitingRide() {
+    EXPECT_TRUE(program_.start());
+    program_.run(composeTwoRows);
+    program_.run(openCountdown);
+  }
+  // The rider gives the commands as soon as the chrono's condition holds, be it in the midst of a wait.
+  void when(std::function<bool()> condition, const std::string& commands) {
+    program_.loop().onInput([this, condition = std::move(condition), commands] {
+      if (!condition()) return;
+      SimulatedProgram& program = program_;  // what the handler holds goes with the handler
+      const std::string now = commands;
+      program.loop().onInput({});
+      program.run(now);
+    });
+  }
+  forms::MainForm& main() { return program_.screens().main; }
+
+  SimulatedProgram program_{support::settingsOn};
+};
+
+TEST_F(WaitingRide, ACancelInABoundarysWaitEndsTheBoundary) {
+  when([this] { return program_.state().sequenceCourante == 2; }, "call MainForm.MyButton4");
+  program_.run("advance 60");
+  const std::string said = program_.run("journal prompt");
+  EXPECT_THAT(said, HasSubstr("seanceAnnule.wav"));
+  EXPECT_THAT(said, Not(HasSubstr("seq2.wav")));
+  EXPECT_FALSE(main().Timer1.enabled);
+  EXPECT_FALSE(main().Label16.visible);
+  EXPECT_TRUE(main().Label18.visible);
+  EXPECT_EQ(program_.state().sequenceCourante, 0);
+}
+
+TEST_F(WaitingRide, ACancelWhileTheZeroStandsKeepsTheNextRowAway) {
+  when([this] { return main().Label40.caption == "00:00:20" && main().Label6.caption == "00"; },
+       "press MainForm.MyButton4");
+  program_.run("advance 60");
+  EXPECT_THAT(program_.run("journal prompt"), Not(HasSubstr("seq2.wav")));
+  EXPECT_FALSE(main().Timer1.enabled);
+}
+
+TEST_F(WaitingRide, APauseInABoundarysWaitHoldsTheNewRow) {
+  when([this] { return program_.state().sequenceCourante == 2; }, "press MainForm.Command7");
+  program_.run("advance 60");
+  EXPECT_EQ(main().Command7.caption, "REPRENDRE");
+  EXPECT_EQ(main().Label16.caption, "2/2");
+  EXPECT_EQ(main().Label40.caption, "00:00:20");
+  program_.run("press MainForm.Command7\nadvance 2");
+  EXPECT_EQ(main().Label40.caption, "00:00:18");
+}
+
+TEST_F(WaitingRide, QuittingInAWaitLeavesNothingRunning) {
+  when([this] { return program_.state().sequenceCourante == 2; }, "press MainForm.Command4");
+  program_.run("advance 60");
+  EXPECT_TRUE(program_.loop().quitting());
+  EXPECT_THAT(program_.run("journal prompt"), Not(HasSubstr("seq2.wav")));
+}
+
+TEST(Rides, AFaultInATickIsToldOnceAndTheProgramGoesOn) {
+  SimulatedProgram program;
+  ASSERT_TRUE(program.start());
+  program.run(composeTwoRows);
+  program.list().setText(3, model::column::duration, "bientôt");
+  program.run(openCountdown);
+  const std::string said = program.run("advance 30\njournal fault\npress MainForm.MyButton4\nadvance 1");
+  EXPECT_THAT(said, HasSubstr("bientôt"));
+  EXPECT_EQ(said.find("bientôt"), said.rfind("bientôt"));
+  program.run("expect MainForm.Label18.visible 1\nexpect MainForm.Command7.enabled 0");
+  EXPECT_EQ(program.status(), 0);
+}
+
+}  // namespace
