@@ -10,7 +10,7 @@ namespace desktop {
 namespace {
 
 constexpr int digitSize = 186;
-constexpr double digitsHeight = 0.80;  // of the font's size: no digit goes below the line
+constexpr double digitsHeight = 0.86;  // of the font's size: no digit goes below the line
 
 int textWidth(const QFont& font, const QString& text) {
   return QFontMetrics(font).horizontalAdvance(text);
@@ -54,8 +54,9 @@ void ChronoDigits::paintEvent(QPaintEvent*) {
                              isDark(QGuiApplication::palette()) ? 0.30 : 0.33)
                      : bright);
   const QString shown = leading_ ? text_ : QLatin1Char(':') + text_;
-  const int baseline = height() / 2 + static_cast<int>(font.pixelSize() * 0.36);
-  painter.drawText(0, baseline, shown);
+  // By what is really drawn: the round digits rise above the height of the others.
+  const QRect zero = QFontMetrics(font).tightBoundingRect(QStringLiteral("0"));
+  painter.drawText(0, (height() - zero.height()) / 2 - zero.top(), shown);
 }
 
 CountdownRing::CountdownRing(QWidget* parent) : QWidget(parent) {
