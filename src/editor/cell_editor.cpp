@@ -68,7 +68,11 @@ void CellEditor::cliquerCellule() {
   form_.Timer4.enabled = colonneEdit_ == column::duration;
   showDuration();
   if (colonneEdit_ == column::deleteMark) {
-    if (model::lenientInteger(grid_.text(row, column::number)) != 1) return;
+    if (model::lenientInteger(grid_.text(row, column::number)) != 1) {
+      // The editor of another cell would follow to this one, and write over its mark.
+      endEditing();
+      return;
+    }
     form_.Label23.caption = dashHelp;
     refuse();
     return;
@@ -213,8 +217,9 @@ void CellEditor::presserCellule(platform::MouseButton button) {
   }
   form_.Label4.caption = refusal;
   form_.Label4.colour = refusalColour;
+  // The right button selects its row without a click: the editor that is open would write there.
+  if (button == platform::MouseButton::Right) endEditing();
   const bool menu = button == platform::MouseButton::Right && onDelete;
-  if (menu) endEditing();
   form_.mnSupprimer.enabled = menu;
   if (menu) form_.mnSupprimer.popUp();
 }
