@@ -24,11 +24,22 @@ Totals::Totals(const voice::Toolbox& tools) : form_(tools.screens.editor), grid_
   form_.Timer6.tick.handle([this] { verifierLignes(); });
   form_.Timer7.tick.handle([this] { blink(); });
   form_.Timer9.tick.handle([this] { survolerCellule(); });
+  grid_.watchGrid([this](const platform::GridChange& change) { note(change); });
+}
+
+void Totals::note(const platform::GridChange& change) {
+  using What = platform::GridChange::What;
+  const bool unseen = change.what == What::Selection || change.what == What::Reveal ||
+                      change.what == What::Focus || change.what == What::Checked;
+  if (unseen) return;
+  looksStale_ = true;
+  if (change.what != What::Look) totalStale_ = true;
 }
 
 // In whole seconds, which is what going through the texts at every step comes to: a day drops out of each
 // sum.
 void Totals::calculerTotal() {
+  if (!totalStale_) return;
   int sum = 0;
   for (int row = 2; row <= grid_.rowCount(); ++row) {
     const std::string& duration = grid_.text(row, column::duration);
@@ -39,10 +50,10 @@ void Totals::calculerTotal() {
   const int times = model::lenientInteger(grid_.text(1, column::times));
   grid_.setText(1, column::duration,
                 model::formatSeconds(static_cast<long long>(sum) * (times > 0 ? times : 1)));
+  totalStale_ = false;
 }
 
-void Totals::verifierLignes() {
-  if (grid_.rowCount() < 2) return;
+int Totals::paintRows() {
   int unfinished = 0;
   for (int row = 2; row <= grid_.rowCount(); ++row) {
     const bool red = model::isUnfinished(grid_, row);
@@ -50,7 +61,16 @@ void Totals::verifierLignes() {
     grid_.setLook(row, column::sessionName, column::deleteMark,
                   red ? model::look::unfinished : model::look::finished);
   }
-  const bool complete = unfinished == 0;
+  return unfinished;
+}
+
+void Totals::verifierLignes() {
+  if (grid_.rowCount() < 2) return;
+  if (looksStale_) {
+    unfinished_ = paintRows();
+    looksStale_ = false;
+  }
+  const bool complete = unfinished_ == 0;
   form_.MyButton5.visible = complete;
   form_.Command35.visible = complete;
   form_.Command6.visible = complete;
@@ -62,7 +82,7 @@ void Totals::verifierLignes() {
   // Once it blinks, its timer alone shows and hides it.
   if (!form_.Timer7.enabled) form_.MyButton11.visible = true;
   form_.Timer7.enabled = true;
-  form_.MyButton11.caption = std::to_string(unfinished) + " Séquence(s) en (Rouge) non Terminée(s)...";
+  form_.MyButton11.caption = std::to_string(unfinished_) + " Séquence(s) en (Rouge) non Terminée(s)...";
 }
 
 void Totals::blink() {

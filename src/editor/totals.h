@@ -15,10 +15,18 @@ class Totals {
   void survolerCellule();
 
  private:
+  void note(const platform::GridChange& change);
+  // Colours every row but the first; how many are not finished.
+  [[nodiscard]] int paintRows();
   void blink();
 
   forms::CreerCycle& form_;
   platform::Grid& grid_;
+  // Whether the list has changed since it was last summed or painted: a look at an unchanged list costs
+  // nothing.
+  bool totalStale_ = true;
+  bool looksStale_ = true;
+  int unfinished_ = 0;
 };
 
 }  // namespace editor
