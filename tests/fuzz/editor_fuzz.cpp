@@ -1,0 +1,216 @@
+// The bytes of the input are a rider at the editor, four for each thing that he does: clicks, picks, typed
+// values, commands, waits, saves and loads. Whatever he does the list keeps its shape, and nothing fails but
+// what he is told.
+#include <algorithm>
+#include <array>
+
+#include "fuzz/check.h"
+#include "model/grid_rows.h"
+#include "model/vocabulary.h"
+#include "model/windows1252.h"
+#include "platform/text.h"
+#include "support/simulated_program.h"
+
+namespace {
+
+namespace column = model::column;
+
+constexpr std::array typed{
+    "97",
+    "",
+    " ",
+    "-----",
+    "séance",
+    "Annonce Vocale",
+    "00:00:99",
+    "Oui",
+    "3",
+    "x",
+    "une valeur bien plus longue que la place qu'elle trouve dans le fichier de séance"};
+constexpr std::array commands{"mnsupprim", "mnsupprim", "mnAjouterLigne", "mnUndo",
+                              "mnUndo",    "mnRedo",    "MyButton1",      "MyButton1",
+                              "MyButton7", "MyButton3", "MyButton2",      "Command4"};
+constexpr std::array waits{"0.01", "0.2", "1", "3"};
+
+class Rider {
+ public:
+  Rider() {
+    program_.memory.put("/d/annonces/allez.wav", "");
+    program_.memory.put(path(0), repeatedSession());
+    check(program_.start(), "the program starts");
+    run("press MainForm.mnCreat");
+  }
+
+  void act(std::uint8_t what, std::uint8_t a, std::uint8_t b, std::uint8_t c) {
+    switch (what % 16) {
+      case 0:
+      case 1:
+      case 2:
+      case 3:
+      case 4:
+        click(a, b, c % 8 == 0);
+        break;
+      case 5:
+      case 6:
+      case 7:
+      case 8:
+        pick("Combo1", a + 256 * b);
+        break;
+      case 9:
+        pick(std::array{"Combo2", "Combo3", "Combo4"}.at(a % 3), b);
+        break;
+      case 10:
+        run("type CreerCycle.Combo1 \"" + std::string(typed.at(a % typed.size())) + "\"");
+        break;
+      case 11:
+        run("advance " + std::string(waits.at(a % waits.size())));
+        break;
+      case 12:
+        if (a % 2 == 0)
+          save(b % 3);
+        else
+          load(b % 3, c % 2 == 0);
+        break;
+      case 13:
+        handOver(a % 2 == 0);
+        break;
+      case 14:
+        finishLastRow(a, b, c);
+        break;
+      default:
+        press(commands.at(a % commands.size()));
+    }
+    checkList();
+  }
+
+ private:
+  platform::Grid& list() { return program_.list(); }
+  std::string run(const std::string& commands) {
+    done_ += commands + "\n";
+    return program_.run(commands);
+  }
+  // A broken promise shows the commands that broke it.
+  void check(bool holds, const std::string& promise) const {
+    if (!holds) fuzz::check(false, promise + " after\n" + done_);
+  }
+  void press(const std::string& control) { run("press CreerCycle." + control); }
+
+  void click(int row, int col, bool right) {
+    const int last = list().rowCount();
+    run("cell CreerCycle.ListView1 " + std::to_string(row % last + 1) + " " +
+        std::to_string(col % model::columnCount + 1) + (right ? " right" : ""));
+  }
+
+  void pick(const std::string& name, int line) {
+    const auto& box = dynamic_cast<platform::ComboBox&>(program_.screens().editor.find(name));
+    if (box.lines().empty()) return;
+    const std::string& text = box.lines().at(static_cast<std::size_t>(line) % box.lines().size());
+    run("pick CreerCycle." + name + " \"" + text + "\"");
+  }
+
+  // A kind and a duration, or an announcement; then perhaps another row.
+  void finishLastRow(int kind, int duration, int more) {
+    const int last = list().rowCount();
+    if (last < 2) return;
+    click(last - 1, column::sequence - 1, false);
+    pick("Combo1", kind);
+    const bool spoken = list().text(last, column::sequence) == model::vocalAnnouncement;
+    click(last - 1, (spoken ? column::announcement : column::duration) - 1, false);
+    pick(spoken ? "Combo1" : "Combo4", duration);
+    run("advance 0.2");
+    if (more % 4 != 0) press("MyButton1");
+  }
+
+  // Two sequences ridden twice.
+  static std::string repeatedSession() {
+    std::string bytes(450, ' ');
+    const auto put = [&](std::size_t at, std::string_view text) { bytes.replace(at, text.size(), text); };
+    put(0, "3");
+    put(71, "Oui2");
+    put(84, "ver2");
+    for (const std::size_t record : {150, 300}) {
+      put(record + 15, "Plat");
+      put(record + 76, "00:01:00-----");
+    }
+    return bytes;
+  }
+  static std::string path(int number) { return "/d/chronodat/Séance " + std::to_string(number) + ".tq2"; }
+
+  void save(int number) {
+    run("advance 1");
+    if (!program_.screens().editor.Command6.visible || model::lastRowUnfinished(list())) return;
+    std::vector<std::string> saved;
+    for (int row = 2; row <= list().rowCount(); ++row) {
+      if (model::isSequence(list(), row)) saved.push_back(storedTexts(row));
+    }
+    const bool replaces = program_.memory.exists(path(number));
+    run("answer " + path(number) + (replaces ? "\nanswer ok" : "") + "\npress CreerCycle.Command6");
+    check(list().rowCount() == 2, "a save begins the list anew");
+    run("advance 1");
+    loadNow(number);
+    // The first pass, behind the first row, in the order in which it was saved.
+    for (std::size_t i = 0; i < saved.size(); ++i) {
+      const int row = static_cast<int>(i) + 2;
+      check(storedTexts(row) == saved.at(i), "what was saved is loaded: " + saved.at(i));
+    }
+  }
+
+  // The seven texts of a row as the file keeps them.
+  std::string storedTexts(int row) {
+    const std::pair<int, std::size_t> fields[] = {{column::sequence, 15},  {column::cadence, 15},
+                                                  {column::chainring, 13}, {column::gear, 13},
+                                                  {column::duration, 8},   {column::heartRate, 11}};
+    std::string texts;
+    for (const auto& [col, width] : fields) {
+      texts += platform::trim(platform::left(list().text(row, col), width)) + "|";
+    }
+    const bool spoken = texts.starts_with("Annonce Vocale|");
+    return texts + (spoken ? platform::trim(platform::left(list().text(row, column::announcement), 50)) : "");
+  }
+
+  void loadNow(int number) {
+    forms::CreerCycle& form = program_.screens().editor;
+    if (form.MyButton4.caption != "Ajouter une Séance") press("MyButton3");
+    run("answer " + path(number) + "\npress CreerCycle.MyButton4");
+  }
+
+  void load(int number, bool byList) {
+    forms::CreerCycle& form = program_.screens().editor;
+    const bool asks = form.MyButton4.caption == "Ajouter une Séance";
+    if (list().rowCount() > 300 || !program_.memory.exists(path(number))) return;
+    if (asks) run("answer " + path(number));
+    press(byList ? "Command5" : "MyButton4");
+  }
+
+  // To the main screen and back, by the start or by the way that keeps everything.
+  void handOver(bool start) {
+    press(start ? "MyButton5" : "MyButton6");
+    run("advance 0.2\npress MainForm.MyButton5");
+  }
+
+  void checkList() {
+    check(program_.screens().editor.visible, "the editor is on the screen");
+    check(list().columnCount() == model::columnCount, "thirteen columns");
+    check(list().rowCount() >= 1, "a first row");
+    for (int row = 1; row <= list().rowCount(); ++row) {
+      const bool first = list().text(row, column::sessionName) == "Nouvelle Séance";
+      check(first == (row == 1), "exactly one first row, at the top");
+      check(list().text(row, column::deleteMark) == (first ? "--" : "x"), "the delete cells");
+    }
+    check(model::parseSeconds(list().text(1, column::duration)).has_value(), "the total is a time");
+    const std::string faults = program_.run("journal fault");
+    check(faults.empty(), "no fault: " + faults);
+  }
+
+  support::SimulatedProgram program_;
+  std::string done_;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  Rider rider;
+  for (std::size_t at = 0; at + 4 <= size; at += 4)
+    rider.act(data[at], data[at + 1], data[at + 2], data[at + 3]);
+  return 0;
+}
