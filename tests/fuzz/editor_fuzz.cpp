@@ -27,9 +27,9 @@ constexpr std::array typed{
     "3",
     "x",
     "une valeur bien plus longue que la place qu'elle trouve dans le fichier de séance"};
-constexpr std::array commands{"mnsupprim", "mnsupprim", "mnAjouterLigne", "mnUndo",
-                              "mnUndo",    "mnRedo",    "MyButton1",      "MyButton1",
-                              "MyButton7", "MyButton3", "MyButton2",      "Command4"};
+constexpr std::array buttons{"mnsupprim", "mnsupprim", "mnAjouterLigne", "mnUndo",
+                             "mnUndo",    "mnRedo",    "MyButton1",      "MyButton1",
+                             "MyButton7", "MyButton3", "MyButton2",      "Command4"};
 constexpr std::array waits{"0.01", "0.2", "1", "3"};
 
 class Rider {
@@ -78,7 +78,7 @@ class Rider {
         finishLastRow(a, b, c);
         break;
       default:
-        press(commands.at(a % commands.size()));
+        press(buttons.at(a % buttons.size()));
     }
     checkList();
   }
