@@ -9,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QCursor>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -387,9 +388,11 @@ void Binder::popUp(QMenu& menu) {
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease) held_ = false;
   Control* control = controls_.value(watched);
   if (control == nullptr) {
-    if (event->type() == QEvent::MouseButtonPress) pressed_ = static_cast<QWidget*>(watched)->parentWidget();
+    if (event->type() == QEvent::MouseButtonPress && !held_)
+      pressed_ = static_cast<QWidget*>(watched)->parentWidget();
     return false;
   }
   auto* widget = static_cast<QWidget*>(watched);
@@ -401,8 +404,18 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
       pointer_ = at;
       break;
     }
+    case QEvent::KeyPress: {
+      // Ends here: the list around a box would take the key, too, and open the cell anew.
+      const int key = static_cast<QKeyEvent*>(event)->key();
+      if (control->kind() != ControlKind::ComboBox || (key != Qt::Key_Return && key != Qt::Key_Enter)) break;
+      static_cast<QComboBox*>(widget)->lineEdit()->event(event);
+      event->accept();
+      return true;
+    }
     case QEvent::MouseButtonPress:
-      pressed_ = widget;
+      // A press goes on to the containers around what was pressed.
+      if (!held_ || pressed_ == nullptr || !widget->isAncestorOf(pressed_)) pressed_ = widget;
+      held_ = true;
       if (static_cast<QMouseEvent*>(event)->button() == Qt::RightButton && control->alternate.handled()) {
         run([control] { control->alternate(); });
         return true;

@@ -63,6 +63,7 @@ class Binder final : public QObject {
   QHash<const QObject*, platform::Control*> controls_;
   QHash<const platform::MenuItem*, QMenu*> menus_;
   QPointer<QWidget> pressed_;
+  bool held_ = false;  // a mouse button is down
   QPointF pointer_;
   std::function<void(const platform::MenuItem&)> poppedUp_;
 };
