@@ -1,0 +1,342 @@
+// Whole rides with music at a real sound server: the program's own buttons are pressed and its sound is
+// listened to; run it under with-sound-server.
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <complex>
+#include <map>
+#include <numbers>
+
+#include "desktop/desktop_program.h"
+#include "desktop/loudspeaker.h"
+#include "desktop/qt_text.h"
+#include "platform/recording.h"
+
+namespace desktop {
+namespace {
+
+using support::Recording;
+using support::Samples;
+
+constexpr int kRate = WavDecoder::kRate;
+constexpr double kLevel = 0.1;  // of the music
+
+// Music whose pitch tells the place in it, above all that the voice has.
+struct Sweep {
+  double first;  // Hz
+  double seconds;
+};
+constexpr double kRise = 150;  // Hz a second
+constexpr Sweep kPiece{8000, 40};
+constexpr Sweep kShortPiece{8000, 8};
+constexpr Sweep kNextPiece{14500, 20};
+
+// Mono, 16 bits.
+template <class Pitch>
+std::vector<char> wavOf(double seconds, double level, Pitch pitch) {
+  std::vector<unsigned char> bytes;
+  double phase = 0;
+  for (int i = 0; i < int(seconds * kRate); ++i) {
+    phase += 2 * std::numbers::pi * pitch(double(i) / kRate) / kRate;
+    const auto value = static_cast<unsigned>(std::lround(32767 * level * std::sin(phase)));
+    bytes.push_back(static_cast<unsigned char>(value & 0xFF));
+    bytes.push_back(static_cast<unsigned char>(value >> 8 & 0xFF));
+  }
+  return platform::wavFile({kRate, 16, 1}, bytes);
+}
+
+std::vector<char> music(const Sweep& sweep) {
+  return wavOf(sweep.seconds, kLevel, [&](double at) { return sweep.first + kRise * at; });
+}
+
+constexpr std::array<double, 4> kMelody{700, 1300, 2100, 1000};  // Hz, each for twelve frames
+constexpr std::size_t kToneFrames = 12;
+constexpr double kFrame = 0.02;  // seconds
+
+std::vector<char> melody() {
+  return wavOf(kMelody.size() * kToneFrames * kFrame, 0.5, [](double at) {
+    return kMelody.at(std::min(std::size_t(at / (kToneFrames * kFrame)), kMelody.size() - 1));
+  });
+}
+
+// What sounds in a fiftieth of a second.
+struct Frame {
+  double voice = 0;  // the root of the voice's power; full scale is 1
+  double pitch = 0;  // the voice's loudest
+  double level = 0;  // the music's
+  double tone = 0;   // the music's pitch
+
+  [[nodiscard]] bool speaks() const { return voice > 0.01; }
+  [[nodiscard]] bool hasMusic() const { return level > kLevel / 2; }
+};
+
+constexpr std::size_t kWindow = 1024;
+using Spectrum = std::vector<std::complex<double>>;
+
+Spectrum transform(const Spectrum& in) {
+  const std::size_t half = in.size() / 2;
+  if (half == 0) return in;
+  Spectrum even(half);
+  Spectrum odd(half);
+  for (std::size_t i = 0; i < half; ++i) even[i] = in[2 * i], odd[i] = in[2 * i + 1];
+  even = transform(even);
+  odd = transform(odd);
+  Spectrum out(in.size());
+  for (std::size_t i = 0; i < half; ++i) {
+    const auto turned = std::polar(1.0, -std::numbers::pi * double(i) / double(half)) * odd[i];
+    out[i] = even[i] + turned;
+    out[i + half] = even[i] - turned;
+  }
+  return out;
+}
+
+// The loudest bin between two, and its pitch between the bins.
+std::pair<std::size_t, double> loudest(const Spectrum& spectrum, double from, double to) {
+  const auto bin = [](double hertz) { return std::ptrdiff_t(hertz * kWindow / kRate); };
+  const auto peak =
+      std::max_element(spectrum.begin() + bin(from), spectrum.begin() + bin(to),
+                       [](const auto& a, const auto& b) { return std::norm(a) < std::norm(b); });
+  const double below = std::log(std::abs(*(peak - 1)) + 1e-9);
+  const double here = std::log(std::abs(*peak) + 1e-9);
+  const double above = std::log(std::abs(*(peak + 1)) + 1e-9);
+  const double bend = below - 2 * here + above;
+  const double shift = bend == 0 ? 0 : (below - above) / (2 * bend);
+  return {std::size_t(peak - spectrum.begin()),
+          (double(peak - spectrum.begin()) + shift) * kRate / double(kWindow)};
+}
+
+std::vector<Frame> framesOf(const Samples& samples) {
+  std::vector<Frame> frames;
+  const auto hop = std::size_t(kFrame * kRate);
+  for (std::size_t from = 0; 2 * (from + kWindow) <= samples.size(); from += hop) {
+    Spectrum window(kWindow);
+    for (std::size_t i = 0; i < kWindow; ++i) {
+      const double bell = 1 - std::cos(2 * std::numbers::pi * double(i) / kWindow);  // of mean 1
+      window[i] = bell * samples[2 * (from + i)] / 32768.0;
+    }
+    const Spectrum spectrum = transform(window);
+    Frame frame;
+    for (std::size_t i = 3; i < 110; ++i)
+      frame.voice += 2 * std::norm(spectrum[i]) / (1.5 * kWindow * kWindow);
+    frame.voice = std::sqrt(frame.voice);
+    frame.pitch = loudest(spectrum, 200, 5000).second;
+    const auto [peak, tone] = loudest(spectrum, 7500, 19000);
+    frame.level = 2 * std::abs(spectrum[peak]) / kWindow;
+    frame.tone = tone;
+    frames.push_back(frame);
+  }
+  return frames;
+}
+
+// A stretch of music without a gap.
+struct Stretch {
+  std::size_t begin;
+  std::size_t end;
+};
+
+// A lost moment of the sound server is no hold: those last half a second at least.
+constexpr std::size_t kLeastHold = 15;
+
+std::vector<Stretch> stretchesOf(const std::vector<Frame>& frames, const Sweep& piece) {
+  const auto belongs = [&](const Frame& frame) {
+    return frame.hasMusic() && frame.tone > piece.first - 50 &&
+           frame.tone < piece.first + kRise * piece.seconds + 50;
+  };
+  std::vector<Stretch> stretches;
+  for (std::size_t i = 0; i < frames.size(); ++i) {
+    if (!belongs(frames[i])) continue;
+    if (stretches.empty() || i - stretches.back().end >= kLeastHold) stretches.push_back({i, i});
+    stretches.back().end = i + 1;
+  }
+  return stretches;
+}
+
+double placeIn(const Sweep& piece, const Frame& frame) {
+  return (frame.tone - piece.first) / kRise;
+}
+
+bool holdsMelody(const std::vector<Frame>& frames) {
+  for (std::size_t at = 0; at + kMelody.size() * kToneFrames < frames.size(); ++at) {
+    bool same = true;
+    for (std::size_t i = 0; same && i < kMelody.size() * kToneFrames; ++i) {
+      const std::size_t within = i % kToneFrames;
+      if (within < 3 || within > 8) continue;
+      same = frames[at + i].speaks() && std::abs(frames[at + i].pitch - kMelody.at(i / kToneFrames)) < 30;
+    }
+    if (same) return true;
+  }
+  return false;
+}
+
+// One record of a session, its fields as offset and text.
+std::string record(const std::map<std::size_t, std::string>& fields) {
+  std::string bytes(150, ' ');
+  for (const auto& [at, text] : fields) bytes.replace(at, text.size(), text);
+  return bytes;
+}
+
+std::string header(int records) {
+  return record({{0, std::to_string(records)}, {71, "Non"}, {74, "0"}, {84, "ver2"}});
+}
+
+std::string row(const std::string& kind, const std::string& duration,
+                const std::string& announcement = "-----") {
+  return record({{15, kind}, {76, duration}, {84, announcement}, {134, "000"}});
+}
+
+class Ambience : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    static int count = 1;
+    static char name[] = "ventoria";
+    static std::array<char*, 2> words{name, nullptr};
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QApplication>(count, words.data());
+    QApplication::setQuitOnLastWindowClosed(false);
+  }
+  static void TearDownTestSuite() { application_.reset(); }
+
+  void SetUp() override {
+    ASSERT_NE(std::getenv("SOUND_SERVER_PID_FILE"), nullptr) << "not under with-sound-server";
+    for (const char* folder : {"ambiances", "annonces", "chronodat"})
+      std::filesystem::create_directory(at(folder));
+  }
+
+  [[nodiscard]] std::string at(const std::string& name) const { return fromQt(folder_.path()) + "/" + name; }
+  template <class Bytes>
+  void put(const std::string& name, const Bytes& bytes) const {
+    std::ofstream(at(name), std::ios::binary).write(bytes.data(), std::ptrdiff_t(bytes.size()));
+  }
+  // The boxes 1 to 12; then two seconds of countdown, and the kinds are spoken.
+  void start(const std::string& boxes) {
+    put("par.tq3", boxes + "2 1" + std::string(15, ' '));
+    program_ = std::make_unique<DesktopProgram>(fromQt(folder_.path()), ThemeMode::Dark);
+    ASSERT_TRUE(program_->start());
+  }
+
+  static QWidget* page(const char* name) {
+    for (QWidget* widget : QApplication::allWidgets()) {
+      if (widget->objectName() == QLatin1String(name)) return widget;
+    }
+    throw std::out_of_range(name);
+  }
+  template <class Widget>
+  static Widget& widget(const char* form, const char* name) {
+    auto* found = page(form)->findChild<Widget*>(QLatin1String(name));
+    if (found == nullptr) throw std::out_of_range(name);
+    return *found;
+  }
+  // As soon as the rider can.
+  static void press(const char* form, const char* name) {
+    auto& button = widget<QAbstractButton>(form, name);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return button.isVisible() && button.isEnabled(); }, 30000))
+        << form << "." << name;
+    button.click();
+  }
+  static void choose(const char* entry) { widget<QAction>("MainForm", entry).trigger(); }
+
+  static void tickAllMusic() {
+    choose("mnambiance");
+    for (const char* name : {"Command8", "Check1", "MyButton11", "MyButton9"}) press("EnrUneAnnonce", name);
+  }
+  // A ride from its countdown to its last word.
+  std::vector<Frame> ride(const std::string& session) {
+    put("chronodat/Essai.tq2", session);
+    program_->addSession(at("chronodat/Essai.tq2"));
+    press("CreerCycle", "MyButton5");
+    // The frame opens by itself a moment later, and starts anew what was started before.
+    const auto& startOrStop = widget<QPushButton>("MainForm", "MyButton1");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return startOrStop.text() == QLatin1String("Stop"); }, 10000));
+    Recording recording;
+    press("MainForm", "MyButton3");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return startOrStop.text() == QLatin1String("Start"); }, 60000));
+    return framesOf(recording.samples());
+  }
+
+  static std::unique_ptr<QApplication> application_;
+  QTemporaryDir folder_;
+  std::unique_ptr<DesktopProgram> program_;
+};
+
+std::unique_ptr<QApplication> Ambience::application_;
+
+// Types the name into the file chooser that comes up.
+void saveUnder(const QString& name) {
+  QTimer::singleShot(100, qApp, [name] {
+    auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (chooser == nullptr) return saveUnder(name);
+    auto* edit = chooser->findChild<QLineEdit*>();
+    edit->setText(name);
+    QTest::keyClick(edit, Qt::Key_Return);
+  });
+}
+
+TEST_F(Ambience, TheMusicYieldsToTheVoiceAndToAnAnnouncementJustRecorded) {
+  put("ambiances/x.mp3", music(kPiece));
+  put("melody.wav", melody());
+  start("011100011101");
+
+  choose("mnEnrAnnVocale");
+  press("EnrUneAnnonce", "Command2");
+  QProcess speech;
+  speech.start("paplay", {"-d", "test_mic", toQt(at("melody.wav"))});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return speech.state() == QProcess::NotRunning; }, 20000));
+  QTest::qWait(500);  // what was said last is still on its way
+  press("EnrUneAnnonce", "Command3");
+  saveUnder("allez.wav");
+  press("EnrUneAnnonce", "Command1");
+  ASSERT_TRUE(std::filesystem::exists(at("annonces/allez.wav")));
+  press("EnrUneAnnonce", "MyButton7");
+
+  tickAllMusic();
+  const std::vector<Frame> frames =
+      ride(header(4) + row("Sprint", "00:00:04") + row("Annonce Vocale", "-----", "allez.wav") +
+           row("Plat", "00:00:04"));
+
+  EXPECT_TRUE(holdsMelody(frames));
+  const auto spokenOver = [](const Frame& frame) { return frame.speaks() && frame.hasMusic(); };
+  EXPECT_EQ(std::count_if(frames.begin(), frames.end(), spokenOver), 0);
+  const std::vector<Stretch> stretches = stretchesOf(frames, kPiece);
+  EXPECT_GE(stretches.size(), 6U);
+  double held = 0;
+  for (const Stretch& stretch : stretches) {
+    const double resumed = placeIn(kPiece, frames[stretch.begin]);
+    if (&stretch != &stretches.front()) {
+      EXPECT_NEAR(resumed, held, 0.1);
+    }
+    held = placeIn(kPiece, frames[stretch.end - 1]);
+    EXPECT_NEAR(held - resumed, double(stretch.end - 1 - stretch.begin) * kFrame, 0.1);
+  }
+}
+
+TEST_F(Ambience, TheMusicGoesOnUnderTheVoiceAndFromPieceToPiece) {
+  put("ambiances/1.mp3", music(kShortPiece));
+  put("ambiances/2.mp3", music(kNextPiece));
+  start("011100011011");
+  tickAllMusic();
+  const std::vector<Frame> frames = ride(header(2) + row("Sprint", "00:00:06"));
+
+  const std::vector<Stretch> first = stretchesOf(frames, kShortPiece);
+  ASSERT_EQ(first.size(), 1U);
+  const auto begin = frames.begin() + std::ptrdiff_t(first[0].begin);
+  const auto end = frames.begin() + std::ptrdiff_t(first[0].end);
+  EXPECT_NEAR(double(end - begin) * kFrame, kShortPiece.seconds, 0.1);
+  EXPECT_LT(placeIn(kShortPiece, *begin), 0.1);
+  EXPECT_GT(placeIn(kShortPiece, *(end - 1)), kShortPiece.seconds - 0.1);
+  EXPECT_GT(std::count_if(begin, end, [](const Frame& frame) { return frame.speaks(); }), 50);
+
+  const std::vector<Stretch> second = stretchesOf(frames, kNextPiece);
+  ASSERT_FALSE(second.empty());
+  EXPECT_GT(second[0].begin, first[0].end);
+  EXPECT_LT(placeIn(kNextPiece, frames[second[0].begin]), 0.1);
+}
+
+}  // namespace
+}  // namespace desktop
