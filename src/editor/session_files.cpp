@@ -138,12 +138,15 @@ std::optional<std::string> SessionFiles::askPath() {
 
 // The records are written over those that stand there: a failure in their midst has changed some of them.
 void SessionFiles::write(const std::string& path) {
-  const bool replacing = tools_.outside.files.exists(path);
+  bool touched = false;
   try {
+    const bool replacing = tools_.outside.files.exists(path);
+    (void)tools_.outside.files.open(path, platform::OpenMode::ReadWriteCreate);
+    touched = replacing;
     model::ecrireSeance(tools_.outside.files, path, form_.ListView1);
   } catch (const platform::FileFault& fault) {
     const std::string lost =
-        replacing ? " L'ancienne séance de ce fichier est peut-être en partie remplacée." : "";
+        touched ? " L'ancienne séance de ce fichier est peut-être en partie remplacée." : "";
     throw platform::Fault(std::string(fault.what()) + lost +
                           " La liste est restée telle quelle : enregistrez-la sous un autre nom.");
   }
