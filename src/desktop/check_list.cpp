@@ -26,15 +26,7 @@ class RowPainter final : public QStyledItemDelegate {
     const int row = index.row() + 1;
     const int column = index.column() + 1;
     const QPalette palette = QGuiApplication::palette();
-    if (row == grid.selectedRow()) {
-      painter->fillRect(option.rect, mixed(palette.color(role::card), palette.color(role::accent), 0.16));
-    }
-    painter->setPen(palette.color(role::line));
-    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    if (list_->hasFocus() && row == grid.selectedRow() && column == list_->pressedColumn()) {
-      painter->setPen(QPen(palette.color(role::accent), 2));
-      painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
-    }
+    paintCellGround(*painter, option.rect, *list_, row, column);
     const bool title = column == 1;
     if (title) paintBox(*painter, list_->boxRect(row), grid.checked(row), palette);
     painter->setPen(palette.color(title ? role::text : role::second));

@@ -31,16 +31,7 @@ class CellPainter final : public QStyledItemDelegate {
     const int row = index.row() + 1;
     const int column = index.column() + 1;
     const QPalette palette = QGuiApplication::palette();
-    if (row == grid.selectedRow()) {
-      painter->fillRect(option.rect, mixed(palette.color(role::card), palette.color(role::accent), 0.16));
-    }
-    painter->setPen(palette.color(role::line));
-    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    if (table_->hasFocus() && row == grid.selectedRow() && column == table_->pressedColumn()) {
-      painter->setPen(QPen(palette.color(role::accent), 2));
-      painter->setBrush(Qt::NoBrush);
-      painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
-    }
+    paintCellGround(*painter, option.rect, *table_, row, column);
 
     const std::string& cell = grid.text(row, column);
     // A cell without a colour of its own goes with its row.
@@ -82,6 +73,18 @@ class CellPainter final : public QStyledItemDelegate {
 };
 
 }  // namespace
+
+void paintCellGround(QPainter& painter, const QRect& cell, const GridTable& table, int row, int column) {
+  const QPalette palette = QGuiApplication::palette();
+  const bool selected = row == table.grid()->selectedRow();
+  if (selected) painter.fillRect(cell, mixed(palette.color(role::card), palette.color(role::accent), 0.16));
+  painter.setPen(palette.color(role::line));
+  painter.drawLine(cell.bottomLeft(), cell.bottomRight());
+  if (!selected || !table.hasFocus() || column != table.pressedColumn()) return;
+  painter.setPen(QPen(palette.color(role::accent), 2));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(cell.adjusted(1, 1, -2, -2));
+}
 
 GridTable::GridTable(QWidget* parent) : QTableView(parent) {
   setItemDelegate(new CellPainter(this));

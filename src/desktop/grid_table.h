@@ -70,4 +70,7 @@ class GridTable : public QTableView {
   int selectedRow_ = 0;
 };
 
+// What lies under a cell's text: the selected row's tint, the line below, the frame of the cell in hand.
+void paintCellGround(QPainter& painter, const QRect& cell, const GridTable& table, int row, int column);
+
 }  // namespace desktop

@@ -23,10 +23,10 @@ void PulseRecorder::start(const platform::RecordingFormat& format) {
   const auto bytesPerSecond = static_cast<std::size_t>(format.bytesPerSecond());
   limit_ = kLongest * bytesPerSecond;
   const PulseConnection::Lock lock(connection_);
-  const pa_sample_spec spec{format.bitsPerSample == 8 ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE,
-                            static_cast<std::uint32_t>(format.samplesPerSecond),
-                            static_cast<std::uint8_t>(format.channels)};
-  stream_.reset(pa_stream_new(connection_.context(), "Annonce", &spec, nullptr));
+  const pa_sample_spec sampling{format.bitsPerSample == 8 ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE,
+                                static_cast<std::uint32_t>(format.samplesPerSecond),
+                                static_cast<std::uint8_t>(format.channels)};
+  stream_.reset(pa_stream_new(connection_.context(), "Annonce", &sampling, nullptr));
   if (!stream_) return;
   pa_stream_set_read_callback(stream_.get(), &PulseRecorder::read, this);
   const auto fragment = static_cast<std::uint32_t>(bytesPerSecond / 50);

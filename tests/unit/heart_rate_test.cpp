@@ -224,15 +224,18 @@ TEST_F(HeartRate, TakesARecordWithoutAnAgeForANewOne) {
 // What is cut off or damaged never keeps the form from loading, and leaves both method boxes alike.
 struct DamagedRecord : HeartRate, testing::WithParamInterface<int> {};
 TEST_P(DamagedRecord, LoadsAllTheSame) {
-  const int seed = GetParam();
-  std::string stored = saved.substr(0, static_cast<std::size_t>(std::min(seed, 40)));
-  std::mt19937 random(static_cast<unsigned>(seed));
-  if (seed > 40) stored.resize(40);
-  for (char& c : stored) c = seed > 40 ? static_cast<char>(random() % 256) : c;
+  const int number = GetParam();
+  std::string stored = saved.substr(0, static_cast<std::size_t>(std::min(number, 40)));
+  std::mt19937 random(static_cast<unsigned>(number));
+  if (number > 40) stored.resize(40);
+  for (char& c : stored) c = number > 40 ? static_cast<char>(random() % 256) : c;
   load(stored);
   EXPECT_EQ(form.Combo8.index, form.Combo13.index);
-  EXPECT_EQ(form.Combo8.index, seed >= 18 && seed <= 40 ? 5 : form.Combo8.index.get());
-  EXPECT_EQ(form.Combo7.text, seed == 0 ? " " : seed == 1 ? "4" : seed <= 40 ? "40" : form.Combo7.text.get());
+  EXPECT_EQ(form.Combo8.index, number >= 18 && number <= 40 ? 5 : form.Combo8.index.get());
+  EXPECT_EQ(form.Combo7.text, number == 0    ? " "
+                              : number == 1  ? "4"
+                              : number <= 40 ? "40"
+                                             : form.Combo7.text.get());
   EXPECT_EQ(form.Check1.value + form.Check2.value + form.Check3.value, 1);
   EXPECT_EQ(modes().at(static_cast<std::size_t>(state.modeAffichageFC) - 1), 1);
   EXPECT_GE(form.Combo8.index, 0);
