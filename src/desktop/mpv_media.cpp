@@ -9,6 +9,8 @@ namespace {
 using platform::MediaFigure;
 using platform::TimeFormat;
 
+constexpr std::chrono::seconds lookAgain{1};
+
 // The address under which the library plays bytes that lie in no file.
 std::string inMemory(const std::vector<char>& bytes) {
   constexpr const char* digits = "0123456789abcdef";
@@ -50,6 +52,14 @@ MpvPlayer* MpvMedia::playerOf(const std::string& alias) {
     if (player->opened()) device->player = std::move(player);
   }
   return device->player.get();
+}
+
+// Where the loudspeaker goes away the library runs on unheard, and would do so when it is back.
+void MpvMedia::keepHeard(MpvPlayer& player) {
+  const auto now = std::chrono::steady_clock::now();
+  if (now - lookedAt_ < lookAgain || player.mode() != MpvPlayer::Mode::Playing) return;
+  lookedAt_ = now;
+  if (player.unheard() && connection_.hasLoudspeaker()) player.reopenOutput();
 }
 
 void MpvMedia::openFile(const std::string& alias, const std::string& path) {
@@ -143,6 +153,7 @@ std::string MpvMedia::mode(const std::string& alias) {
 std::optional<std::int64_t> MpvMedia::figure(const std::string& alias, MediaFigure figure) {
   const Device* device = find(alias);
   if (device == nullptr) return std::nullopt;
+  if (figure == MediaFigure::Position && device->player) keepHeard(*device->player);
   if (figure == MediaFigure::Length || figure == MediaFigure::Position) {
     const std::int64_t time = figure == MediaFigure::Length ? device->length() : device->position();
     return device->timeFormat == TimeFormat::Bytes ? device->format.bytesFor(time) : time;

@@ -1,6 +1,7 @@
 // Music and recorder on the real devices: libmpv plays, the sound server records.
 #pragma once
 
+#include <chrono>
 #include <map>
 #include <memory>
 
@@ -51,10 +52,12 @@ class MpvMedia final : public platform::MediaBackend {
   Device* find(const std::string& alias);
   // What plays the file or the take; null where there is nothing to play.
   MpvPlayer* playerOf(const std::string& alias);
+  void keepHeard(MpvPlayer& player);
 
   PulseConnection& connection_;
   platform::FileSystem& files_;
   std::map<std::string, Device> devices_;
+  std::chrono::steady_clock::time_point lookedAt_{};  // for a server that has come back
 };
 
 }  // namespace desktop

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <clocale>
 #include <cmath>
+#include <string_view>
 #include <utility>
 
 namespace desktop {
@@ -12,9 +13,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 3s;  // with a disk that has to wake up
+constexpr auto kPatience = 3s;                 // with a disk that has to wake up
+constexpr std::string_view kNowhere = "null";  // the output that takes the sound and drops it
 
-constexpr std::array<std::pair<const char*, const char*>, 13> kOptions{{
+constexpr std::array<std::pair<const char*, const char*>, 14> kOptions{{
     {"config", "no"},
     {"terminal", "no"},
     {"load-scripts", "no"},
@@ -22,6 +24,7 @@ constexpr std::array<std::pair<const char*, const char*>, 13> kOptions{{
     {"access-references", "no"},
     {"input-default-bindings", "no"},
     {"vid", "no"},
+    {"demuxer", "lavf"},  // the library's own readers are for films and lists, and look long at noise
     {"idle", "yes"},
     {"keep-open", "no"},
     {"pause", "yes"},
@@ -147,6 +150,18 @@ void MpvPlayer::setVolume(double percent) {
 
 void MpvPlayer::setAudible(bool audible) {
   setFlag("mute", !audible);
+}
+
+bool MpvPlayer::unheard() {
+  char* output = mpv_get_property_string(handle_.get(), "current-ao");
+  const bool unheard = output != nullptr && std::string_view(output) == kNowhere;
+  mpv_free(output);
+  return unheard;
+}
+
+void MpvPlayer::reopenOutput() {
+  std::array<const char*, 2> command{"ao-reload", nullptr};
+  mpv_command(handle_.get(), command.data());
 }
 
 MpvPlayer::Mode MpvPlayer::mode() {

@@ -25,6 +25,10 @@ class MpvPlayer {
   void setSpeed(double factor);
   void setVolume(double percent);
   void setAudible(bool audible);
+  // Whether what is played goes nowhere, since no sound server took it.
+  [[nodiscard]] bool unheard();
+  // Looks for a sound server anew; what it had been given already is not played again.
+  void reopenOutput();
 
   [[nodiscard]] Mode mode();
   [[nodiscard]] std::int64_t length() const { return length_; }  // ms

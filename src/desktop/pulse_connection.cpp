@@ -1,6 +1,7 @@
 #include "desktop/pulse_connection.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace desktop {
@@ -13,6 +14,9 @@ using std::chrono::steady_clock;
 
 constexpr milliseconds kAttemptPatience{500};
 constexpr milliseconds kTick{10};
+constexpr milliseconds kAnswerPatience{500};
+// What the servers show in place of a card where there is none.
+constexpr std::string_view kNoCard = "auto_null";
 
 }  // namespace
 
@@ -65,6 +69,22 @@ bool PulseConnection::ready() {
   waitUntil([&] { return isReady() || !alive(); }, std::max(left, 0ms));
   const Lock lock(*this);
   return isReady();
+}
+
+bool PulseConnection::hasLoudspeaker() {
+  if (!ready()) return false;
+  bool found = false;
+  pa_operation* request = nullptr;
+  {
+    const Lock lock(*this);
+    request = pa_context_get_sink_info_list(
+        context_.get(),
+        [](pa_context*, const pa_sink_info* sink, int, void* answer) {
+          if (sink && sink->name != kNoCard) *static_cast<bool*>(answer) = true;
+        },
+        &found);
+  }
+  return finish(request, kAnswerPatience) && found;
 }
 
 void PulseConnection::notify() {

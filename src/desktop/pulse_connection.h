@@ -38,6 +38,8 @@ class PulseConnection {
   // Whether the server answers. A lost or refused connection is tried anew at each question, so a server
   // that comes back is found; an attempt that hangs is waited for once, and shortly.
   bool ready();
+  // Whether the server answers and has a device to play on; what only stands in for one does not count.
+  bool hasLoudspeaker();
   // The live context, to be used under a Lock and only after ready().
   [[nodiscard]] pa_context* context() const { return context_.get(); }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <string_view>
 #include <utility>
 
 #include "desktop/wav_decoder.h"
@@ -15,9 +14,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kTick = 10ms;
-constexpr auto kPatience = 500ms;
-// What the servers show in place of a card where there is none.
-constexpr std::string_view kNoCard = "auto_null";
 
 std::vector<std::int16_t> makeBeep() {
   constexpr double kPitch = 880;
@@ -49,19 +45,7 @@ bool PulseSoundOutput::goOn() {
 }
 
 bool PulseSoundOutput::hasDevice() {
-  if (!connection_.ready()) return false;
-  bool found = false;
-  pa_operation* request = nullptr;
-  {
-    const PulseConnection::Lock lock(connection_);
-    request = pa_context_get_sink_info_list(
-        connection_.context(),
-        [](pa_context*, const pa_sink_info* sink, int, void* answer) {
-          if (sink && sink->name != kNoCard) *static_cast<bool*>(answer) = true;
-        },
-        &found);
-  }
-  return connection_.finish(request, kPatience) && found;
+  return connection_.hasLoudspeaker();
 }
 
 const PulseSoundOutput::Samples& PulseSoundOutput::converted(const platform::SoundClip& clip) {

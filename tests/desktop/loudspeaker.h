@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -25,6 +26,12 @@ namespace support {
 using Samples = std::vector<std::int16_t>;
 
 inline constexpr std::size_t kPerMs = desktop::WavDecoder::kRate * desktop::WavDecoder::kChannels / 1000;
+
+inline pid_t serverPid() {
+  pid_t pid = 0;
+  std::ifstream(std::getenv("SOUND_SERVER_PID_FILE")) >> pid;
+  return pid;
+}
 
 // What the loudspeaker gives from its making to its stop.
 class Recording {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
@@ -10,6 +11,7 @@
 #include <numbers>
 #include <thread>
 
+#include "desktop/loudspeaker.h"
 #include "desktop/mpv_media.h"
 #include "platform/disk_file_system.h"
 #include "platform/media_parser.h"
@@ -38,16 +40,19 @@ struct MpvMediaTest : testing::Test {
   MpvMediaTest() {
     files.makeFolder(folder);
     commands.workIn(folder);
+    keepTone(1);
+  }
+  ~MpvMediaTest() override { fs::remove_all(folder); }
+
+  void keepTone(int seconds) {
     platform::RecordingFormat format;
-    std::vector<unsigned char> tone(static_cast<std::size_t>(format.bytesPerSecond()));
+    std::vector<unsigned char> tone(static_cast<std::size_t>(seconds * format.bytesPerSecond()));
     for (std::size_t i = 0; i < tone.size(); ++i) {
       const double phase = 2 * std::numbers::pi * 440 * static_cast<double>(i) / format.samplesPerSecond;
       tone[i] = static_cast<unsigned char>(128 + std::lround(60 * std::sin(phase)));
     }
     platform::saveWhole(files, piece, platform::wavFile(format, tone));
   }
-  ~MpvMediaTest() override { fs::remove_all(folder); }
-
   std::string send(const std::string& command) { return commands.send(command); }
   void open() { send("open MPEGVideo!" + piece + " alias m parent 0 Style 1073741824"); }
   int position() { return std::atoi(send("status m position notify").c_str()); }
@@ -114,6 +119,21 @@ TEST_F(MpvMediaTest, RecordsListensAndSaves) {
   EXPECT_EQ(send("status capture mode"), "playing");
   EXPECT_TRUE(comes([&] { return send("status capture mode") == "stopped"; }));
   EXPECT_EQ(send("status capture position notify"), length);
+}
+
+TEST_F(MpvMediaTest, IsHeardAgainOnceTheServerIsBack) {
+  keepTone(60);
+  open();
+  send("play m from 0");
+  EXPECT_TRUE(comes([&] { return position() > 100; }));
+  const pid_t server = support::serverPid();
+  kill(server, SIGKILL);
+  EXPECT_TRUE(comes([&] { return support::serverPid() != server && connection.hasLoudspeaker(); }));
+  EXPECT_TRUE(comes([&] {
+    const int at = position();
+    const support::Samples heard = support::Recording().samples();
+    return at < 60000 && std::any_of(heard.begin(), heard.end(), [](int value) { return value > 5000; });
+  }));
 }
 
 // No server is no reason to wait: the music runs on unheard, and a recording stays empty.

@@ -20,6 +20,7 @@ namespace {
 using support::kPerMs;
 using support::Recording;
 using support::Samples;
+using support::serverPid;
 using namespace std::chrono_literals;
 using Bytes = std::vector<unsigned char>;
 
@@ -52,12 +53,6 @@ class PulseSound : public testing::Test {
  protected:
   void SetUp() override {
     ASSERT_NE(std::getenv("SOUND_SERVER_PID_FILE"), nullptr) << "not under with-sound-server";
-  }
-
-  static pid_t serverPid() {
-    pid_t pid = 0;
-    std::ifstream(std::getenv("SOUND_SERVER_PID_FILE")) >> pid;
-    return pid;
   }
 
   void play(const std::string& number) {
