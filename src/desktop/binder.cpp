@@ -92,7 +92,8 @@ void showCaption(QWidget& widget, const QString& text) {
              !widget.property("captionElsewhere").toBool()) {
     widget.setProperty("text", plain(text, widget));
   }
-  if (qobject_cast<QLabel*>(&widget) == nullptr) widget.setAccessibleName(text.trimmed());
+  const QString name = text.trimmed();
+  if (qobject_cast<QLabel*>(&widget) == nullptr && !name.isEmpty()) widget.setAccessibleName(name);
 }
 
 void showLook(QWidget& widget, const Control& control) {
@@ -116,6 +117,15 @@ void showCombo(const platform::ComboBox& box, QComboBox& widget, bool relist) {
   if (widget.currentIndex() != box.index) widget.setCurrentIndex(box.index);
   const QString text = toQt(box.text.get());
   if (widget.currentText() != text) widget.setEditText(text);
+}
+
+// A text or a picture that can be pressed, and is no mere label of another control.
+bool isPressableDrawing(const Control& control, const QWidget& widget) {
+  const ControlKind kind = control.kind();
+  const auto* label = qobject_cast<const QLabel*>(&widget);
+  return (kind == ControlKind::Label || kind == ControlKind::Image || kind == ControlKind::Frame) &&
+         qobject_cast<const QAbstractButton*>(&widget) == nullptr &&
+         (label == nullptr || label->buddy() == nullptr) && control.click.handled();
 }
 
 }  // namespace
@@ -178,6 +188,7 @@ void Binder::tie(Control& control, QWidget& widget) {
   widget.installEventFilter(this);
   // A list takes the mouse in its viewport; a menu that it opens is not the last button's.
   if (auto* list = qobject_cast<QAbstractScrollArea*>(&widget)) list->viewport()->installEventFilter(this);
+  if (isPressableDrawing(control, widget)) widget.setFocusPolicy(Qt::TabFocus);
   if (auto* box = dynamic_cast<platform::CheckBox*>(&control)) {
     tieCheckBox(*box, dynamic_cast<QCheckBox&>(widget));
   } else if (auto* option = dynamic_cast<platform::Option*>(&control)) {
@@ -260,7 +271,9 @@ void Binder::show(const Component& component, Prop prop, QWidget& widget) {
       break;
     case Prop::ToolTip:
       widget.setToolTip(toQt(control.toolTip.get()));
-      if (component.kind() == ControlKind::Image) widget.setAccessibleName(toQt(control.toolTip.get()));
+      if (component.kind() == ControlKind::Image && !control.toolTip.get().empty()) {
+        widget.setAccessibleName(toQt(control.toolTip.get()));
+      }
       break;
     case Prop::Colour:
     case Prop::Bold:
@@ -387,6 +400,18 @@ void Binder::popUp(QMenu& menu) {
   menu.popup(place);
 }
 
+// Enter presses what has the keyboard, and so does the space bar a drawing, as it does a button.
+bool Binder::pressByKey(QWidget& widget, Control& control, int key) {
+  const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+  if (auto* button = qobject_cast<QAbstractButton*>(&widget); button != nullptr && enter) {
+    button->click();
+    return true;
+  }
+  if (!isPressableDrawing(control, widget) || !(enter || key == Qt::Key_Space)) return false;
+  run([&control] { control.click(); });
+  return true;
+}
+
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease) held_ = false;
   Control* control = controls_.value(watched);
@@ -407,6 +432,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress: {
       // Ends here: the list around a box would take the key, too, and open the cell anew.
       const int key = static_cast<QKeyEvent*>(event)->key();
+      if (pressByKey(*widget, *control, key)) return true;
       if (control->kind() != ControlKind::ComboBox || (key != Qt::Key_Return && key != Qt::Key_Enter)) break;
       static_cast<QComboBox*>(widget)->lineEdit()->event(event);
       event->accept();

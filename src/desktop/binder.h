@@ -58,6 +58,7 @@ class Binder final : public QObject {
   void tieOpeners(platform::MenuItem& item, QMenu& menu, QWidget& page);
   void show(const platform::Component& component, platform::Prop prop, QWidget& widget);
   void popUp(QMenu& menu);
+  bool pressByKey(QWidget& widget, platform::Control& control, int key);
 
   platform::EventLoop& loop_;
   QHash<const QObject*, platform::Control*> controls_;

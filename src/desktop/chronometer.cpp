@@ -51,7 +51,7 @@ void ChronoDigits::paintEvent(QPaintEvent*) {
   const QColor bright = QGuiApplication::palette().color(role::text);
   const bool dim = leading_ && text_ == QLatin1String("00");
   painter.setPen(dim ? mixed(QGuiApplication::palette().color(role::ground), bright,
-                             isDark(QGuiApplication::palette()) ? 0.30 : 0.33)
+                             isDark(QGuiApplication::palette()) ? 0.38 : 0.50)
                      : bright);
   const QString shown = leading_ ? text_ : QLatin1Char(':') + text_;
   // By what is really drawn: the round digits rise above the height of the others.

@@ -27,6 +27,7 @@ class DesktopProgram final : public QObject {
  public:
   DesktopProgram(const std::string& folder, ThemeMode mode);
 
+  [[nodiscard]] Appearance& appearance() { return windows_.appearance(); }
   // Shows the window and starts the program; false where it cannot start.
   [[nodiscard]] bool start();
   // A second launch: the window comes to the front.

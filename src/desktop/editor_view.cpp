@@ -56,6 +56,8 @@ EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
   });
   ui_->editorProfile->setClickable(true);
 
+  help_ = new MovablePanel(*ui_->Picture3, *ui_->hintRow, page);
+
   pending_.setSingleShot(true);
   pending_.setInterval(0);
   connect(&pending_, &QTimer::timeout, this, &EditorView::refresh);
@@ -76,6 +78,7 @@ void EditorView::speak(const QString& text) {
 
 void EditorView::rescale() {
   ui_->ListView1->rescale();
+  help_->fit();
   placeFloating();
 }
 

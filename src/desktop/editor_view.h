@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "desktop/binder.h"
+#include "desktop/movable_panel.h"
 #include "forms/creer_cycle.h"
 
 namespace Ui {
@@ -35,6 +36,7 @@ class EditorView final : public QObject {
 
   forms::CreerCycle& form_;
   std::unique_ptr<Ui::CreerCycle> ui_;
+  MovablePanel* help_ = nullptr;
   QTimer pending_;
   bool wholeList_ = false;
 };

@@ -10,6 +10,7 @@ namespace desktop {
 namespace {
 
 constexpr int smallest = 14;
+constexpr int unitSize = 20;
 
 bool allDigits(const QString& text) {
   return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
@@ -40,21 +41,31 @@ QSize FitLabel::minimumSizeHint() const {
 
 QFont FitLabel::fitted(const QRect& into) const {
   for (int px = px_; px > smallest; px -= 2) {
-    QFont font = numberFont(this, px);
-    const QRect needed = QFontMetrics(font).boundingRect(into, Qt::TextWordWrap, text_);
     // A text that must wrap is wanted smaller: the first size at which two lines fit, too.
-    if (needed.width() <= into.width() && needed.height() <= into.height()) return font;
+    if (const QFont font = numberFont(this, px); fits(font, into)) return font;
   }
   return numberFont(this, smallest);
+}
+
+bool FitLabel::fits(const QFont& font, const QRect& into) const {
+  const QRect needed = QFontMetrics(font).boundingRect(into, Qt::TextWordWrap, text_);
+  return needed.width() <= into.width() && needed.height() <= into.height();
+}
+
+bool FitLabel::textFits() const {
+  return text_.isEmpty() || fits(fitted(textRoom()), textRoom());
+}
+
+QRect FitLabel::textRoom() const {
+  if (unit_.isEmpty()) return rect();
+  const int unit = QFontMetrics(sansFont(this, unitSize)).horizontalAdvance(QLatin1Char(' ') + unit_);
+  return rect().adjusted(0, 0, -unit - dp(this, 6), 0);
 }
 
 void FitLabel::paintEvent(QPaintEvent*) {
   if (text_.isEmpty()) return;
   QPainter painter(this);
-  const QFont unitFont = sansFont(this, 20);
-  const QString unit = unit_.isEmpty() ? QString() : QStringLiteral(" ") + unit_;
-  const int unitWidth = unit.isEmpty() ? 0 : QFontMetrics(unitFont).horizontalAdvance(unit) + dp(this, 6);
-  const QRect place = rect().adjusted(0, 0, -unitWidth, 0);
+  const QRect place = textRoom();
   painter.setFont(fitted(place));
   painter.setPen(QGuiApplication::palette().color(tone_ == QLatin1String("wrong")    ? role::wrong
                                                   : tone_ == QLatin1String("second") ? role::second
@@ -62,11 +73,11 @@ void FitLabel::paintEvent(QPaintEvent*) {
   QRect drawn;
   painter.drawText(place, (centred_ ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextWordWrap,
                    text_, &drawn);
-  if (unit.isEmpty()) return;
+  if (unit_.isEmpty()) return;
   const int baseline = drawn.bottom() - painter.fontMetrics().descent();
-  painter.setFont(unitFont);
+  painter.setFont(sansFont(this, unitSize));
   painter.setPen(QGuiApplication::palette().color(role::second));
-  painter.drawText(drawn.right() + dp(this, 6), baseline, unit);
+  painter.drawText(drawn.right() + dp(this, 6), baseline, QLatin1Char(' ') + unit_);
 }
 
 HeartTarget::HeartTarget(QWidget* parent) : FitLabel(parent) {

@@ -17,6 +17,8 @@ class FitLabel : public QWidget {
   explicit FitLabel(QWidget* parent = nullptr);
   [[nodiscard]] QString text() const { return text_; }
   void setText(const QString& text);
+  // Whether its place holds the text at the smallest size.
+  [[nodiscard]] bool textFits() const;
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -28,6 +30,9 @@ class FitLabel : public QWidget {
 
  private:
   [[nodiscard]] QFont fitted(const QRect& into) const;
+  [[nodiscard]] bool fits(const QFont& font, const QRect& into) const;
+  // What the unit leaves to the text.
+  [[nodiscard]] QRect textRoom() const;
 
   QString text_;
   QString unit_;

@@ -18,7 +18,7 @@ FormWindow::FormWindow(platform::Form& form, const QSize& design, ThemeMode mode
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(page_);
-  setMinimumSize(design * 0.7);
+  setMinimumSize(design / 2);
   resize(design);
 }
 
@@ -31,6 +31,12 @@ void FormWindow::open() {
     if (prop == platform::Prop::Visible) follow();
   });
   follow();
+}
+
+void FormWindow::setTheme(ThemeMode mode) {
+  mode_ = mode;
+  scale_ = 0;
+  restyle();
 }
 
 void FormWindow::follow() {

@@ -2,6 +2,7 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QSettings>
 #include <QTranslator>
 #include <filesystem>
 #include <iostream>
@@ -9,15 +10,28 @@
 #include "desktop/desktop_program.h"
 #include "desktop/qt_text.h"
 #include "desktop/single_instance.h"
+#include "desktop/system_look.h"
 #include "desktop/theme.h"
 #include "platform/program_folder.h"
 
 namespace {
 
-desktop::ThemeMode themeOf(const QString& asked) {
-  if (asked == QLatin1String("dark")) return desktop::ThemeMode::Dark;
-  if (asked == QLatin1String("light")) return desktop::ThemeMode::Light;
-  return desktop::systemTheme();
+// The windows wear what was asked for at the start, else what the rider chose last, else what the desktop
+// wants.
+void wear(desktop::Appearance& appearance, desktop::SystemLook& system, const QString& asked) {
+  QSettings settings;
+  const QString key = QStringLiteral("appearance");
+  const QString word = asked.isEmpty() ? settings.value(key).toString() : asked;
+  appearance.choose(desktop::Appearance::fromWord(word));
+  QObject::connect(&appearance, &desktop::Appearance::chosen, [key](desktop::Appearance::Choice choice) {
+    QSettings().setValue(key, desktop::Appearance::word(choice));
+  });
+  const auto follow = [&appearance, &system] {
+    QApplication::setEffectEnabled(Qt::UI_General, system.animations());
+    appearance.setSystem(system.colours().value_or(appearance.system()));
+  };
+  follow();
+  QObject::connect(&system, &desktop::SystemLook::changed, follow);
 }
 
 // Qt's own words, such as a file chooser's, in French.
@@ -32,6 +46,7 @@ void speakFrench(QTranslator& translator) {
 
 int main(int count, char** words) {
   QApplication application(count, words);
+  QApplication::setOrganizationName(QStringLiteral("ventoria"));
   QApplication::setApplicationName(QStringLiteral("ventoria"));
   QApplication::setApplicationDisplayName(QStringLiteral("Ventoria"));
   QApplication::setApplicationVersion(QStringLiteral(VENTORIA_VERSION));
@@ -70,10 +85,12 @@ int main(int count, char** words) {
     return 0;
   }
 
-  const desktop::ThemeMode mode = themeOf(parser.value(themeOption));
+  desktop::SystemLook system;
+  const desktop::ThemeMode mode = system.colours().value_or(desktop::platformTheme());
   desktop::applyTheme(mode);
   desktop::DesktopProgram program(folder, mode);
   running = &program;
+  wear(program.appearance(), system, parser.value(themeOption));
   if (!program.start()) return 1;
   if (!session.isEmpty()) program.addSession(desktop::fromQt(session));
   return QApplication::exec();

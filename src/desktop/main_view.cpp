@@ -1,8 +1,9 @@
 #include "desktop/main_view.h"
 
 #include <QGuiApplication>
-#include <QStyle>
 
+#include "desktop/fade_away.h"
+#include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "model/vocabulary.h"
@@ -19,13 +20,6 @@ void keepPlace(QWidget& widget) {
   QSizePolicy policy = widget.sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget.setSizePolicy(policy);
-}
-
-void setLook(QWidget& widget, const QString& look) {
-  if (widget.property("look").toString() == look) return;
-  widget.setProperty("look", look);
-  widget.style()->unpolish(&widget);
-  widget.style()->polish(&widget);
 }
 
 // Whether anything but the marks of "nothing" stands there.
@@ -48,6 +42,7 @@ MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidg
       inside->setAttribute(Qt::WA_TransparentForMouseEvents);
   }
   ui_->Picture6->raise();
+  new FadeAway(*ui_->Picture6);
   ui_->banner->raise();
   ui_->banner->setAutoFillBackground(true);
   ui_->nextText->setTextFormat(Qt::RichText);

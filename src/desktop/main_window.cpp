@@ -14,7 +14,7 @@ constexpr QSize design(1280, 800);
 MainWindow::MainWindow(ThemeMode mode) : mode_(mode) {
   setProperty("scale", 1.0);
   setCentralWidget(&pages_);
-  setMinimumSize(960, 600);
+  setMinimumSize(design / 2);  // a small screen at 200 %
   setWindowIcon(QIcon(QStringLiteral(":/ventoria/icons/ventoria.svg")));
   resize(design);
 }
@@ -33,7 +33,6 @@ void MainWindow::showPage(QWidget* page) {
 void MainWindow::setTheme(ThemeMode mode) {
   mode_ = mode;
   scale_ = 0;
-  applyTheme(mode);
   restyle();
 }
 

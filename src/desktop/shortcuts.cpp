@@ -1,7 +1,7 @@
 #include "desktop/shortcuts.h"
 
-#include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <functional>
 #include <utility>
@@ -34,8 +34,11 @@ class Keys {
   void pauseOrPress() const {
     if (riding()) {
       press(main_.Command7);
-    } else if (auto* focused = qobject_cast<QAbstractButton*>(QApplication::focusWidget())) {
-      focused->click();
+    } else if (QWidget* focused = QApplication::focusWidget(); focused != nullptr) {
+      for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent key(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "));
+        QCoreApplication::sendEvent(focused, &key);
+      }
     }
   }
   void offerToCancel() const {

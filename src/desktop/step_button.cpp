@@ -43,6 +43,25 @@ QSize StepButton::minimumSizeHint() const {
   return {dp(this, 120), sizeHint().height()};
 }
 
+QString StepButton::caption() const {
+  return text().replace(QLatin1String("&&"), QLatin1String("&"));
+}
+
+int StepButton::iconSide() const {
+  return dp(this, isTile() ? 34 : 26);
+}
+
+QRect StepButton::textRoom() const {
+  const int icon = iconSide() + dp(this, isTile() ? 16 : 12);
+  return rect().adjusted(dp(this, 12) + icon, dp(this, 6), -dp(this, 12), -dp(this, 6));
+}
+
+bool StepButton::textFits() const {
+  const QSize words =
+      balanced(QFontMetrics(sansFont(this, 15, QFont::DemiBold)), caption(), textRoom().width());
+  return words.width() <= textRoom().width() && words.height() <= textRoom().height();
+}
+
 void StepButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   QStyleOptionButton option;
@@ -56,24 +75,21 @@ void StepButton::paintEvent(QPaintEvent*) {
                                    : filled     ? QPalette::HighlightedText
                                                 : role::text);
   const QFont font = sansFont(this, 15, QFont::DemiBold);
-  const bool tile = isTile();
-  const int icon = dp(this, tile ? 34 : 26);
-  const int gap = dp(this, tile ? 16 : 12);
-  const QRect room = rect().adjusted(dp(this, 12), dp(this, 6), -dp(this, 12), -dp(this, 6));
-  const QString caption = text().replace(QLatin1String("&&"), QLatin1String("&"));
-  const QSize words = balanced(QFontMetrics(font), caption, room.width() - icon - gap);
-  const int left = room.left() + std::max(0, (room.width() - icon - gap - words.width()) / 2);
+  const int icon = iconSide();
+  const QRect room = textRoom();
+  const QSize words = balanced(QFontMetrics(font), caption(), room.width());
+  const int inset = std::max(0, (room.width() - words.width()) / 2);
   QPixmap picture = drawing(picture_, QSize(icon, icon), palette, devicePixelRatioF());
   if (filled || !isEnabled()) {
     QPainter tint(&picture);
     tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
     tint.fillRect(QRect(0, 0, icon, icon), ink);
   }
-  painter.drawPixmap(left, room.center().y() - icon / 2, picture);
+  painter.drawPixmap(dp(this, 12) + inset, room.center().y() - icon / 2, picture);
   painter.setFont(font);
   painter.setPen(ink);
-  painter.drawText(QRect(left + icon + gap, room.top(), words.width(), room.height()),
-                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, caption);
+  painter.drawText(QRect(room.left() + inset, room.top(), words.width(), room.height()),
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, caption());
 }
 
 }  // namespace desktop

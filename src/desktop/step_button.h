@@ -13,12 +13,17 @@ class StepButton final : public QPushButton {
   explicit StepButton(QWidget* parent = nullptr);
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
+  [[nodiscard]] bool textFits() const;
 
  protected:
   void paintEvent(QPaintEvent*) override;
 
  private:
   [[nodiscard]] bool isTile() const;
+  [[nodiscard]] QString caption() const;
+  // Where the text stands, beside the drawing.
+  [[nodiscard]] QRect textRoom() const;
+  [[nodiscard]] int iconSide() const;
 
   QString picture_;
 };

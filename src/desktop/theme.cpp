@@ -1,9 +1,6 @@
 #include "desktop/theme.h"
 
 #include <QApplication>
-#include <QDBusConnection>
-#include <QDBusInterface>
-#include <QDBusReply>
 #include <QFile>
 #include <QFontDatabase>
 #include <QRegularExpression>
@@ -151,22 +148,7 @@ void applyTheme(ThemeMode mode) {
   QApplication::setFont(font);
 }
 
-ThemeMode systemTheme() {
-  const QDBusConnection bus = QDBusConnection::sessionBus();
-  if (bus.isConnected()) {
-    QDBusInterface portal(QStringLiteral("org.freedesktop.portal.Desktop"),
-                          QStringLiteral("/org/freedesktop/portal/desktop"),
-                          QStringLiteral("org.freedesktop.portal.Settings"), bus);
-    portal.setTimeout(500);
-    const QDBusReply<QDBusVariant> answer = portal.call(
-        QStringLiteral("Read"), QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"));
-    if (answer.isValid()) {
-      QVariant value = answer.value().variant();
-      if (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
-      if (value.toUInt() == 1) return ThemeMode::Dark;
-      if (value.toUInt() == 2) return ThemeMode::Light;
-    }
-  }
+ThemeMode platformTheme() {
   // The palette as the platform gives it says more than nothing; the plain grey of no desktop at all does
   // not.
   const QColor window = QGuiApplication::palette().color(QPalette::Window);

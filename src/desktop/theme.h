@@ -32,8 +32,8 @@ inline constexpr QPalette::ColorRole warning = QPalette::LinkVisited;
 [[nodiscard]] QString themeStyleSheet(ThemeMode mode, double scale);
 // Gives the whole application the fonts and the palette.
 void applyTheme(ThemeMode mode);
-// The desktop's own preference, dark where it has none.
-[[nodiscard]] ThemeMode systemTheme();
+// What the platform's own colours say of the desktop's preference, before any theme is applied.
+[[nodiscard]] ThemeMode platformTheme();
 
 [[nodiscard]] bool isDark(const QPalette& palette);
 [[nodiscard]] QColor familyColour(const QPalette& palette, model::EffortFamily family);

@@ -9,7 +9,30 @@ namespace desktop {
 namespace {
 
 constexpr double step = 0.05;  // a new style sheet for every pixel of a drag would stutter
-constexpr double smallest = 0.7;
+constexpr double smallest = 0.5;
+
+// The fixed spaces of a layout, remembered like its margins.
+void scaleSpacers(QLayout& layout, double scale) {
+  if (!layout.property("spacers").isValid()) {
+    QVariantList sizes;
+    for (int i = 0; i < layout.count(); ++i) {
+      const QSpacerItem* spacer = layout.itemAt(i)->spacerItem();
+      sizes << (spacer != nullptr ? spacer->sizeHint() : QSize());
+    }
+    layout.setProperty("spacers", sizes);
+  }
+  const QVariantList sizes = layout.property("spacers").toList();
+  for (int i = 0; i < layout.count() && i < sizes.size(); ++i) {
+    QSpacerItem* spacer = layout.itemAt(i)->spacerItem();
+    if (spacer == nullptr) continue;
+    const QSizePolicy policy = spacer->sizePolicy();
+    const QSizeF size = QSizeF(sizes[i].toSize()) * scale;
+    spacer->changeSize(static_cast<int>(std::lround(size.width())),
+                       static_cast<int>(std::lround(size.height())), policy.horizontalPolicy(),
+                       policy.verticalPolicy());
+  }
+  layout.invalidate();
+}
 
 // A layout's own lengths, remembered at the first meeting, at a scale.
 void scaleLayout(QLayout& layout, double scale) {
@@ -23,6 +46,7 @@ void scaleLayout(QLayout& layout, double scale) {
     }
     layout.setProperty("design", lengths);
   }
+  scaleSpacers(layout, scale);
   const QVariantList lengths = layout.property("design").toList();
   const auto length = [&](qsizetype i) { return static_cast<int>(std::lround(lengths[i].toInt() * scale)); };
   layout.setContentsMargins(length(0), length(1), length(2), length(3));

@@ -1,9 +1,12 @@
 #include "desktop/windows.h"
 
+#include <QMenu>
 #include <QMouseEvent>
+#include <QToolButton>
 #include <QWindow>
 #include <array>
 
+#include "desktop/accessible_faces.h"
 #include "desktop/qt_text.h"
 #include "desktop/shortcuts.h"
 #include "ui_aide_tq.h"
@@ -21,6 +24,7 @@ constexpr std::array<const char*, 22> handles{
 
 Windows::Windows(app::Program& program, ThemeMode mode)
     : program_(program),
+      appearance_(mode),
       window_(mode),
       binder_(program.loop()),
       mainPage_(new QWidget),
@@ -29,6 +33,7 @@ Windows::Windows(app::Program& program, ThemeMode mode)
       volumeWindow_(program.screens().volume, QSize(520, 500), mode, window_),
       printWindow_(program.screens().print, QSize(980, 740), mode, window_),
       filmsWindow_(program.screens().films, QSize(860, 620), mode, window_) {
+  installAccessibleFaces();
   forms::Screens& screens = program.screens();
   mainView_ = std::make_unique<MainView>(screens.main, program.state(), *mainPage_);
   editorView_ = std::make_unique<EditorView>(screens.editor, *editorPage_, binder_);
@@ -62,6 +67,7 @@ Windows::Windows(app::Program& program, ThemeMode mode)
   window_.setWindowTitle(toQt(screens.main.caption.get()));
   addShortcuts(program, binder_, window_, *mainPage_, *editorPage_);
   makeDraggable();
+  offerAppearance();
   refresh();
 }
 
@@ -107,6 +113,22 @@ void Windows::showWhatIsLeft() {
     window_.showPage(page(*form));
     return;
   }
+}
+
+void Windows::offerAppearance() {
+  auto* button = mainPage_->findChild<QToolButton*>(QStringLiteral("themeButton"));
+  auto* menu = new QMenu(button);
+  appearance_.offerIn(*menu);
+  button->setMenu(menu);
+  connect(&appearance_, &Appearance::changed, this, &Windows::setTheme);
+}
+
+void Windows::setTheme(ThemeMode mode) {
+  applyTheme(mode);
+  window_.setTheme(mode);
+  for (FormWindow* window : {&volumeWindow_, &printWindow_, &filmsWindow_}) window->setTheme(mode);
+  binder_.recolour();
+  refresh();
 }
 
 void Windows::makeDraggable() {

@@ -7,6 +7,7 @@
 
 #include "app/program.h"
 #include "desktop/announce_view.h"
+#include "desktop/appearance.h"
 #include "desktop/binder.h"
 #include "desktop/editor_view.h"
 #include "desktop/form_window.h"
@@ -25,6 +26,8 @@ class Windows final : public QObject {
 
   [[nodiscard]] MainWindow& window() { return window_; }
   [[nodiscard]] Binder& binder() { return binder_; }
+  // What the windows wear; a change shows at once.
+  [[nodiscard]] Appearance& appearance() { return appearance_; }
   // The page that shows a form; null for a form without one.
   [[nodiscard]] QWidget* page(const platform::Form& form) const;
   // The window that shows a form; null for a form without one.
@@ -40,9 +43,12 @@ class Windows final : public QObject {
   void showWhatIsLeft();
   void openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way);
   void makeDraggable();
+  void offerAppearance();
+  void setTheme(ThemeMode mode);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   app::Program& program_;
+  Appearance appearance_;
   MainWindow window_;
   Binder binder_;
   QWidget* mainPage_;

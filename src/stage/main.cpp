@@ -14,6 +14,7 @@
 #include "desktop/theme.h"
 #include "desktop/windows.h"
 #include "platform/program_folder.h"
+#include "stage/audit.h"
 #include "stage/widget_hands.h"
 
 namespace {
@@ -22,6 +23,7 @@ struct StageOptions {
   console::Options console;
   desktop::ThemeMode theme = desktop::ThemeMode::Dark;
   QSize size{1280, 800};
+  bool check = false;
 };
 
 // Takes the stage's own options out of the console's.
@@ -34,6 +36,7 @@ StageOptions parse(std::vector<std::string> words) {
     words.erase(found, found + 2);
     return value;
   };
+  options.check = std::erase(words, "--check") > 0;
   if (const auto theme = take("--theme"); theme == "light") options.theme = desktop::ThemeMode::Light;
   if (const auto size = take("--size")) {
     const QStringList sides = desktop::toQt(*size).split(QLatin1Char('x'));
@@ -43,12 +46,14 @@ StageOptions parse(std::vector<std::string> words) {
   return options;
 }
 
-void capture(desktop::Windows& windows, const platform::Form& form, const std::string& path) {
+// Writes the picture, and returns what the audit finds in it.
+QStringList capture(desktop::Windows& windows, const platform::Form& form, const std::string& path) {
   QWidget* window = windows.windowOf(form);
   if (window == nullptr) throw console::CommandError(form.name() + " has no window");
   windows.refresh();
   for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
   QPixmap picture = window->grab();
+  const QStringList faults = stage::faultsOf(form, *window, picture.toImage());
   QPainter painter(&picture);
   for (QWidget* menu : QApplication::topLevelWidgets()) {
     if (qobject_cast<QMenu*>(menu) == nullptr || !menu->isVisible()) continue;
@@ -57,6 +62,7 @@ void capture(desktop::Windows& windows, const platform::Form& form, const std::s
   }
   painter.end();
   if (!picture.save(desktop::toQt(path))) throw console::CommandError("cannot write " + path);
+  return faults;
 }
 
 int run(const StageOptions& options) {
@@ -73,14 +79,24 @@ int run(const StageOptions& options) {
   desktop::Windows windows(session.program(), options.theme);
   hands.attach(windows);
   windows.binder().onPopUp([&](const platform::MenuItem& root) { session.interpreter().menuOpened(root); });
+  bool faulty = false;
   session.interpreter().add("capture", [&](console::Arguments& arguments) {
     const std::string name = arguments.word("FORM");
-    capture(windows, console::findForm(session.program().screens(), name), arguments.text());
+    const std::string path = arguments.text();
+    for (const QString& fault :
+         capture(windows, console::findForm(session.program().screens(), name), path)) {
+      if (options.check) {
+        faulty = true;
+        std::cerr << std::filesystem::path(path).filename().string() << ": " << desktop::fromQt(fault)
+                  << '\n';
+      }
+    }
   });
   windows.window().resize(options.size);
   windows.window().show();
   QCoreApplication::processEvents();
-  return session.run(script.is_open() ? script : std::cin, std::cerr);
+  const int status = session.run(script.is_open() ? script : std::cin, std::cerr);
+  return faulty && status == 0 ? 1 : status;
 }
 
 }  // namespace

@@ -1,0 +1,42 @@
+// Dark or light: the rider's own choice where he made one, else what the desktop wants, as it changes.
+#pragma once
+
+#include <QObject>
+
+#include "desktop/theme.h"
+
+class QMenu;
+class QString;
+
+namespace desktop {
+
+class Appearance final : public QObject {
+  Q_OBJECT
+ public:
+  enum class Choice { System, Light, Dark };
+
+  explicit Appearance(ThemeMode system) : system_(system) {}
+  [[nodiscard]] ThemeMode mode() const;
+  [[nodiscard]] Choice choice() const { return choice_; }
+  [[nodiscard]] ThemeMode system() const { return system_; }
+  void choose(Choice choice);
+  // What the desktop wants now.
+  void setSystem(ThemeMode mode);
+  // Fills a menu with the choices.
+  void offerIn(QMenu& menu);
+  // How a choice is kept from one start to the next.
+  [[nodiscard]] static QString word(Choice choice);
+  [[nodiscard]] static Choice fromWord(const QString& word);
+
+ signals:
+  void chosen(desktop::Appearance::Choice choice);
+  void changed(desktop::ThemeMode mode);
+
+ private:
+  void update(ThemeMode before);
+
+  ThemeMode system_;
+  Choice choice_ = Choice::System;
+};
+
+}  // namespace desktop

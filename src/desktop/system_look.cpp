@@ -1,0 +1,59 @@
+#include "desktop/system_look.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusVariant>
+
+namespace desktop {
+namespace {
+
+constexpr auto service = "org.freedesktop.portal.Desktop";
+constexpr auto path = "/org/freedesktop/portal/desktop";
+constexpr auto interface = "org.freedesktop.portal.Settings";
+constexpr int patience = 500;  // ms; a portal that hangs must not hold up the start
+
+const QString appearance = QStringLiteral("org.freedesktop.appearance");
+const QString gnome = QStringLiteral("org.gnome.desktop.interface");
+const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
+
+}  // namespace
+
+SystemLook::SystemLook(const QDBusConnection& bus) {
+  if (bus.isConnected()) read(bus);
+}
+
+void SystemLook::read(QDBusConnection bus) {
+  qDBusRegisterMetaType<QMap<QString, QVariantMap>>();
+  bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+              SLOT(changeSetting(QString, QString, QDBusVariant)));
+  QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
+  call << QStringList{appearance, gnome, kde};
+  const QDBusMessage answer = bus.call(call, QDBus::Block, patience);
+  if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty()) return;
+  settings_ = qdbus_cast<QMap<QString, QVariantMap>>(answer.arguments().constFirst());
+}
+
+std::optional<ThemeMode> SystemLook::colours() const {
+  switch (settings_.value(appearance).value(QStringLiteral("color-scheme")).toUInt()) {
+    case 1:
+      return ThemeMode::Dark;
+    case 2:
+      return ThemeMode::Light;
+    default:
+      return std::nullopt;
+  }
+}
+
+bool SystemLook::animations() const {
+  const QVariant pace = settings_.value(kde).value(QStringLiteral("AnimationDurationFactor"));
+  if (pace.isValid()) return pace.toDouble() > 0;
+  return settings_.value(gnome).value(QStringLiteral("enable-animations"), true).toBool();
+}
+
+void SystemLook::changeSetting(const QString& group, const QString& key, const QDBusVariant& value) {
+  settings_[group][key] = value.variant();
+  emit changed();
+}
+
+}  // namespace desktop

@@ -1,0 +1,35 @@
+// What the desktop asks of every program through its settings portal: dark or light windows, and whether anything
+// may move by itself. Without a portal nothing is asked.
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QVariantMap>
+#include <optional>
+
+#include "desktop/theme.h"
+
+class QDBusVariant;
+
+namespace desktop {
+
+class SystemLook final : public QObject {
+  Q_OBJECT
+ public:
+  explicit SystemLook(const QDBusConnection& bus = QDBusConnection::sessionBus());
+  [[nodiscard]] std::optional<ThemeMode> colours() const;
+  [[nodiscard]] bool animations() const;
+
+ signals:
+  void changed();
+
+ private slots:
+  void changeSetting(const QString& group, const QString& key, const QDBusVariant& value);
+
+ private:
+  void read(QDBusConnection bus);
+
+  QMap<QString, QVariantMap> settings_;
+};
+
+}  // namespace desktop

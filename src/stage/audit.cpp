@@ -1,0 +1,206 @@
+#include "stage/audit.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QRadioButton>
+#include <QToolButton>
+#include <array>
+
+#include "desktop/chronometer.h"
+#include "desktop/elided_label.h"
+#include "desktop/fit_label.h"
+#include "desktop/picture.h"
+#include "desktop/qt_text.h"
+#include "desktop/step_button.h"
+#include "platform/controls.h"
+#include "stage/contrast.h"
+
+namespace stage {
+namespace {
+
+constexpr double readable = 4.5;  // WCAG 2.1, level AA, for text
+constexpr double visible = 3;     // and for drawings and large letters
+// Thin strokes of small letters never reach their full ink: from this height on they do.
+constexpr int solidInk = 28;
+constexpr int rounding = 2;  // what a scaled margin may lose
+
+class Audit {
+ public:
+  Audit(const platform::Form& form, QWidget& window, const QImage& picture)
+      : form_(form), window_(window), picture_(picture) {}
+
+  QStringList faults() {
+    for (QWidget* widget : window_.findChildren<QWidget*>()) {
+      if (isControl(*widget) && widget->isVisible() && !isCovered(*widget)) look(*widget);
+    }
+    return faults_;
+  }
+
+ private:
+  // What stands for itself, not what such a widget is made of.
+  static bool isControl(const QWidget& widget) {
+    if (widget.objectName().isEmpty() || widget.objectName().startsWith(QLatin1String("qt_"))) return false;
+    return qobject_cast<const QLabel*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           qobject_cast<const QComboBox*>(&widget) != nullptr ||
+           qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractSlider*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
+           qobject_cast<const QProgressBar*>(&widget) != nullptr ||
+           QLatin1String(widget.metaObject()->className()).startsWith(QLatin1String("desktop::"));
+  }
+
+  void fault(const QWidget& widget, const QString& what) {
+    faults_ << desktop::toQt(form_.name()) + QLatin1Char('.') + widget.objectName() + QStringLiteral(" ") +
+                   what;
+  }
+
+  void look(QWidget& widget) {
+    checkPlace(widget);
+    checkOverlap(widget);
+    checkText(widget);
+    checkName(widget);
+    checkKeyboard(widget);
+    checkContrast(widget);
+  }
+
+  [[nodiscard]] std::array<QPoint, 5> probes(const QWidget& widget) const {
+    const QRect inside = widget.rect().adjusted(2, 2, -2, -2);
+    std::array<QPoint, 5> points{inside.center(), inside.topLeft(), inside.topRight(), inside.bottomLeft(),
+                                 inside.bottomRight()};
+    for (QPoint& point : points) point = widget.mapTo(&window_, point);
+    return points;
+  }
+  // Another widget that takes the place at a point; null where nothing does.
+  [[nodiscard]] const QWidget* cover(const QWidget& widget, const QPoint& at) const {
+    const QWidget* top = window_.childAt(at);
+    const bool own =
+        top == nullptr || top == &widget || widget.isAncestorOf(top) || top->isAncestorOf(&widget);
+    return own ? nullptr : top;
+  }
+  // A page that lies over another one hides all of it.
+  [[nodiscard]] bool isCovered(const QWidget& widget) const {
+    const auto points = probes(widget);
+    return std::all_of(points.begin(), points.end(),
+                       [&](const QPoint& at) { return cover(widget, at) != nullptr; });
+  }
+
+  void checkPlace(const QWidget& widget) {
+    if (widget.width() < 2 || widget.height() < 2) fault(widget, QStringLiteral("has no room at all"));
+    for (const QWidget* around = widget.parentWidget(); around != nullptr; around = around->parentWidget()) {
+      const QRect place(widget.mapTo(around, QPoint(0, 0)), widget.size());
+      if (!around->rect().contains(place)) {
+        fault(widget, QStringLiteral("is cut off by ") + around->objectName());
+        return;
+      }
+      if (around == &window_ || qobject_cast<const QAbstractScrollArea*>(around->parentWidget()) != nullptr) {
+        return;
+      }
+    }
+  }
+
+  void checkOverlap(const QWidget& widget) {
+    for (const QPoint& at : probes(widget)) {
+      const QWidget* top = cover(widget, at);
+      if (top == nullptr) continue;
+      fault(widget, QStringLiteral("lies under ") + top->objectName());
+      return;
+    }
+  }
+
+  void checkText(const QWidget& widget) {
+    const QString text = widget.property("text").toString();
+    if (const auto* step = qobject_cast<const desktop::StepButton*>(&widget)) {
+      if (!step->textFits()) fault(widget, QStringLiteral("cuts its text: ") + text);
+    } else if (const auto* fit = qobject_cast<const desktop::FitLabel*>(&widget)) {
+      if (!fit->textFits()) fault(widget, QStringLiteral("cuts its text: ") + text);
+    } else if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
+      const QString shown = box->currentText();
+      const int room = box->lineEdit() != nullptr ? box->lineEdit()->width() - 4 : box->width() - 30;
+      if (box->fontMetrics().horizontalAdvance(shown) > room) {
+        fault(widget, QStringLiteral("cuts its text: ") + shown);
+      }
+    } else if (!text.isEmpty() && hasFixedText(widget)) {
+      const QSize needed = widget.sizeHint();
+      const auto* label = qobject_cast<const QLabel*>(&widget);
+      const bool wraps = label != nullptr && label->wordWrap();
+      const bool wide = !wraps && needed.width() > widget.width() + rounding;
+      const bool high = (wraps ? label->heightForWidth(widget.width()) : needed.height()) > widget.height();
+      if (wide || high) fault(widget, QStringLiteral("cuts its text: ") + text);
+    }
+  }
+  // A text that is the program's own. What may be of any length is elided, and read in full on hover.
+  static bool hasFixedText(const QWidget& widget) {
+    return qobject_cast<const desktop::ElidedLabel*>(&widget) == nullptr &&
+           qobject_cast<const QLineEdit*>(&widget) == nullptr &&
+           qobject_cast<const QToolButton*>(&widget) == nullptr;
+  }
+
+  void checkName(QWidget& widget) {
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
+    if (face == nullptr || face->role() == QAccessible::NoRole || face->role() == QAccessible::Client) {
+      fault(widget, QStringLiteral("has no role"));
+      return;
+    }
+    const bool silent = qobject_cast<const QLabel*>(&widget) != nullptr || face->role() == QAccessible::Graphic;
+    if (!silent && face->text(QAccessible::Name).trimmed().isEmpty()) {
+      fault(widget, QStringLiteral("has no accessible name"));
+    }
+  }
+
+  void checkKeyboard(const QWidget& widget) {
+    const bool typed = (widget.focusPolicy() & Qt::TabFocus) != 0 || widget.focusProxy() != nullptr;
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    if (typed || !widget.isEnabled() || (label != nullptr && label->buddy() != nullptr)) return;
+    const bool made = qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+                      qobject_cast<const QComboBox*>(&widget) != nullptr ||
+                      qobject_cast<const QAbstractSlider*>(&widget) != nullptr ||
+                      qobject_cast<const QAbstractItemView*>(&widget) != nullptr;
+    if (made || isPressed(widget)) fault(widget, QStringLiteral("is out of the keyboard's reach"));
+  }
+  [[nodiscard]] bool isPressed(const QWidget& widget) const {
+    const std::string name = desktop::fromQt(widget.objectName());
+    for (platform::Component* component : form_.components()) {
+      const auto* control = dynamic_cast<const platform::Control*>(component);
+      if (control != nullptr && control->name() == name) return control->click.handled();
+    }
+    return false;
+  }
+
+  void checkContrast(const QWidget& widget) {
+    const double ratio = picture_.devicePixelRatio();
+    if (!widget.isEnabled() || widget.fontMetrics().height() * ratio < solidInk) return;
+    const QRectF place(widget.mapTo(&window_, QPoint(0, 0)), widget.size());
+    const QRect pixels = QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect();
+    const bool drawn = qobject_cast<const desktop::Picture*>(&widget) != nullptr ||
+                       qobject_cast<const desktop::PictureButton*>(&widget) != nullptr;
+    const bool written = !widget.property("text").toString().trimmed().isEmpty();
+    if (!drawn && !written) return;
+    const double found = inkContrast(picture_, pixels);
+    const bool large = qobject_cast<const desktop::ChronoDigits*>(&widget) != nullptr;
+    if (found < (drawn || large ? visible : readable)) {
+      fault(widget, QStringLiteral("has a contrast of %1").arg(found, 0, 'f', 1));
+    }
+  }
+
+  const platform::Form& form_;
+  QWidget& window_;
+  const QImage& picture_;
+  QStringList faults_;
+};
+
+}  // namespace
+
+QStringList faultsOf(const platform::Form& form, QWidget& window, const QImage& picture) {
+  return Audit(form, window, picture).faults();
+}
+
+}  // namespace stage
