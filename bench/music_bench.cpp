@@ -20,7 +20,8 @@ void openALibrary(benchmark::State& state) {
   for (auto _ : state) {
     program.run("press MainForm.mnSelctMusiqPrefere\nadvance 0.01");
     state.PauseTiming();
-    if (program.screens().announcements.ListView1.rowCount() != titles) state.SkipWithError("not all are listed");
+    if (program.screens().announcements.ListView1.rowCount() != titles)
+      state.SkipWithError("not all are listed");
     program.run("press EnrUneAnnonce.MyButton13\npress EnrUneAnnonce.MyButton9");
     state.ResumeTiming();
   }
@@ -38,8 +39,7 @@ void tickOneTitle(benchmark::State& state) {
   Library program;
   program.run("press MainForm.mnSelctMusiqPrefere\nadvance 0.01");
   int turn = 0;
-  for (auto _ : state)
-    program.run("checkrow EnrUneAnnonce.ListView1 4000 " + std::to_string(++turn % 2));
+  for (auto _ : state) program.run("checkrow EnrUneAnnonce.ListView1 4000 " + std::to_string(++turn % 2));
 }
 BENCHMARK(tickOneTitle)->Unit(benchmark::kMillisecond);
 
