@@ -16,16 +16,19 @@ using platform::MediaFigure;
 using platform::RecordingFormat;
 using platform::TimeFormat;
 
-// A4 at half the full level.
+// A4 at half the full level, coming and going as syllables and sentences do.
 std::vector<unsigned char> tone(const RecordingFormat& format, std::int64_t milliseconds) {
   constexpr double pitch = 440;
+  constexpr double halfSyllable = 0.35;  // seconds
+  constexpr double sentence = 2.3;
   const int bytesASample = format.bitsPerSample / 8;
   std::vector<unsigned char> samples;
   samples.reserve(static_cast<std::size_t>(format.bytesFor(milliseconds)));
   const std::int64_t frames = format.bytesFor(milliseconds) / format.frameBytes();
   for (std::int64_t frame = 0; frame < frames; ++frame) {
-    const double phase = 2 * std::numbers::pi * pitch * static_cast<double>(frame) / format.samplesPerSecond;
-    const auto value = static_cast<int>(std::lround(16383 * std::sin(phase)));
+    const double turns = 2 * std::numbers::pi * static_cast<double>(frame) / format.samplesPerSecond;
+    const double loudness = std::sin(turns * 0.5 / halfSyllable) * (0.55 + 0.45 * std::sin(turns / sentence));
+    const auto value = static_cast<int>(std::lround(16383 * loudness * std::sin(turns * pitch)));
     for (int channel = 0; channel < format.channels; ++channel) {
       if (bytesASample == 2) samples.push_back(static_cast<unsigned char>(value & 0xFF));
       const int high = bytesASample == 2 ? value >> 8 : (value >> 8) + 128;  // 8 bits have no sign

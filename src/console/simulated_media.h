@@ -1,4 +1,5 @@
-// Music and recorder without a device: files run on the clock, the microphone hears a tone.
+// Music and recorder without a device: files run on the clock, the microphone hears a tone that comes and
+// goes.
 #pragma once
 
 #include <map>

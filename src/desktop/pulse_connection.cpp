@@ -13,6 +13,7 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 constexpr milliseconds kAttemptPatience{500};
+constexpr milliseconds kAttemptPause{1000};  // the volume is asked for several times a second
 constexpr milliseconds kTick{10};
 constexpr milliseconds kAnswerPatience{500};
 // What the servers show in place of a card where there is none.
@@ -59,7 +60,7 @@ bool PulseConnection::ready() {
   if (!loop_) return false;
   {
     const Lock lock(*this);
-    if (!alive()) connect();
+    if (!alive() && (!context_ || steady_clock::now() - attemptedAt_ >= kAttemptPause)) connect();
   }
   const auto isReady = [this] {
     return context_ && pa_context_get_state(context_.get()) == PA_CONTEXT_READY;

@@ -35,8 +35,8 @@ class PulseConnection {
   PulseConnection(const PulseConnection&) = delete;
   PulseConnection& operator=(const PulseConnection&) = delete;
 
-  // Whether the server answers. A lost or refused connection is tried anew at each question, so a server
-  // that comes back is found; an attempt that hangs is waited for once, and shortly.
+  // Whether the server answers. A lost or refused connection is tried anew, no more than once a second, so a
+  // server that comes back is found; an attempt that hangs is waited for once, and shortly.
   bool ready();
   // Whether the server answers and has a device to play on; what only stands in for one does not count.
   bool hasLoudspeaker();

@@ -32,7 +32,7 @@ struct VolumeGeneral : platform::Form {
       *this,
       "MyButton10",
       "Propriétés Audio",
-      {.tip = "Cliquez ici pour Afficher les Propriétés Audio de votre Ordinateur..."}};
+      {.tip = "Cliquez ici pour Afficher les Propriétes Audio de votre Ordinateur..."}};
 
   platform::Timer Tmr_Spy{*this, "Tmr_Spy", 200, true};  // follows the machine
   platform::Timer Timer5{*this, "Timer5", 100};          // without use
