@@ -78,7 +78,8 @@ void StepButton::paintEvent(QPaintEvent*) {
   const int icon = iconSide();
   const QRect room = textRoom();
   const QSize words = balanced(QFontMetrics(font), caption(), room.width());
-  const int inset = std::max(0, (room.width() - words.width()) / 2);
+  const int centred = std::max(0, (room.width() - words.width()) / 2);
+  const int inset = property("inList").toBool() ? std::min(dp(this, 16), centred) : centred;
   QPixmap picture = drawing(picture_, QSize(icon, icon), palette, devicePixelRatioF());
   if (filled || !isEnabled()) {
     QPainter tint(&picture);

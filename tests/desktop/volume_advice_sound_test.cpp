@@ -10,7 +10,6 @@
 #include <QTest>
 #include <array>
 #include <cstdlib>
-#include <fstream>
 
 #include "desktop/desktop_program.h"
 #include "desktop/qt_text.h"
@@ -25,7 +24,8 @@ void pactl(const char* words) {
 template <class Widget>
 Widget& widget(const char* form, const char* name) {
   for (QWidget* page : QApplication::allWidgets()) {
-    auto* found = page->objectName() == QLatin1String(form) ? page->findChild<Widget*>(QLatin1String(name)) : nullptr;
+    auto* found =
+        page->objectName() == QLatin1String(form) ? page->findChild<Widget*>(QLatin1String(name)) : nullptr;
     if (found != nullptr) return *found;
   }
   throw std::out_of_range(name);
@@ -39,11 +39,9 @@ TEST(VolumeAdvice, FollowsWhatOtherProgramsDoToTheMachine) {
   const QApplication application(count, words.data());
   QApplication::setQuitOnLastWindowClosed(false);
   const QTemporaryDir folder;
-  std::ofstream(fromQt(folder.filePath("par.tq3"))) << "000000000000" << "2 0" << std::string(15, ' ');
-  for (const char* first : {"set-default-sink test_out", "set-sink-volume test_out 80%", "set-sink-mute test_out 0",
-                            "set-sink-volume test_mic 20%"}) {
-    pactl(first);
-  }
+  pactl("set-default-sink test_out");
+  pactl("set-sink-mute test_out 0");
+  pactl("set-sink-volume test_mic 20%");
   DesktopProgram program(fromQt(folder.path()), ThemeMode::Dark);
   ASSERT_TRUE(program.start());
   widget<QAction>("MainForm", "mnVolume").trigger();
@@ -55,6 +53,7 @@ TEST(VolumeAdvice, FollowsWhatOtherProgramsDoToTheMachine) {
     int percent;
   };
   const char* on = "Le (Son) est Activé.";
+  const auto& slider = widget<QSlider>("VolumeGeneral", "VScroll1");
   for (const Seen& row : {Seen{"set-sink-volume test_out 80%", "satisfaisant", on, 80},
                           {"set-sink-volume test_out 35%", "insuffisant", on, 35},
                           {"set-sink-volume test_out 95%", "un peu fort", on, 95},
@@ -63,19 +62,18 @@ TEST(VolumeAdvice, FollowsWhatOtherProgramsDoToTheMachine) {
                           // The dialog stays with its device until it is opened anew.
                           {"set-default-sink test_mic", "un peu fort", on, 95}}) {
     pactl(row.elsewhere);
-    const QString advice = QStringLiteral("Le Volume de votre (Son) semble %1...").arg(QString::fromUtf8(row.advice));
+    const QString advice = toQt("Le Volume de votre (Son) semble " + std::string(row.advice) + "...");
     EXPECT_TRUE(QTest::qWaitFor([&] {
       return widget<QLabel>("MainForm", "Label36").text() == advice &&
              widget<QLabel>("VolumeGeneral", "advice").text() == advice &&
-             widget<QLabel>("MainForm", "Label34").text() == QString::fromUtf8(row.sound) &&
-             widget<QLabel>("MainForm", "Label38").text() == QStringLiteral("Volume Actuel (%1%)").arg(row.percent) &&
-             widget<QSlider>("VolumeGeneral", "VScroll1").value() == row.percent;
-    })) << row.elsewhere << ": " << fromQt(widget<QLabel>("MainForm", "Label36").text());
+             widget<QLabel>("MainForm", "Label34").text() == toQt(row.sound) && slider.value() == row.percent;
+    })) << row.elsewhere
+        << ": " << fromQt(widget<QLabel>("MainForm", "Label36").text());
   }
   widget<QPushButton>("VolumeGeneral", "MyButton7").click();
   widget<QAction>("MainForm", "mnVolume").trigger();
-  EXPECT_TRUE(QTest::qWaitFor([] { return widget<QSlider>("VolumeGeneral", "VScroll1").value() == 20; }));
-  EXPECT_EQ(widget<QLabel>("VolumeGeneral", "Lbl_SoundCard1").text(), QStringLiteral("Nombre de cartes : '1'"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return slider.value() == 20; }));
+  EXPECT_EQ(fromQt(widget<QLabel>("VolumeGeneral", "Lbl_SoundCard1").text()), "Nombre de cartes : '1'");
   pactl("set-default-sink test_out");
 }
 
