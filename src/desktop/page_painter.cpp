@@ -31,6 +31,7 @@ struct Paper {
     QFont chosen(sansFamily());
     chosen.setPixelSize(std::max(1, static_cast<int>(std::lround(points / kPointsPerTwip * unit))));
     chosen.setBold(bold);
+    chosen.setStyleStrategy(QFont::PreferNoShaping);  // "=>" stays what it is, and can be searched for
     return chosen;
   }
 };

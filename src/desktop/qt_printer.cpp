@@ -1,8 +1,10 @@
 #include "desktop/qt_printer.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QPrinterInfo>
 #include <QStandardPaths>
+#include <algorithm>
 
 #include "desktop/page_painter.h"
 #include "desktop/qt_text.h"
@@ -21,10 +23,18 @@ QPrinterInfo systemPrinter() {
   return all.isEmpty() ? QPrinterInfo() : all.first();
 }
 
+// A full disk is not told of while a page is drawn; the file then lacks its end.
+bool isWhole(const QString& path) {
+  QFile file(path);
+  constexpr qint64 tail = 64;
+  return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tail)) &&
+         file.read(tail).contains("%%EOF");
+}
+
 }  // namespace
 
 QtPrinter::~QtPrinter() {
-  close();
+  drop();
 }
 
 bool QtPrinter::page() {
@@ -75,16 +85,18 @@ void QtPrinter::beginPaper() {
   printer_->setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter);
   printer_->setColorMode(mode_ == platform::ColourMode::Colour ? QPrinter::Color : QPrinter::GrayScale);
   if (file_.isEmpty() && quality_ == platform::PrintQuality::Draft) printer_->setResolution(150);
-  if (!painter_.begin(printer_.get())) {
-    const std::string target = file_.isEmpty() ? fromQt(printer_->printerName()) : fromQt(file_);
-    close();
-    const platform::FileFault fault("d'imprimer sur", target, "accès refusé");
-    dialogs_.message({platform::MessageKind::Critical, platform::MessageButtons::Ok,
-                      "Impression Impossible...", fault.what()});
-    throw fault;
-  }
+  if (!painter_.begin(printer_.get())) fail("accès refusé");
   pageEnded_ = false;
   bottom_ = area().top();
+}
+
+void QtPrinter::fail(const char* reason) {
+  const QString target = file_.isEmpty() ? printer_->printerName() : file_;
+  drop();
+  const platform::FileFault fault("d'imprimer sur", fromQt(target), reason);
+  dialogs_.message({platform::MessageKind::Critical, platform::MessageButtons::Ok, "Impression Impossible...",
+                    fault.what()});
+  throw fault;
 }
 
 QRectF QtPrinter::area() const {
@@ -111,18 +123,26 @@ void QtPrinter::endDocument() {
 
 void QtPrinter::killDocument() {
   if (painter_.isActive() && file_.isEmpty()) printer_->abort();
-  finish();
+  drop();
 }
 
 void QtPrinter::finish() {
-  close();
-  declined_ = false;
+  if (painter_.isActive()) close();
+  drop();
 }
 
 void QtPrinter::close() {
+  const bool sent = painter_.end() && printer_->printerState() != QPrinter::Error;
+  if (!sent) fail("l'imprimante ne répond plus");
+  if (!file_.isEmpty() && !isWhole(file_)) fail("le fichier n'a pu être écrit en entier");
+  drop();
+}
+
+void QtPrinter::drop() {
   if (painter_.isActive()) painter_.end();
   printer_.reset();
   file_.clear();
+  declined_ = false;
 }
 
 }  // namespace desktop

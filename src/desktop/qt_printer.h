@@ -31,7 +31,9 @@ class QtPrinter final : public platform::Printer {
   bool page();
   [[nodiscard]] bool askForFile();
   void beginPaper();
-  void close();
+  void close();  // what is open goes to the printer, or to the file
+  void drop();   // what is still open is left as it is
+  [[noreturn]] void fail(const char* reason);
   [[nodiscard]] QRectF area() const;
 
   platform::Dialogs& dialogs_;

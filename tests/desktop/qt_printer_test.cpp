@@ -71,6 +71,9 @@ TEST(QtPrinter, GathersAllPagesInOneFileThatTheRiderNames) {
   dialogs.chosen = {"/nonexistent/liste.pdf"};
   EXPECT_THROW(printPages(printer, {2}), platform::FileFault);
   EXPECT_EQ(dialogs.told, 1);
+  dialogs.chosen = {"/dev/full"};  // is there already, and takes nothing
+  EXPECT_THROW(printPages(printer, {35, 35, 1}), platform::FileFault);
+  EXPECT_EQ(dialogs.told, 3);
 }
 
 TEST(PagePainter, StaysInsideThePageAndItsCells) {
