@@ -44,7 +44,8 @@ AnnounceView::AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState&
                            Binder& binder)
     : form_(form), state_(state), ui_(std::make_unique<Ui::EnrUneAnnonce>()) {
   ui_->setupUi(&page);
-  for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label16, ui_->Label17}) keepPlace(*widget);
+  for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label16, ui_->Label17, ui_->musicTimes})
+    keepPlace(*widget);
   ui_->MyFrame1->raise();
   ui_->infoPlace->raise();
   ui_->infoPlace->hide();

@@ -1,6 +1,7 @@
 #include "desktop/qt_dialogs.h"
 
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <array>
@@ -61,6 +62,16 @@ QStringList nameFilters(const std::string& filter, QString& extension) {
   return filters;
 }
 
+// Qt takes quotes for marks around several names. Where a file is saved there is one name, which may hold
+// them.
+QString typedPath(const QFileDialog& dialog, const QString& extension) {
+  const auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (edit == nullptr || !edit->text().contains(QLatin1Char('"'))) return dialog.selectedFiles().value(0);
+  const QString name = edit->text();
+  return dialog.directory().absoluteFilePath(
+      name.contains(QLatin1Char('.')) ? name : name + QLatin1Char('.') + extension);
+}
+
 }  // namespace
 
 Answer QtDialogs::message(const platform::Message& message) {
@@ -115,6 +126,7 @@ std::vector<std::string> QtDialogs::chooseFiles(const platform::FileRequest& req
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annuler"));
   if (QWidget* parent = parent_()) dialog.resize(parent->size() * 3 / 4);
   if (dialog.exec() != QDialog::Accepted) return {};
+  if (request.purpose == platform::FilePurpose::Save) return {fromQt(typedPath(dialog, extension))};
   std::vector<std::string> paths;
   for (const QString& path : dialog.selectedFiles()) paths.push_back(fromQt(path));
   return paths;

@@ -281,6 +281,7 @@ void saveUnder(const QString& name) {
 TEST_F(Ambience, TheMusicYieldsToTheVoiceAndToAnAnnouncementJustRecorded) {
   put("ambiances/x.mp3", music(kPiece));
   put("melody.wav", melody());
+  const std::string announcement = "allez \"vite\" & fort.wav";
   start("011100011101");
 
   choose("mnEnrAnnVocale");
@@ -290,14 +291,14 @@ TEST_F(Ambience, TheMusicYieldsToTheVoiceAndToAnAnnouncementJustRecorded) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return speech.state() == QProcess::NotRunning; }, 20000));
   QTest::qWait(500);  // what was said last is still on its way
   press("EnrUneAnnonce", "Command3");
-  saveUnder("allez.wav");
+  saveUnder("allez \"vite\" & fort");
   press("EnrUneAnnonce", "Command1");
-  ASSERT_TRUE(std::filesystem::exists(at("annonces/allez.wav")));
+  ASSERT_TRUE(std::filesystem::exists(at("annonces/" + announcement)));
   press("EnrUneAnnonce", "MyButton7");
 
   tickAllMusic();
   const std::vector<Frame> frames =
-      ride(header(4) + row("Sprint", "00:00:04") + row("Annonce Vocale", "-----", "allez.wav") +
+      ride(header(4) + row("Sprint", "00:00:04") + row("Annonce Vocale", "-----", announcement) +
            row("Plat", "00:00:04"));
 
   EXPECT_TRUE(holdsMelody(frames));
