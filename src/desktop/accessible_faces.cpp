@@ -1,7 +1,7 @@
 #include "desktop/accessible_faces.h"
 
-#include <QAccessibleWidget>
 #include <QAbstractItemView>
+#include <QAccessibleWidget>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QWidget>
@@ -59,7 +59,8 @@ class DropDown final : public QAccessibleWidget {
   [[nodiscard]] int childCount() const override { return box_.lineEdit() != nullptr ? 2 : 1; }
   [[nodiscard]] QAccessibleInterface* child(int index) const override {
     if (index == 0) return QAccessible::queryAccessibleInterface(box_.view());
-    return index == 1 && box_.lineEdit() != nullptr ? QAccessible::queryAccessibleInterface(box_.lineEdit()) : nullptr;
+    return index == 1 && box_.lineEdit() != nullptr ? QAccessible::queryAccessibleInterface(box_.lineEdit())
+                                                    : nullptr;
   }
   [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
     if (child->object() == box_.view()) return 0;
@@ -73,8 +74,8 @@ class DropDown final : public QAccessibleWidget {
 QAccessibleInterface* makeFace(const QString& name, QObject* object) {
   if (auto* box = qobject_cast<QComboBox*>(object); box != nullptr) return new DropDown(*box);
   auto* widget = qobject_cast<QWidget*>(object);
-  const auto face =
-      std::find_if(faces.begin(), faces.end(), [&](const Face& f) { return name == QLatin1String(f.widget); });
+  const auto face = std::find_if(faces.begin(), faces.end(),
+                                 [&](const Face& f) { return name == QLatin1String(f.widget); });
   if (widget == nullptr || face == faces.end()) return nullptr;
   return new Drawn(widget, face->role);
 }

@@ -1,5 +1,5 @@
-// What the program's own widgets are to somebody who does not see them: a role, and a name that says what stands
-// there.
+// What the program's own widgets are to somebody who does not see them: a role, and a name that says what
+// stands there.
 #pragma once
 
 namespace desktop {

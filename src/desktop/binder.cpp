@@ -398,22 +398,32 @@ void Binder::popUp(QMenu& menu) {
   }
   menu.setProperty("place", place);  // as asked for; a small screen may move it
   menu.popup(place);
+  if (!typed_) return;
+  const QList<QAction*> entries = menu.actions();
+  const auto first = std::find_if(entries.begin(), entries.end(), [](const QAction* entry) {
+    return entry->isVisible() && entry->isEnabled() && !entry->isSeparator();
+  });
+  if (first != entries.end()) menu.setActiveAction(*first);
 }
 
 // Enter presses what has the keyboard, and so does the space bar a drawing, as it does a button.
-bool Binder::pressByKey(QWidget& widget, Control& control, int key) {
+bool Binder::pressByKey(QWidget& widget, int key) {
   const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
   if (auto* button = qobject_cast<QAbstractButton*>(&widget); button != nullptr && enter) {
     button->click();
     return true;
   }
-  if (!isPressableDrawing(control, widget) || !(enter || key == Qt::Key_Space)) return false;
-  run([&control] { control.click(); });
+  Control* control = controls_.value(&widget);
+  if (control == nullptr || !isPressableDrawing(*control, widget)) return false;
+  if (!enter && key != Qt::Key_Space) return false;
+  run([control] { control->click(); });
   return true;
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease) held_ = false;
+  if (event->type() == QEvent::MouseButtonPress) typed_ = false;
+  if (event->type() == QEvent::KeyPress) typed_ = true;
   Control* control = controls_.value(watched);
   if (control == nullptr) {
     if (event->type() == QEvent::MouseButtonPress && !held_)
@@ -432,7 +442,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress: {
       // Ends here: the list around a box would take the key, too, and open the cell anew.
       const int key = static_cast<QKeyEvent*>(event)->key();
-      if (pressByKey(*widget, *control, key)) return true;
+      if (pressByKey(*widget, key)) return true;
       if (control->kind() != ControlKind::ComboBox || (key != Qt::Key_Return && key != Qt::Key_Enter)) break;
       static_cast<QComboBox*>(widget)->lineEdit()->event(event);
       event->accept();

@@ -40,6 +40,8 @@ class Binder final : public QObject {
   void recolour();
   // Runs what the rider caused: at once, or, while a sound blocks the loop, behind it.
   void run(std::function<void()> action);
+  // Presses what has the keyboard by a key that its own widget does not take; false where none is meant.
+  bool pressByKey(QWidget& widget, int key);
   // Told of each menu that the logic opens.
   void onPopUp(std::function<void(const platform::MenuItem&)> told) { poppedUp_ = std::move(told); }
 
@@ -58,13 +60,13 @@ class Binder final : public QObject {
   void tieOpeners(platform::MenuItem& item, QMenu& menu, QWidget& page);
   void show(const platform::Component& component, platform::Prop prop, QWidget& widget);
   void popUp(QMenu& menu);
-  bool pressByKey(QWidget& widget, platform::Control& control, int key);
 
   platform::EventLoop& loop_;
   QHash<const QObject*, platform::Control*> controls_;
   QHash<const platform::MenuItem*, QMenu*> menus_;
   QPointer<QWidget> pressed_;
-  bool held_ = false;  // a mouse button is down
+  bool held_ = false;   // a mouse button is down
+  bool typed_ = false;  // what was done last was done by a key
   QPointF pointer_;
   std::function<void(const platform::MenuItem&)> poppedUp_;
 };

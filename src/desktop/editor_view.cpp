@@ -1,8 +1,11 @@
 #include "desktop/editor_view.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
@@ -29,7 +32,7 @@ QRect within(QRect rect, const QSize& room) {
 }  // namespace
 
 EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
-    : form_(form), ui_(std::make_unique<Ui::CreerCycle>()) {
+    : form_(form), ui_(std::make_unique<Ui::CreerCycle>()), binder_(binder) {
   ui_->setupUi(&page);
   for (auto* floating : std::initializer_list<QWidget*>{ui_->Navette, ui_->Combo1, ui_->Picture2,
                                                         ui_->Combo13, ui_->Picture1}) {
@@ -56,6 +59,7 @@ EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
   });
   ui_->editorProfile->setClickable(true);
 
+  tieKeyboard();
   help_ = new MovablePanel(*ui_->Picture3, *ui_->hintRow, page);
 
   pending_.setSingleShot(true);
@@ -74,6 +78,44 @@ EditorView::~EditorView() = default;
 void EditorView::speak(const QString& text) {
   ui_->editorPrompt->setText(text.isEmpty() ? QString() : QStringLiteral("« ") + text + QStringLiteral(" »"));
   ui_->editorPrompt->setVisible(!text.isEmpty());
+}
+
+void EditorView::tieKeyboard() {
+  connect(ui_->ListView1, &GridTable::cellOpened, this, &EditorView::focusCellEditor);
+  connect(ui_->ListView1, &GridTable::deletionAsked, this,
+          [this](int row) { ui_->ListView1->pressRight(row, model::column::deleteMark); });
+  for (QComboBox* box : {ui_->Combo1, ui_->Combo2, ui_->Combo3, ui_->Combo4, ui_->Combo13}) {
+    box->installEventFilter(this);
+  }
+}
+
+void EditorView::focusCellEditor() {
+  refresh();
+  for (QComboBox* box : {ui_->Combo13, ui_->Combo1, ui_->Combo2}) {
+    if (!box->isVisible()) continue;
+    byKeyboard_ = true;
+    box->setFocus(Qt::OtherFocusReason);
+    if (box != ui_->Combo2) box->showPopup();
+    break;
+  }
+  // A duration is written as it is picked: Enter only ends its editing.
+  for (QComboBox* box : {ui_->Combo2, ui_->Combo3, ui_->Combo4}) {
+    connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::leaveCellEditor,
+            Qt::UniqueConnection);
+  }
+}
+
+void EditorView::leaveCellEditor() {
+  binder_.run([this] { form_.Command1.click(); });
+  ui_->ListView1->setFocus();
+}
+
+bool EditorView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
+    return QObject::eventFilter(watched, event);
+  }
+  leaveCellEditor();
+  return true;
 }
 
 void EditorView::rescale() {
@@ -95,6 +137,8 @@ void EditorView::refresh() {
   refreshProfile();
   refreshCalculator();
   placeFloating();
+  const bool editing = form_.Combo1.visible || form_.Picture2.visible || form_.Combo13.visible;
+  if (!editing && std::exchange(byKeyboard_, false)) ui_->ListView1->setFocus();
 }
 
 void EditorView::placeFloating() {

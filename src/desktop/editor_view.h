@@ -28,7 +28,13 @@ class EditorView final : public QObject {
   // The list alone, without the profile.
   void setListMode(bool whole);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  void tieKeyboard();
+  void focusCellEditor();
+  void leaveCellEditor();
   void placeFloating();
   void refreshProfile();
   void refreshCalculator();
@@ -37,7 +43,9 @@ class EditorView final : public QObject {
   forms::CreerCycle& form_;
   std::unique_ptr<Ui::CreerCycle> ui_;
   MovablePanel* help_ = nullptr;
+  Binder& binder_;
   QTimer pending_;
+  bool byKeyboard_ = false;  // the cell editor was opened by a key, and hands the keyboard back to the list
   bool wholeList_ = false;
 };
 

@@ -172,6 +172,13 @@ void GridTable::press(int row, int column, platform::MouseButton button) {
   emit layoutMoved();
 }
 
+void GridTable::pressRight(int row, int column) {
+  const int kept = cursorColumn_;
+  press(row, column, platform::MouseButton::Right);
+  cursorColumn_ = kept;
+  refreshRow(row);
+}
+
 void GridTable::mousePressEvent(QMouseEvent* event) {
   if (grid_ == nullptr) return;
   model_->flush();
@@ -237,7 +244,12 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
+    case Qt::Key_F2:
       press(row, cursorColumn_, platform::MouseButton::Left);
+      emit cellOpened();
+      break;
+    case Qt::Key_Delete:
+      emit deletionAsked(row);
       break;
     case Qt::Key_Menu:
       press(row, cursorColumn_, platform::MouseButton::Right);

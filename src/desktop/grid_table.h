@@ -24,6 +24,8 @@ class GridTable : public QTableView {
   // Where a mouse button went down last.
   [[nodiscard]] int pressedRow() const { return pressedRow_; }
   [[nodiscard]] int pressedColumn() const { return cursorColumn_; }
+  // What a right press on a cell does, for a key: the keyboard stays in the cell where it is.
+  void pressRight(int row, int column);
   // Takes the scale of the window anew.
   void rescale();
   // A tool tip for a column's header.
@@ -31,6 +33,9 @@ class GridTable : public QTableView {
 
  signals:
   void layoutMoved();
+  // By a key: the cell in hand, or its row, is to be opened or taken away.
+  void cellOpened();
+  void deletionAsked(int row);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

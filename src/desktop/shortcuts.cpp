@@ -34,11 +34,14 @@ class Keys {
   void pauseOrPress() const {
     if (riding()) {
       press(main_.Command7);
-    } else if (QWidget* focused = QApplication::focusWidget(); focused != nullptr) {
-      for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent key(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "));
-        QCoreApplication::sendEvent(focused, &key);
-      }
+      return;
+    }
+    QWidget* focused = QApplication::focusWidget();
+    if (focused == nullptr || binder_.pressByKey(*focused, Qt::Key_Space)) return;
+    // Straight to the widget: sent through the application, the key would come back here.
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent key(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "));
+      static_cast<QObject*>(focused)->event(&key);
     }
   }
   void offerToCancel() const {

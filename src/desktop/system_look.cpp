@@ -3,7 +3,6 @@
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusVariant>
 
 namespace desktop {
 namespace {
@@ -25,8 +24,11 @@ SystemLook::SystemLook(const QDBusConnection& bus) {
 
 void SystemLook::read(QDBusConnection bus) {
   qDBusRegisterMetaType<QMap<QString, QVariantMap>>();
-  bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-              SLOT(changeSetting(QString, QString, QDBusVariant)));
+  qRegisterMetaType<QDBusVariant>();  // or the bus does not take the slot
+  // The bus wants the signature without blanks.
+  const QByteArray slot =
+      QMetaObject::normalizedSignature(SLOT(changeSetting(QString, QString, QDBusVariant)));
+  bus.connect({}, path, interface, QStringLiteral("SettingChanged"), this, slot.constData());
   QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
   call << QStringList{appearance, gnome, kde};
   const QDBusMessage answer = bus.call(call, QDBus::Block, patience);

@@ -1,15 +1,14 @@
-// What the desktop asks of every program through its settings portal: dark or light windows, and whether anything
-// may move by itself. Without a portal nothing is asked.
+// What the desktop asks of every program through its settings portal: dark or light windows, and whether
+// anything may move by itself. Without a portal nothing is asked.
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusVariant>
 #include <QObject>
 #include <QVariantMap>
 #include <optional>
 
 #include "desktop/theme.h"
-
-class QDBusVariant;
 
 namespace desktop {
 

@@ -150,7 +150,8 @@ class Audit {
       fault(widget, QStringLiteral("has no role"));
       return;
     }
-    const bool silent = qobject_cast<const QLabel*>(&widget) != nullptr || face->role() == QAccessible::Graphic;
+    const bool silent =
+        qobject_cast<const QLabel*>(&widget) != nullptr || face->role() == QAccessible::Graphic;
     if (!silent && face->text(QAccessible::Name).trimmed().isEmpty()) {
       fault(widget, QStringLiteral("has no accessible name"));
     }

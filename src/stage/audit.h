@@ -1,5 +1,5 @@
-// What a demanding eye would find on a window: controls that are cut off or lie over one another, texts that do
-// not fit or are too faint to read, controls without a name for those who do not see them, or out of the
+// What a demanding eye would find on a window: controls that are cut off or lie over one another, texts that
+// do not fit or are too faint to read, controls without a name for those who do not see them, or out of the
 // keyboard's reach.
 #pragma once
 

@@ -1,7 +1,9 @@
 // The windows over the whole program: each form has its place, and what a person does there arrives.
 #include <gmock/gmock.h>
 
+#include <QApplication>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -94,6 +96,40 @@ TEST_F(ScreensTest, TheListOfMusicIsTickedByItsBoxesAndBySpace) {
   EXPECT_TRUE(form.mnEcout.enabled && !form.mnsupress.enabled);
   QTest::mouseClick(list.viewport(), Qt::RightButton, {}, list.cellRect(2, 2).center());
   EXPECT_TRUE(form.mnsupress.enabled && !form.mnEcout.enabled);
+}
+
+TEST_F(ScreensTest, TheHelpIsPulledOutOfItsRowAndPutBack) {
+  screens_.main.MyButton5.click();
+  settle();
+  auto& panel = widget<QFrame>(screens_.editor, "Picture3");
+  auto& title = widget<QLabel>(screens_.editor, "Label25");
+  QWidget* page = windows_->page(screens_.editor);
+  const QWidget* row = panel.parentWidget();
+  const auto drag = [&](const QPoint& by) {
+    const QPoint from = title.rect().center();
+    QTest::mousePress(&title, Qt::LeftButton, {}, from);
+    for (int step = 1; step <= 4; ++step) {
+      const QPoint to = title.mapToGlobal(from) + by / 4;
+      QMouseEvent move(QEvent::MouseMove, title.mapFromGlobal(to), to, Qt::NoButton, Qt::LeftButton, {});
+      QApplication::sendEvent(&title, &move);
+    }
+    QTest::mouseRelease(&title, Qt::LeftButton, {}, from);
+    settle();
+  };
+  drag({200, -400});
+  EXPECT_EQ(panel.parentWidget(), page);
+  EXPECT_TRUE(page->rect().contains(panel.geometry()));
+  EXPECT_THAT(screens_.editor.Label23.caption.get(), testing::StartsWith("Vous pouvez me"));
+  const int high = panel.height();
+  screens_.editor.Label23.caption = "court";
+  settle();
+  EXPECT_LT(panel.height(), high);
+
+  drag({5000, 5000});
+  EXPECT_TRUE(page->rect().contains(panel.geometry())) << "the panel has left the page";
+  QTest::mouseDClick(&title, Qt::LeftButton);
+  settle();
+  EXPECT_EQ(panel.parentWidget(), row);
 }
 
 TEST_F(ScreensTest, OptionsAndSlidersFollowTheirFormAndMoveIt) {

@@ -1,0 +1,85 @@
+// The audit of the screens finds what it is there to find, and nothing on a screen that is as it should be.
+#include "stage/audit.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <functional>
+
+#include "desktop/theme.h"
+#include "platform/controls.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct Page : platform::Form {
+  Page() : Form("Page", "Page") { picture.click.handle([] {}); }
+  platform::Image picture{*this, "picture"};
+};
+
+class AuditTest : public testing::Test {
+ protected:
+  AuditTest() {
+    window_.resize(400, 200);
+    window_.setStyleSheet(QStringLiteral("QWidget { background: #000000; color: #ffffff; font-size: 32px; }"));
+    window_.show();
+  }
+  QPushButton& button(const QRect& place, const QString& text = QStringLiteral("Start")) {
+    auto* made = new QPushButton(text, &window_);
+    made->setObjectName(QStringLiteral("b%1").arg(++made_));
+    made->setGeometry(place);
+    made->show();
+    return *made;
+  }
+  QStringList faults() {
+    QCoreApplication::processEvents();
+    return stage::faultsOf(page_, window_, window_.grab().toImage());
+  }
+
+  Page page_;
+  QWidget window_;
+  int made_ = 0;
+};
+
+TEST_F(AuditTest, AButtonInItsPlaceIsRight) {
+  button(QRect(20, 20, 200, 60));
+  EXPECT_THAT(faults(), IsEmpty());
+}
+
+TEST_F(AuditTest, EachFaultIsNamed) {
+  const QRect place(20, 20, 200, 60);
+  const std::pair<std::function<void()>, const char*> table[] = {
+      {[&] { button(QRect(300, 20, 200, 60)); }, "Page.b1 is cut off by "},
+      {[&] { button(QRect(20, 20, 40, 60)); }, "Page.b1 cuts its text: Start"},
+      {[&] { button(place).setFocusPolicy(Qt::NoFocus); }, "Page.b1 is out of the keyboard's reach"},
+      {[&] { button(place, QString()); }, "Page.b1 has no accessible name"},
+      {[&] { button(place).setStyleSheet(QStringLiteral("color: #444444;")); }, "Page.b1 has a contrast of 2.2"},
+      {[&] {
+         auto* picture = new QLabel(QStringLiteral("?"), &window_);
+         picture->setObjectName(QStringLiteral("picture"));
+         picture->setGeometry(place);
+         picture->show();
+       },
+       "Page.picture is out of the keyboard's reach"},
+  };
+  for (const auto& [make, wanted] : table) {
+    make();
+    EXPECT_THAT(faults(), ElementsAre(QString(wanted)));
+    qDeleteAll(window_.findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+    made_ = 0;
+  }
+}
+
+TEST_F(AuditTest, AControlThatLiesOverAnotherIsNamedButNotAPageThatCoversIt) {
+  button(QRect(20, 20, 200, 60));
+  QPushButton& over = button(QRect(120, 20, 200, 60));
+  EXPECT_THAT(faults(), ElementsAre(QStringLiteral("Page.b1 lies under b2")));
+  over.setGeometry(0, 0, 400, 200);
+  EXPECT_THAT(faults(), IsEmpty());
+}
+
+}  // namespace
