@@ -87,7 +87,7 @@ int run(const StageOptions& options) {
          capture(windows, console::findForm(session.program().screens(), name), path)) {
       if (options.check) {
         faulty = true;
-        std::cerr << std::filesystem::path(path).filename().string() << ": " << desktop::fromQt(fault)
+        std::cout << std::filesystem::path(path).filename().string() << ": " << desktop::fromQt(fault)
                   << '\n';
       }
     }
