@@ -29,6 +29,8 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode mode)
   alarm_.setTimerType(Qt::PreciseTimer);
   connect(&alarm_, &QTimer::timeout, this, &DesktopProgram::serve);
   program_.loop().onReschedule([this] { arm(); });
+  // A handler that is long at work serves events as it goes: the rider may press what ends it.
+  program_.loop().onInput([] { QCoreApplication::processEvents(); });
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           &DesktopProgram::endWhenQuitting);
   windows_.window().onClose([this] { askToClose(); });
@@ -68,7 +70,7 @@ void DesktopProgram::addSession(const std::string& path) {
 }
 
 void DesktopProgram::serve() {
-  program_.loop().serveEvents();
+  program_.loop().fireDue();
   arm();
 }
 

@@ -36,7 +36,6 @@ class EditorView final : public QObject {
   void focusCellEditor();
   void leaveCellEditor();
   void placeFloating();
-  void refreshFilms();
   void refreshProfile();
   void refreshCalculator();
   [[nodiscard]] QString headerTip(int column) const;

@@ -104,6 +104,11 @@ void EventLoop::fire(Entry& entry) {
 }
 
 void EventLoop::serveEvents() {
+  fireDue();
+  if (pump_ && !blocked()) pump_();
+}
+
+void EventLoop::fireDue() {
   if (blocked()) return;
   // Only what is due now: handlers that take longer than their own period must not keep the caller here.
   const Instant horizon = clock_.now();
@@ -112,7 +117,6 @@ void EventLoop::serveEvents() {
     if (entry == nullptr) break;
     fire(*entry);
   }
-  if (pump_ && !blocked()) pump_();
 }
 
 void EventLoop::runUntil(Instant when) {

@@ -26,6 +26,8 @@ class EventLoop final : public TimerScheduler {
 
   // Fires what is due and lets the front handle the rider's input. Nothing while a sound blocks the loop.
   void serveEvents();
+  // Fires what is due, for a front that handles the rider's input in a loop of its own.
+  void fireDue();
   // Serves events until `when`, sleeping from one due time to the next. Ends early when quitting.
   void runUntil(Instant when);
   // When the next timer that may fire falls due.

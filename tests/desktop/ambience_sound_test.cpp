@@ -268,10 +268,10 @@ class Ambience : public testing::Test {
 std::unique_ptr<QApplication> Ambience::application_;
 
 // Types the name into the file chooser that comes up.
-void saveUnder(const QString& name) {
+void chooseFile(const QString& name) {
   QTimer::singleShot(100, qApp, [name] {
     auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (chooser == nullptr) return saveUnder(name);
+    if (chooser == nullptr) return chooseFile(name);
     auto* edit = chooser->findChild<QLineEdit*>();
     edit->setText(name);
     QTest::keyClick(edit, Qt::Key_Return);
@@ -291,7 +291,7 @@ TEST_F(Ambience, TheMusicYieldsToTheVoiceAndToAnAnnouncementJustRecorded) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return speech.state() == QProcess::NotRunning; }, 20000));
   QTest::qWait(500);  // what was said last is still on its way
   press("EnrUneAnnonce", "Command3");
-  saveUnder("allez \"vite\" & fort");
+  chooseFile("allez \"vite\" & fort");
   press("EnrUneAnnonce", "Command1");
   ASSERT_TRUE(std::filesystem::exists(at("annonces/" + announcement)));
   press("EnrUneAnnonce", "MyButton7");
@@ -337,6 +337,26 @@ TEST_F(Ambience, TheMusicGoesOnUnderTheVoiceAndFromPieceToPiece) {
   ASSERT_FALSE(second.empty());
   EXPECT_GT(second[0].begin, first[0].end);
   EXPECT_LT(placeIn(kNextPiece, frames[second[0].begin]), 0.1);
+}
+
+TEST_F(Ambience, AnImportIsGivenUpByItsButton) {
+  put("long.mp3", std::string());
+  std::filesystem::resize_file(at("long.mp3"), 1U << 30U);
+  start("011100011101");
+  choose("mnambiance");
+  chooseFile(toQt(at("long.mp3")));
+  bool copying = false;
+  QTimer hand;
+  QObject::connect(&hand, &QTimer::timeout, [&] {
+    auto& givingUp = widget<QAbstractButton>("EnrUneAnnonce", "MyButton16");
+    if (!givingUp.isVisible() || !std::filesystem::exists(at("ambiances/long.mp3.partiel"))) return;
+    copying = true;
+    QTest::mouseClick(&givingUp, Qt::LeftButton);
+  });
+  hand.start(10);
+  press("EnrUneAnnonce", "MyButton4");
+  EXPECT_TRUE(copying);
+  EXPECT_TRUE(std::filesystem::is_empty(at("ambiances")));
 }
 
 }  // namespace
