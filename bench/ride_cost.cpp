@@ -88,6 +88,10 @@ int main(int count, char** words) {
   player.start(arguments[4], arguments.mid(5) << arguments[2]);
   const auto never = [] { return false; };
   serveUntil(never, untilItRuns);
+  if (player.state() != QProcess::Running) {
+    std::fputs("the player does not play\n", stderr);
+    return 1;
+  }
 
   const auto playerProcess = static_cast<pid_t>(player.processId());
   const double own = processorTime(getpid());
