@@ -89,8 +89,11 @@ int AnnounceView::takeSeconds() const {
   const std::string& message = form_.Label14.caption.get();
   if (recording()) return numberBehind(message, QStringLiteral("Durée de l'Annonce ("));
   if (listening()) return numberBehind(message, QStringLiteral("en Lecture ("));
-  return static_cast<int>(
-      std::lround(numberBehind(form_.Label3.caption.get(), QStringLiteral("Milliseconds =")) / 1000.0));
+  return static_cast<int>(std::lround(takeLength()));
+}
+
+double AnnounceView::takeLength() const {
+  return numberBehind(form_.Label3.caption.get(), QStringLiteral("Milliseconds =")) / 1000.0;
 }
 
 // Where the take was saved to; empty while it only is in the device.
@@ -103,6 +106,8 @@ std::string AnnounceView::takeFile() const {
 void AnnounceView::refreshTake() {
   using enum TakeRing::Mood;
   ui_->takeRing->show(takeSeconds(), recording() ? Recording : listening() ? Listening : Resting);
+  const int left = listening() ? takeSeconds() : 0;  // the count begins a second above the length
+  ui_->takeWave->setHeard(left > 0 ? std::max(0.0, 1 - (left - 1) / std::max(1.0, takeLength())) : 0);
   drawTake();
   // What leads on stands out.
   const std::pair<QWidget*, bool> steps[] = {

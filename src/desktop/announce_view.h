@@ -37,7 +37,8 @@ class AnnounceView final : public QObject {
   void refreshMusic();
   [[nodiscard]] bool recording() const { return form_.Timer3.enabled; }
   [[nodiscard]] bool listening() const { return form_.Timer8.enabled; }
-  [[nodiscard]] int takeSeconds() const;
+  [[nodiscard]] int takeSeconds() const;    // that the ring shows
+  [[nodiscard]] double takeLength() const;  // s
   [[nodiscard]] std::string takeFile() const;
 
   forms::EnrUneAnnonce& form_;
