@@ -16,7 +16,7 @@ struct Face {
   QAccessible::Role role;
 };
 
-constexpr std::array<Face, 13> faces{{
+constexpr std::array<Face, 14> faces{{
     {"desktop::ChronoDigits", QAccessible::StaticText},
     {"desktop::CountdownRing", QAccessible::StaticText},
     {"desktop::FitLabel", QAccessible::StaticText},
@@ -28,6 +28,7 @@ constexpr std::array<Face, 13> faces{{
     {"desktop::SessionProfile", QAccessible::Chart},
     {"desktop::EffortChip", QAccessible::Graphic},
     {"desktop::Picture", QAccessible::Graphic},
+    {"desktop::PagePreview", QAccessible::Graphic},
     {"desktop::Waveform", QAccessible::Graphic},
     {"desktop::ZoneBand", QAccessible::Graphic},
 }};

@@ -9,7 +9,8 @@
 namespace desktop {
 namespace {
 
-constexpr int digitSize = 186;
+constexpr int digitSize = 210;         // a digit is then a fifth of the window high
+constexpr double colonWidth = 0.24;    // of the font's size: narrower than its own, for larger digits
 constexpr double digitsHeight = 0.86;  // of the font's size: no digit goes below the line
 
 int textWidth(const QFont& font, const QString& text) {
@@ -31,7 +32,8 @@ void ChronoDigits::setText(const QString& text) {
 
 QSize ChronoDigits::sizeHint() const {
   const QFont font = numberFont(this, digitSize);
-  return {textWidth(font, QStringLiteral("00")) + (leading_ ? 0 : textWidth(font, QStringLiteral(":"))),
+  const double colon = leading_ ? 0 : font.pixelSize() * colonWidth;
+  return {textWidth(font, QStringLiteral("00")) + static_cast<int>(colon),
           static_cast<int>(font.pixelSize() * digitsHeight)};
 }
 
@@ -53,10 +55,11 @@ void ChronoDigits::paintEvent(QPaintEvent*) {
   painter.setPen(dim ? mixed(QGuiApplication::palette().color(role::ground), bright,
                              isDark(QGuiApplication::palette()) ? 0.38 : 0.50)
                      : bright);
-  const QString shown = leading_ ? text_ : QLatin1Char(':') + text_;
   // By what is really drawn: the round digits rise above the height of the others.
   const QRect zero = QFontMetrics(font).tightBoundingRect(QStringLiteral("0"));
-  painter.drawText(0, (height() - zero.height()) / 2 - zero.top(), shown);
+  const int baseline = (height() - zero.height()) / 2 - zero.top();
+  if (!leading_) painter.drawText(0, baseline, QStringLiteral(":"));
+  painter.drawText(QPointF(leading_ ? 0 : font.pixelSize() * colonWidth, baseline), text_);
 }
 
 CountdownRing::CountdownRing(QWidget* parent) : QWidget(parent) {

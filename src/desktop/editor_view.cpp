@@ -1,5 +1,6 @@
 #include "desktop/editor_view.h"
 
+#include <QAbstractItemView>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -133,12 +134,22 @@ void EditorView::refresh() {
   pending_.stop();
   ui_->ListView1->gridModel()->flush();
   ui_->calculatorPlace->setVisible(form_.Picture8.visible);
-  ui_->filmsBox->setVisible(!form_.Combo6.lines().empty());
+  refreshFilms();
   refreshProfile();
   refreshCalculator();
   placeFloating();
   const bool editing = form_.Combo1.visible || form_.Picture2.visible || form_.Combo13.visible;
   if (!editing && std::exchange(byKeyboard_, false)) ui_->ListView1->setFocus();
+}
+
+// A narrow box in the header, with a list as wide as its titles.
+void EditorView::refreshFilms() {
+  ui_->filmsBox->setVisible(!form_.Combo6.lines().empty());
+  if (ui_->Combo6->lineEdit() != nullptr) {
+    ui_->Combo6->lineEdit()->setPlaceholderText(ui_->Combo6->accessibleName());
+  }
+  QAbstractItemView& titles = *ui_->Combo6->view();
+  titles.setMinimumWidth(titles.sizeHintForColumn(0) + dp(&titles, 24));
 }
 
 void EditorView::placeFloating() {

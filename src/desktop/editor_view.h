@@ -36,6 +36,7 @@ class EditorView final : public QObject {
   void focusCellEditor();
   void leaveCellEditor();
   void placeFloating();
+  void refreshFilms();
   void refreshProfile();
   void refreshCalculator();
   [[nodiscard]] QString headerTip(int column) const;

@@ -61,6 +61,9 @@ const std::array<Translated, 5> onDark{{{platform::Colour::rgb(255, 0, 0), "#ff7
                                         {platform::Colour::rgb(0, 0, 128), "#9cc7f0"},
                                         {platform::Colour::rgb(0, 128, 0), "#5ad19a"}}};
 
+// Pure red is too faint on white for small letters.
+constexpr auto legibleRed = "#d60000";
+
 QColor named(ThemeMode mode, QLatin1String name) {
   for (const NamedColour& colour : colours) {
     if (name == QLatin1String(colour.name))
@@ -128,7 +131,8 @@ QString themeStyleSheet(ThemeMode mode, double scale) {
   for (auto match = length.globalMatch(sheet); match.hasNext();) {
     const QRegularExpressionMatch hit = match.next();
     sized += QStringView(sheet).mid(done, hit.capturedStart() - done);
-    const long pixels = std::lround(hit.captured(1).toDouble() * scale);
+    // A half goes down: letters larger than their share would not fit.
+    const int pixels = static_cast<int>(std::ceil(hit.captured(1).toDouble() * scale - 0.5));
     // A corner is only drawn where its radius is at most half the box: half a length, rounded down, is "hp".
     sized +=
         QString::number(hit.captured(2) == QLatin1String("hp") ? pixels / 2 : pixels) + QLatin1String("px");
@@ -168,7 +172,7 @@ QColor familyColour(const QPalette& palette, model::EffortFamily family) {
 QColor onScreen(const QPalette& palette, const platform::Colour& colour) {
   if (colour.automatic) return palette.color(role::text);
   const QColor asked(colour.red, colour.green, colour.blue);
-  if (!isDark(palette)) return asked;
+  if (!isDark(palette)) return asked == QColor(Qt::red) ? QColor(legibleRed) : asked;
   for (const Translated& row : onDark) {
     if (row.asked == colour) return QColor(row.dark);
   }

@@ -86,11 +86,19 @@ class Audit {
         top == nullptr || top == &widget || widget.isAncestorOf(top) || top->isAncestorOf(&widget);
     return own ? nullptr : top;
   }
-  // A page that lies over another one hides all of it.
+  // A page that lies over another one hides all of it; a panel is there to lie over what it is about.
   [[nodiscard]] bool isCovered(const QWidget& widget) const {
     const auto points = probes(widget);
-    return std::all_of(points.begin(), points.end(),
-                       [&](const QPoint& at) { return cover(widget, at) != nullptr; });
+    const auto over = [&](const QPoint& at) { return cover(widget, at); };
+    return std::any_of(points.begin(), points.end(), [&](const QPoint& at) { return isOnPanel(over(at)); }) ||
+           std::all_of(points.begin(), points.end(), [&](const QPoint& at) { return over(at) != nullptr; });
+  }
+  static bool isOnPanel(const QWidget* widget) {
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+      const QString look = widget->property("look").toString();
+      if (look == QLatin1String("notice") || look == QLatin1String("floating")) return true;
+    }
+    return false;
   }
 
   void checkPlace(const QWidget& widget) {

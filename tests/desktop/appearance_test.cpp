@@ -53,8 +53,7 @@ TEST(SystemLook, IsReadAtTheStartAndFollowed) {
   EXPECT_FALSE(look.animations());
 
   QSignalSpy changed(&look, &SystemLook::changed);
-  QDBusMessage signal =
-      QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
+  QDBusMessage signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
   signal << "org.freedesktop.appearance"
          << "color-scheme" << QVariant::fromValue(QDBusVariant(1U));
   bus.send(signal);

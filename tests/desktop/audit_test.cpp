@@ -17,7 +17,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct Page : platform::Form {
-  Page() : Form("Page", "Page") { picture.click.handle([] {}); }
+  Page() : Form("Page", "Page") {
+    picture.click.handle([] {});
+  }
   platform::Image picture{*this, "picture"};
 };
 
@@ -25,7 +27,8 @@ class AuditTest : public testing::Test {
  protected:
   AuditTest() {
     window_.resize(400, 200);
-    window_.setStyleSheet(QStringLiteral("QWidget { background: #000000; color: #ffffff; font-size: 32px; }"));
+    window_.setStyleSheet(
+        QStringLiteral("QWidget { background: #000000; color: #ffffff; font-size: 32px; }"));
     window_.show();
   }
   QPushButton& button(const QRect& place, const QString& text = QStringLiteral("Start")) {
@@ -57,7 +60,8 @@ TEST_F(AuditTest, EachFaultIsNamed) {
       {[&] { button(QRect(20, 20, 40, 60)); }, "Page.b1 cuts its text: Start"},
       {[&] { button(place).setFocusPolicy(Qt::NoFocus); }, "Page.b1 is out of the keyboard's reach"},
       {[&] { button(place, QString()); }, "Page.b1 has no accessible name"},
-      {[&] { button(place).setStyleSheet(QStringLiteral("color: #444444;")); }, "Page.b1 has a contrast of 2.2"},
+      {[&] { button(place).setStyleSheet(QStringLiteral("color: #444444;")); },
+       "Page.b1 has a contrast of 2.2"},
       {[&] {
          auto* picture = new QLabel(QStringLiteral("?"), &window_);
          picture->setObjectName(QStringLiteral("picture"));
