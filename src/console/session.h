@@ -32,6 +32,8 @@ class Session {
 
   [[nodiscard]] app::Program& program() { return program_; }
   [[nodiscard]] Interpreter& interpreter() { return interpreter_; }
+  // Writes the recorder's take to a file, for a front that shows its form; the journal knows nothing of it.
+  void saveTake(const std::string& path) { media_.save("capture", path); }
 
  private:
   std::unique_ptr<platform::Clock> clock_;

@@ -77,6 +77,7 @@ int run(const StageOptions& options) {
   console::Session session(options.console, std::filesystem::absolute(folder).lexically_normal().string(),
                            std::cout, &hands);
   desktop::Windows windows(session.program(), options.theme);
+  windows.onTake([&](const std::string& path) { session.saveTake(path); });
   hands.attach(windows);
   windows.binder().onPopUp([&](const platform::MenuItem& root) { session.interpreter().menuOpened(root); });
   bool faulty = false;
