@@ -7,9 +7,7 @@ pkg_check_modules(SAMPLERATE REQUIRED IMPORTED_TARGET samplerate)
 pkg_check_modules(MPV REQUIRED IMPORTED_TARGET mpv)
 
 set(CMAKE_AUTOMOC ON)
-set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
-set(CMAKE_AUTOUIC_SEARCH_PATHS ${PROJECT_SOURCE_DIR}/src/desktop/ui)
 
 # Objects rather than an archive: a resource file registers itself only if its object is really linked.
 ventoria_floor(desktop TYPE OBJECT
@@ -17,9 +15,13 @@ ventoria_floor(desktop TYPE OBJECT
     PkgConfig::SAMPLERATE PkgConfig::MPV)
 get_target_property(desktop_kind ventoria_desktop TYPE)
 if(NOT desktop_kind STREQUAL "INTERFACE_LIBRARY")
-  file(GLOB extras CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/*.h ${PROJECT_SOURCE_DIR}/src/desktop/ui/*.ui
-    ${PROJECT_SOURCE_DIR}/src/desktop/*.qrc)
-  target_sources(ventoria_desktop PRIVATE ${extras})
+  file(GLOB extras CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/*.h ${PROJECT_SOURCE_DIR}/src/desktop/*.qrc)
+  file(GLOB pages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/ui/*.ui)
+  # One by one: the build loses sight of headers that AUTOUIC writes, and takes up a changed page a build late.
+  qt_wrap_ui(page_headers ${pages})
+  target_sources(ventoria_desktop PRIVATE ${extras} ${page_headers})
+  target_include_directories(ventoria_desktop PRIVATE ${PROJECT_BINARY_DIR})
+  set_target_properties(ventoria_desktop PROPERTIES AUTOGEN_BUILD_DIR ${PROJECT_BINARY_DIR}/moc)
 endif()
 ventoria_program(ventoria desktop LINKS ventoria_desktop)
 
@@ -27,5 +29,4 @@ ventoria_floor(stage LINKS ventoria_desktop ventoria_console)
 ventoria_program(ventoria-stage stage LINKS ventoria_stage ventoria_desktop)
 
 set(CMAKE_AUTOMOC OFF)
-set(CMAKE_AUTOUIC OFF)
 set(CMAKE_AUTORCC OFF)
