@@ -42,7 +42,11 @@ void QtShell::openFile(const std::string& path) {
 }
 
 void QtShell::openAddress(const std::string& url) {
-  QDesktopServices::openUrl(QUrl(toQt(url)));
+  if (QDesktopServices::openUrl(QUrl(toQt(url)))) return;
+  dialogs_.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
+                    "Navigateur Introuvable...",
+                    "Impossible d'Ouvrir l'Adresse « " + url +
+                        " » : aucun Navigateur n'a été trouvé sur cet Ordinateur."});
 }
 
 void QtShell::openSoundSettings() {

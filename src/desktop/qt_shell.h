@@ -8,7 +8,7 @@ namespace desktop {
 
 class QtShell final : public platform::Shell {
  public:
-  // `dialogs` tell where the machine has no sound settings to open.
+  // `dialogs` tell where the machine has no browser, or no sound settings to open.
   explicit QtShell(platform::Dialogs& dialogs) : dialogs_(dialogs) {}
 
   void openFile(const std::string& path) override;
