@@ -85,6 +85,7 @@ void MainView::refreshPages() {
   const bool volumeKnown =
       !form_.Label36.caption.get().empty() || form_.Label38.caption != "Volume Actuel ()";
   ui_->volumeBox->setVisible(volumeKnown);
+  ui_->contactScrim->setVisible(form_.Picture12.visible);
   ui_->noticePicture->setPicture(toQt(form_.Image18.visible ? "sound-off" : "sound-on"));
   // What leads on stands out: the start where a duration stands, else the way to the sessions.
   const bool startable = form_.MyButton1.enabled && form_.MyButton1.caption == "Start";
