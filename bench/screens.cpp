@@ -1,5 +1,5 @@
-// What the screens must never be slow at: a long list that is edited and scrolled, and the tick of a ride. Each
-// measure ends when everything has been drawn.
+// What the screens must never be slow at: a long list that is edited and scrolled, and the tick of a ride.
+// Each measure ends when everything has been drawn.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>

@@ -3,12 +3,12 @@
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QAbstractSlider>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCompleter>
 #include <QContextMenuEvent>
 #include <QCursor>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,6 +17,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStackedWidget>
 #include <QTimer>
 #include <algorithm>
 #include <stdexcept>
@@ -117,6 +118,18 @@ void showCombo(const platform::ComboBox& box, QComboBox& widget, bool relist) {
   if (widget.currentIndex() != box.index) widget.setCurrentIndex(box.index);
   const QString text = toQt(box.text.get());
   if (widget.currentText() != text) widget.setEditText(text);
+}
+
+// What is about to go gives the keyboard to its page: Qt would hand it to whatever comes next.
+void leaveKeyboard(QWidget& widget) {
+  const QWidget* focused = QApplication::focusWidget();
+  if (focused != &widget && !widget.isAncestorOf(focused)) return;
+  QWidget* page = widget.parentWidget();
+  while (page != nullptr && !page->isWindow() &&
+         qobject_cast<QStackedWidget*>(page->parentWidget()) == nullptr) {
+    page = page->parentWidget();
+  }
+  if (page != nullptr) page->setFocus();
 }
 
 // A text or a picture that can be pressed, and is no mere label of another control.
@@ -264,6 +277,7 @@ void Binder::show(const Component& component, Prop prop, QWidget& widget) {
   const auto& control = static_cast<const Control&>(component);
   switch (prop) {
     case Prop::Visible:
+      if (!control.visible) leaveKeyboard(widget);
       widget.setVisible(control.visible);
       break;
     case Prop::Enabled:

@@ -33,7 +33,7 @@ QRect within(QRect rect, const QSize& room) {
 }  // namespace
 
 EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
-    : form_(form), ui_(std::make_unique<Ui::CreerCycle>()), binder_(binder) {
+    : form_(form), ui_(std::make_unique<Ui::CreerCycle>()), page_(page), binder_(binder) {
   ui_->setupUi(&page);
   for (auto* floating : std::initializer_list<QWidget*>{ui_->Navette, ui_->Combo1, ui_->Picture2,
                                                         ui_->Combo13, ui_->Picture1}) {
@@ -94,7 +94,6 @@ void EditorView::focusCellEditor() {
   refresh();
   for (QComboBox* box : {ui_->Combo13, ui_->Combo1, ui_->Combo2}) {
     if (!box->isVisible()) continue;
-    byKeyboard_ = true;
     box->setFocus(Qt::OtherFocusReason);
     if (box != ui_->Combo2) box->showPopup();
     break;
@@ -138,8 +137,9 @@ void EditorView::refresh() {
   refreshProfile();
   refreshCalculator();
   placeFloating();
+  // A cell editor that has gone hands the keyboard back to the list.
   const bool editing = form_.Combo1.visible || form_.Picture2.visible || form_.Combo13.visible;
-  if (!editing && std::exchange(byKeyboard_, false)) ui_->ListView1->setFocus();
+  if (std::exchange(editing_, editing) && !editing && page_.hasFocus()) ui_->ListView1->setFocus();
 }
 
 // A narrow box in the header, with a list as wide as its titles.

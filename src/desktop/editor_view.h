@@ -44,9 +44,10 @@ class EditorView final : public QObject {
   forms::CreerCycle& form_;
   std::unique_ptr<Ui::CreerCycle> ui_;
   MovablePanel* help_ = nullptr;
+  QWidget& page_;
   Binder& binder_;
   QTimer pending_;
-  bool byKeyboard_ = false;  // the cell editor was opened by a key, and hands the keyboard back to the list
+  bool editing_ = false;
   bool wholeList_ = false;
 };
 

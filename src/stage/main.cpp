@@ -93,6 +93,9 @@ int run(const StageOptions& options) {
       }
     }
   });
+  // What a voice would say just then: the simulated one has spoken before anybody can look.
+  session.interpreter().add(
+      "speak", [&](console::Arguments& arguments) { windows.speak(desktop::toQt(arguments.text())); });
   windows.window().resize(options.size);
   windows.window().show();
   QCoreApplication::processEvents();
