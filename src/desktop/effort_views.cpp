@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr double headroom = 14;  // above the bars, for the knob and the announcements' marks
 constexpr double slimmest = 2;
+constexpr double knob = 5;  // the radius of the present place's
 
 }  // namespace
 
@@ -86,9 +88,27 @@ void SessionProfile::setSteps(std::vector<ProfileStep> steps) {
 
 void SessionProfile::setPlace(int step, double seconds) {
   if (place_ == step && placeSeconds_ == seconds) return;
-  place_ = step;
+  const QRect before = markRect();
+  const bool onward = std::exchange(place_, step) != step;
   placeSeconds_ = seconds;
-  update();
+  if (onward) {
+    update();
+  } else {
+    update(before | markRect());
+  }
+}
+
+double SessionProfile::markX() const {
+  const auto at = static_cast<std::size_t>(place_);
+  const double share = steps_[at].seconds > 0 ? std::min(1.0, placeSeconds_ / steps_[at].seconds) : 0;
+  return std::clamp(bars_[at].left() + bars_[at].width() * share, 1.0 * dp(this, knob),
+                    1.0 * width() - dp(this, knob));
+}
+
+QRect SessionProfile::markRect() const {
+  if (place_ < 0 || place_ >= static_cast<int>(bars_.size())) return {};
+  const int half = dp(this, knob) + 2;
+  return {static_cast<int>(markX()) - half, 0, 2 * half, height()};
 }
 
 void SessionProfile::selectRow(int row) {
@@ -199,15 +219,12 @@ void SessionProfile::paintEvent(QPaintEvent*) {
     }
   }
   if (place_ < 0 || place_ >= static_cast<int>(bars_.size())) return;
-  const auto at = static_cast<std::size_t>(place_);
-  const double share = steps_[at].seconds > 0 ? std::min(1.0, placeSeconds_ / steps_[at].seconds) : 0;
-  const double x = std::clamp(bars_[at].left() + bars_[at].width() * share, 1.0 * dp(this, 5),
-                              1.0 * width() - dp(this, 5));
+  const double x = markX();
   painter.setPen(QPen(QGuiApplication::palette().color(role::text), dp(this, 2.5)));
   painter.drawLine(QPointF(x, dp(this, 8)), QPointF(x, height()));
   painter.setPen(Qt::NoPen);
   painter.setBrush(QGuiApplication::palette().color(role::text));
-  painter.drawEllipse(QPointF(x, dp(this, 6)), dp(this, 5), dp(this, 5));
+  painter.drawEllipse(QPointF(x, dp(this, knob + 1)), dp(this, knob), dp(this, knob));
 }
 
 ZoneBand::ZoneBand(QWidget* parent) : QWidget(parent) {

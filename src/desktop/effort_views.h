@@ -75,6 +75,9 @@ class SessionProfile final : public QWidget {
 
  private:
   void layOut();
+  // Where the present place is marked.
+  [[nodiscard]] double markX() const;
+  [[nodiscard]] QRect markRect() const;
   [[nodiscard]] int stepAt(const QPointF& point) const;
 
   std::vector<ProfileStep> steps_;

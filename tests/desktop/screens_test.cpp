@@ -98,6 +98,33 @@ TEST_F(ScreensTest, TheListOfMusicIsTickedByItsBoxesAndBySpace) {
   EXPECT_TRUE(form.mnsupress.enabled && !form.mnEcout.enabled);
 }
 
+// Notes the controls that are painted.
+class PaintWatch final : public QObject {
+ public:
+  explicit PaintWatch(QWidget& page) {
+    for (QWidget* widget : page.findChildren<QWidget*>()) widget->installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) painted.insert(watched->objectName().toStdString());
+    return false;
+  }
+  std::set<std::string> painted;
+};
+
+TEST_F(ScreensTest, ATickPaintsOnlyWhatChanges) {
+  screens_.main.Combo3.pick(30);
+  screens_.main.MyButton1.click();
+  program_.run("advance 0.2\npress MainForm.MyButton3\nadvance 5.5");
+  settle();
+  PaintWatch watch(*windows_->page(screens_.main));
+  program_.run("advance 1");
+  settle();
+  EXPECT_TRUE(watch.painted.contains("Label6"));
+  for (const char* still : {"Label4", "Label5", "Label11", "MyFrame1", "Command7", "header"}) {
+    EXPECT_FALSE(watch.painted.contains(still)) << still;
+  }
+}
+
 TEST_F(ScreensTest, TheHelpIsPulledOutOfItsRowAndPutBack) {
   screens_.main.MyButton5.click();
   settle();
