@@ -60,6 +60,7 @@ void CellEditor::cliquerCellule() {
   if (tools_.screens.volume.visible) tools_.screens.volume.unload();
   colonneEdit_ = colonneCliquee_;
   const int row = grid_.selectedRow();
+  ligneEdit_ = row;
   const std::string cell = grid_.text(row, colonneEdit_);
   form_.Label24.visible = false;
   form_.Label23.caption = columnHelp(colonneEdit_, cell);
@@ -119,6 +120,11 @@ void CellEditor::selectPresentText() {
 void CellEditor::placerEditeur() {
   if (grid_.rowCount() == 0 || colonneEdit_ <= column::number) return;
   const int row = grid_.selectedRow();
+  // The keyboard and the profile select without a click: what is in hand belongs to the row that was clicked.
+  if (row != ligneEdit_) {
+    endEditing();
+    return;
+  }
   const std::string cell = grid_.text(row, colonneEdit_);
   if (colonneEdit_ == column::cycleName || colonneEdit_ == column::sessionName) {
     refuse();

@@ -42,6 +42,7 @@ class CellEditor {
   platform::Grid& grid_;
   int colonneCliquee_ = 0;  // under the pointer at its last move
   int colonneEdit_ = 0;     // of the open editor
+  int ligneEdit_ = 0;       // its row, the selected one at the click
 };
 
 }  // namespace editor
