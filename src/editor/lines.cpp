@@ -190,6 +190,7 @@ void Lines::insererLigne() {
 }
 
 void Lines::supprimerLigne() {
+  preambule();
   if (grid_.selectedRow() == 0) return;
   if (grid_.selectedRow() == 1) {
     refuseUnfinished("La Première ligne ne peut pas être Supprimée...!", "Suppression de Ligne...");
@@ -205,8 +206,7 @@ void Lines::supprimerLigne() {
 }
 
 void Lines::basculerCycle() {
-  form_.Timer1.enabled = false;
-  form_.Combo1.visible = false;
+  preambule();
   form_.Label9.caption = "Création d'un Cycle d'Entraînement";
   if (!inCycleMode(form_)) {
     form_.MyButton3.caption = "Annuler ce Cycle";
