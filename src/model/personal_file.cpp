@@ -23,7 +23,9 @@ constexpr std::array<std::pair<Field, std::string PersonalFigures::*>, 6> fields
 }  // namespace
 
 PersonalFigures readPersonal(platform::FileSystem& files, const std::string& path) {
-  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
+  // Figures that may only be read are figures all the same.
+  using enum platform::OpenMode;
+  const auto file = files.open(path, files.exists(path) ? Read : ReadWriteCreate);
   Record record(recordWidth);
   record.read(*file, 1);
   PersonalFigures figures;
