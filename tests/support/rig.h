@@ -4,6 +4,7 @@
 #include <deque>
 #include <vector>
 
+#include "support/faulty_file_system.h"
 #include "support/memory_file_system.h"
 #include "support/recorded_devices.h"
 #include "support/recorded_media.h"
@@ -14,9 +15,13 @@ namespace support {
 
 struct RecordedDialogs final : platform::Dialogs {
   std::vector<platform::Message> messages;
+  std::deque<platform::Answer> next;
   platform::Answer message(const platform::Message& message) override {
     messages.push_back(message);
-    return platform::Answer::Ok;
+    if (next.empty()) return platform::Answer::Ok;
+    const platform::Answer answer = next.front();
+    next.pop_front();
+    return answer;
   }
   std::vector<std::string> chooseFiles(const platform::FileRequest&) override { return {}; }
 };
@@ -41,14 +46,15 @@ struct Rig {
   platform::EventLoop loop{clock};
   forms::Screens screens;
   model::SharedState state;
-  MemoryFileSystem files;
+  MemoryFileSystem memory;
+  FaultyFileSystem disk{memory};
   RecordedDialogs dialogs;
   RecordedMedia media;
   RecordedLevel level;
   RecordedShell shell;
   RecordedVolume volume;
   RecordedPrinter printer;
-  platform::Outside outside{clock, sound, dialogs, files, saver, media, level, shell, volume, printer};
+  platform::Outside outside{clock, sound, dialogs, disk, saver, media, level, shell, volume, printer};
   voice::Voice speaker{state, loop, sound, screens.main, screens.player};
   voice::Toolbox tools{screens, state, loop, outside, speaker};
 };

@@ -6,11 +6,8 @@
 #include "console/escaping.h"
 #include "console/options.h"
 #include "console/scripted_dialogs.h"
-#include "console/simulated_sound.h"
 #include "console/wav_length.h"
-#include "platform/timer.h"
-#include "support/memory_file_system.h"
-#include "voice/sound_bank.h"
+#include "platform/text.h"
 
 namespace {
 
@@ -66,22 +63,12 @@ TEST(ConsoleOptionsTest, UnderstandsTheCommandLine) {
   EXPECT_EQ(options.sound, SoundMode::Timed);
   EXPECT_EQ(options.volume, std::nullopt);
   EXPECT_EQ(options.script, "s.txt");
-  const std::vector<std::vector<std::string>> bad{{"--folder"},
-                                                  {"--folder="},
-                                                  {"--nope"},
-                                                  {"a", "b"},
-                                                  {"--sound", "loud"},
-                                                  {"--volume", "101"},
-                                                  {"--volume", "-1"},
-                                                  {"--clock", "fast"},
-                                                  {"--speed", "0"},
-                                                  {"--speed", "nan"},
-                                                  {"--now", "12:00:00"},
-                                                  {"--now", "2026-02-29 12:00:00"},
-                                                  {"--now", "2026-01-01 24:00:00"},
-                                                  {"--now", "2026-01-01 12:00:00.5"}};
-  for (const auto& words : bad) {
-    EXPECT_THROW(static_cast<void>(console::parseOptions(words)), console::UsageError) << words.back();
+  for (const char* bad :
+       {"--folder", "--folder=", "--nope", "a|b", "--sound|loud", "--volume|101", "--volume|-1",
+        "--clock|fast", "--speed|0", "--speed|nan", "--now|12:00:00", "--now|2026-02-29 12:00:00",
+        "--now|2026-01-01 24:00:00", "--now|2026-01-01 12:00:00.5"}) {
+    EXPECT_THROW(static_cast<void>(console::parseOptions(platform::split(bad, '|'))), console::UsageError)
+        << bad;
   }
 }
 
@@ -95,57 +82,7 @@ class ConsoleDevicesTest : public testing::Test {
 
   platform::SimulatedClock clock_{platform::LocalTime{}};
   console::Journal journal_{clock_};
-  support::MemoryFileSystem files_;
 };
-
-TEST_F(ConsoleDevicesTest, TheJournalForgetsWhatItPrinted) {
-  journal_.write("saver", {"on"});
-  clock_.sleepUntil(12034ms);
-  journal_.write("dialog", {"message", "a\tb", "c\nd"});
-  EXPECT_EQ(journal("dialog"), "12.034\tdialog\tmessage\ta\\tb\tc\\nd\n");
-  EXPECT_EQ(journal(), "0.000\tsaver\ton\n");
-  EXPECT_EQ(journal(), "");
-}
-
-TEST_F(ConsoleDevicesTest, ASoundTakesItsLengthAndNoTimerFiresInIt) {
-  const platform::SoundClip* clip = voice::promptByNumber(196);  // the ADPCM one
-  ASSERT_NE(clip, nullptr);
-  platform::EventLoop loop(clock_);
-  platform::Form form("Form");
-  int ticks = 0;
-  platform::Timer timer(form, "Timer1", 1, true);
-  timer.tick.handle([&] { ++ticks; });
-  form.attach(loop);
-  form.load();
-  const struct {
-    SoundMode mode;
-    bool takesTime;
-    std::string journalled;
-  } cases[]{{SoundMode::None, false, ""},
-            {SoundMode::Instant, false, "prompt\t196\tfin.wav\n"},
-            {SoundMode::Timed, true, "prompt\t196\tfin.wav\n"}};
-  for (const auto& [mode, takesTime, journalled] : cases) {
-    console::SimulatedSound sound(mode, files_, "/p", journal_);
-    sound.attach(loop);
-    const platform::Instant before = clock_.now();
-    sound.play(*clip);
-    EXPECT_EQ(clock_.now() - before, takesTime ? console::wavLength(clip->wav).value() : 0ms);
-    EXPECT_THAT(journal(), testing::EndsWith(journalled));
-  }
-  EXPECT_GT(clock_.now(), 300ms);
-  EXPECT_EQ(ticks, 0);
-  form.unload();
-}
-
-TEST_F(ConsoleDevicesTest, AFileIsNamedFromTheProgramsFolder) {
-  console::SimulatedSound sound(SoundMode::Instant, files_, "/p/q", journal_);
-  for (const char* path : {"/p/q/annonces/a.wav", "/p/q/annonces//./a.wav", "/p/other.wav", "/p/q2/a.wav"}) {
-    sound.playFile(path);
-  }
-  EXPECT_EQ(journal(),
-            "0.000\tfile\tannonces/a.wav\n0.000\tfile\tannonces/a.wav\n"
-            "0.000\tfile\t/p/other.wav\n0.000\tfile\t/p/q2/a.wav\n");
-}
 
 TEST_F(ConsoleDevicesTest, MessagesTakeTheQueuedAnswerThatTheyOffer) {
   const struct {

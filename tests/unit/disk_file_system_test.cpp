@@ -8,7 +8,6 @@
 #include <functional>
 
 #include "platform/fault.h"
-#include "support/faulty_file_system.h"
 #include "support/memory_file_system.h"
 
 namespace {
@@ -101,21 +100,6 @@ TEST_F(DiskFileSystemTest, TellsFaultsInFrench) {
       EXPECT_THAT(fault.what(), HasSubstr(told));
     }
   }
-}
-
-TEST(FaultyFileSystemTest, FailsFromTheNthCallOfItsKindOn) {
-  using Call = support::FaultyFileSystem::Call;
-  support::MemoryFileSystem memory;
-  support::FaultyFileSystem faulty(memory);
-  const auto file = faulty.open("/f", OpenMode::ReadWriteCreate);
-  faulty.failFrom(Call::Write, 2);
-  file->writeAt(0, std::string("a"));
-  EXPECT_THROW(file->writeAt(1, std::string("b")), FileFault);
-  EXPECT_THROW(file->writeAt(1, std::string("b")), FileFault);
-  EXPECT_NO_THROW(faulty.open("/g", OpenMode::ReadWriteCreate));
-  faulty.heal();
-  file->writeAt(1, std::string("b"));
-  EXPECT_EQ(*memory.files.at("/f"), "ab");
 }
 
 }  // namespace

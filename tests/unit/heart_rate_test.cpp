@@ -1,7 +1,5 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <deque>
 #include <random>
 
 #include "heartrate/calculator.h"
@@ -9,17 +7,13 @@
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "platform/each_on_its_own.h"
-#include "support/faulty_file_system.h"
-#include "support/memory_file_system.h"
-#include "support/recorded_devices.h"
-#include "support/recorded_media.h"
-#include "support/recorded_outputs.h"
+#include "support/rig.h"
 
 namespace {
 
 using namespace heartrate;
 using platform::Answer;
-using support::FaultyFileSystem;
+using Call = support::FaultyFileSystem::Call;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -29,60 +23,19 @@ std::string record(const std::string& figures, const std::string& methodAndMode)
 }
 const std::string saved = record("40 F\xE9minin 190050", "51");
 
-struct Answers final : platform::Dialogs {
-  std::vector<platform::Message> said;
-  std::deque<Answer> next;
-  Answer message(const platform::Message& message) override {
-    said.push_back(message);
-    if (next.empty()) return Answer::Ok;
-    const Answer answer = next.front();
-    next.pop_front();
-    return answer;
-  }
-  std::vector<std::string> chooseFiles(const platform::FileRequest&) override { return {}; }
-};
-struct Silence final : platform::SoundOutput {
-  bool hasDevice() override { return false; }
-  void play(const platform::SoundClip&) override {}
-  void playFile(const std::string&) override {}
-};
-struct NoSaver final : platform::ScreenSaver {
-  bool active() override { return false; }
-  void setActive(bool) override {}
-};
-
 // The calculator in a loaded form, over a disk that may hold a record.
-struct HeartRate : testing::Test {
-  platform::SimulatedClock clock{platform::LocalTime{}};
-  platform::EventLoop loop{clock};
-  forms::Screens screens;
-  model::SharedState state;
-  support::MemoryFileSystem disk;
-  FaultyFileSystem files{disk};
-  Answers dialogs;
-  Silence sound;
-  NoSaver saver;
-  support::RecordedMedia media;
-  support::RecordedLevel level;
-  support::RecordedShell shell;
-  support::RecordedVolume volume;
-  support::RecordedPrinter printer;
-  platform::Outside outside{clock, sound, dialogs, files, saver, media, level, shell, volume, printer};
-  voice::Voice speaker{state, loop, sound, screens.main, screens.player};
+struct HeartRate : testing::Test, support::Rig {
   forms::CreerCycle& form = screens.editor;
   std::vector<std::string> faults;
-  std::optional<Calculator> calculator;
+  Calculator calculator{tools};
 
   void load(const std::optional<std::string>& stored = std::nullopt) {
-    state.dossierProgramme = "/home/";
-    if (stored) disk.put(path, *stored);
-    calculator.emplace(voice::Toolbox{screens, state, loop, outside, speaker});
+    if (stored) memory.put(path, *stored);
     loop.onFault([this](const std::string& fault) { faults.push_back(fault); });
-    form.attach(loop);
     form.onLoad.handle([this] {
-      calculator->chargerListes();
-      calculator->lireAuChargement();
-      calculator->finirChargement();
+      calculator.chargerListes();
+      calculator.lireAuChargement();
+      calculator.finirChargement();
     });
     form.load();
   }
@@ -93,30 +46,24 @@ struct HeartRate : testing::Test {
   }
   // The rows below the first one, by their heart-rate cells.
   void fillGrid(const std::vector<std::string>& targets) {
-    form.ListView1.clearColumns();
     for (platform::GridColumn& column : model::gridColumns(false)) form.ListView1.addColumn(column);
-    form.ListView1.clearRows();
     form.ListView1.addRow(model::firstRow());
     for (const std::string& target : targets) {
       form.ListView1.addRow(model::closingRow(2, "x"));
       form.ListView1.setText(form.ListView1.rowCount(), model::column::heartRate, target);
     }
   }
-  std::vector<std::string> targets() {
-    std::vector<std::string> found;
-    for (int row = 1; row <= form.ListView1.rowCount(); ++row) {
-      found.push_back(form.ListView1.text(row, model::column::heartRate));
-    }
-    return found;
+  std::string target(int row) const { return form.ListView1.text(row, model::column::heartRate); }
+  // The four figures, the method in its two boxes, the mode of the targets and its three boxes.
+  std::string shown() const {
+    std::string all;
+    for (const platform::ComboBox* box : {&form.Combo7, &form.Combo10, &form.Combo11, &form.Combo12})
+      all += box->text.get() + "|";
+    for (const int number : {form.Combo8.index.get(), form.Combo13.index.get(), state.modeAffichageFC,
+                             form.Check1.value.get(), form.Check2.value.get(), form.Check3.value.get()})
+      all += std::to_string(number);
+    return all;
   }
-  std::vector<int> modes() { return {form.Check1.value, form.Check2.value, form.Check3.value}; }
-  std::vector<std::string> boxes() {
-    return {form.Combo7.text, form.Combo10.text, form.Combo11.text, form.Combo12.text};
-  }
-  platform::CheckBox& modeBox(int mode) {
-    return mode == 1 ? form.Check1 : mode == 2 ? form.Check2 : form.Check3;
-  }
-  void watch() { loop.runUntil(clock.now() + platform::Instant{600}); }
 };
 
 TEST(Formulas, GiveTheMaximalRateByMethod) {
@@ -185,40 +132,31 @@ TEST(EachOnItsOwn, GoesOnBehindAFailure) {
   EXPECT_EQ(done, "ab");
 }
 
-TEST_F(HeartRate, StartsBlankOnANewDisk) {
+TEST_F(HeartRate, StartsBlankOnANewDiskAndClosesUntouched) {
   load();
-  EXPECT_EQ(*disk.files.at(path), "");
-  EXPECT_THAT(boxes(), ElementsAre(" ", " ", " ", " "));
-  EXPECT_EQ(form.Combo8.text, "Astrand et Ryhming (1954)");
-  EXPECT_EQ(form.Combo13.index, 0);
-  EXPECT_EQ(calculator->figures().persoMethode, "0");
-  EXPECT_EQ(state.modeAffichageFC, 1);
-  EXPECT_THAT(modes(), ElementsAre(1, 0, 0));
+  EXPECT_EQ(*memory.files.at(path), "");
+  EXPECT_EQ(shown(), " | | | |001100");
+  EXPECT_EQ(calculator.figures().persoMethode, "0");
   EXPECT_EQ(form.Label50.caption, "");
   EXPECT_FALSE(form.Label62.visible);
-  EXPECT_THAT(dialogs.said, testing::IsEmpty());
+  form.MyButton25.click();
+  form.Command2.click();
+  EXPECT_FALSE(form.Picture8.visible);
+  EXPECT_THAT(dialogs.messages, testing::IsEmpty());
 }
 
 TEST_F(HeartRate, ComesUpWithTheSavedFigures) {
   std::string stored = saved;
   stored[18] = '3';
   load(stored);
-  EXPECT_THAT(boxes(), ElementsAre("40", "Féminin", "190", "050"));
-  EXPECT_EQ(form.Combo8.index, 5);
-  EXPECT_EQ(form.Combo13.index, 5);
-  EXPECT_EQ(calculator->figures().methodeFC, 5);
-  EXPECT_EQ(form.Label50.caption, "134 à 148");
-  EXPECT_EQ(form.Label56.caption, "140");
-  EXPECT_EQ(form.Label57.caption, "190");
-  EXPECT_THAT(modes(), ElementsAre(0, 0, 1));
-  EXPECT_EQ(state.modeAffichageFC, 3);
+  EXPECT_EQ(shown(), "40|Féminin|190|050|553001");
+  EXPECT_EQ(calculator.figures().methodeFC, 5);
+  EXPECT_EQ(form.Label50.caption.get() + "|" + form.Label56.caption.get(), "134 à 148|140");
 }
 
 TEST_F(HeartRate, TakesARecordWithoutAnAgeForANewOne) {
   load(record("   Masculin190050", "53"));
-  EXPECT_THAT(boxes(), ElementsAre(" ", " ", " ", " "));
-  EXPECT_EQ(form.Combo8.index, 0);
-  EXPECT_EQ(state.modeAffichageFC, 3);
+  EXPECT_EQ(shown(), " | | | |003001");
 }
 
 // What is cut off or damaged never keeps the form from loading, and leaves both method boxes alike.
@@ -231,27 +169,25 @@ TEST_P(DamagedRecord, LoadsAllTheSame) {
   for (char& c : stored) c = number > 40 ? static_cast<char>(random() % 256) : c;
   load(stored);
   EXPECT_EQ(form.Combo8.index, form.Combo13.index);
-  EXPECT_EQ(form.Combo8.index, number >= 18 && number <= 40 ? 5 : form.Combo8.index.get());
-  EXPECT_EQ(form.Combo7.text, number == 0    ? " "
-                              : number == 1  ? "4"
-                              : number <= 40 ? "40"
-                                             : form.Combo7.text.get());
+  if (number <= 40) {
+    EXPECT_EQ(form.Combo8.index, number >= 18 ? 5 : form.Combo8.index.get());
+    EXPECT_EQ(form.Combo7.text, number == 0 ? " " : saved.substr(0, number == 1 ? 1 : 2));
+  }
   EXPECT_EQ(form.Check1.value + form.Check2.value + form.Check3.value, 1);
-  EXPECT_EQ(modes().at(static_cast<std::size_t>(state.modeAffichageFC) - 1), 1);
+  EXPECT_EQ(shown().substr(shown().size() - 3).find('1') + 1, state.modeAffichageFC);
   EXPECT_GE(form.Combo8.index, 0);
   EXPECT_THAT(faults, testing::IsEmpty());
-  EXPECT_EQ(*disk.files.at(path), stored);
+  EXPECT_EQ(*memory.files.at(path), stored);
 }
 INSTANTIATE_TEST_SUITE_P(Records, DamagedRecord, testing::Range(0, 120));
 
 TEST_F(HeartRate, StartsBlankWhereTheFileCannotBeOpened) {
-  disk.put(path, saved);
-  files.failFrom(FaultyFileSystem::Call::Open, 1);
+  memory.put(path, saved);
+  disk.failFrom(Call::Open, 1);
   load();
   EXPECT_THAT(faults, ElementsAre(HasSubstr(path)));
-  EXPECT_THAT(boxes(), ElementsAre(" ", " ", " ", " "));
-  EXPECT_EQ(form.Combo8.index, 0);
-  EXPECT_EQ(*disk.files.at(path), saved);
+  EXPECT_THAT(shown(), testing::StartsWith(" | | | |00"));
+  EXPECT_EQ(*memory.files.at(path), saved);
 }
 
 TEST_F(HeartRate, SavesTheScreenUnderTheRidersOwnMethod) {
@@ -262,22 +198,22 @@ TEST_F(HeartRate, SavesTheScreenUnderTheRidersOwnMethod) {
   form.Combo12.text = "055";
   form.Check3.value = 1;
   form.MyButton40.click();
-  EXPECT_EQ(*disk.files.at(path), record("41 F\xE9minin 018055", "53") + "more");
-  EXPECT_EQ(calculator->figures().persoFCMax, "018");
+  EXPECT_EQ(*memory.files.at(path), record("41 F\xE9minin 018055", "53") + "more");
+  EXPECT_EQ(calculator.figures().persoFCMax, "018");
   EXPECT_EQ(form.Combo12.text, "55");
   EXPECT_EQ(form.Combo8.index, 5);
   // The grid's own box still shows the old method, and has the last word.
-  EXPECT_EQ(calculator->figures().methodeFC, 3);
+  EXPECT_EQ(calculator.figures().methodeFC, 3);
 }
 
 TEST_F(HeartRate, KeepsEverythingWhenSavingFails) {
   load(saved);
   form.MyButton25.click();
   form.Combo11.text = "195";
-  files.failFrom(FaultyFileSystem::Call::Write, 1);
+  disk.failFrom(Call::Write, 1);
   dialogs.next = {Answer::Yes};
   EXPECT_THROW(form.Command2.click(), platform::FileFault);
-  EXPECT_EQ(calculator->figures().persoFCMax, "190");
+  EXPECT_EQ(calculator.figures().persoFCMax, "190");
   EXPECT_EQ(form.Combo11.text, "195");
   EXPECT_TRUE(form.Picture8.visible);
 }
@@ -300,19 +236,13 @@ TEST_F(HeartRate, AsksForWhatTheMethodNeeds) {
     form.Combo11.text = row.fcMax;
     form.Combo12.text = row.rest;
     for (const bool byMethod : {true, false}) {
-      dialogs.said.clear();
+      dialogs.messages.clear();
       form.Picture8.visible = false;
-      if (byMethod) {
-        form.Combo8.pick(row.methode);
-      } else {
-        form.MyButton38.click();
-      }
+      byMethod ? form.Combo8.pick(row.methode) : form.MyButton38.click();
       EXPECT_EQ(form.Picture8.visible, row.asked != nullptr);
-      ASSERT_EQ(dialogs.said.size(), row.asked != nullptr ? 1U : 0U) << row.methode << row.age;
+      ASSERT_EQ(dialogs.messages.size(), row.asked != nullptr ? 1U : 0U) << row.methode << row.age;
       if (row.asked == nullptr) continue;
-      EXPECT_THAT(dialogs.said.front().text, HasSubstr(row.asked));
-      EXPECT_THAT(dialogs.said.front().text, HasSubstr("Caluls"));
-      EXPECT_EQ(dialogs.said.front().title, "");
+      EXPECT_THAT(dialogs.messages.front().text, HasSubstr(row.asked));
     }
   }
 }
@@ -320,28 +250,28 @@ TEST_F(HeartRate, AsksForWhatTheMethodNeeds) {
 TEST_F(HeartRate, ShowsTheResultsAndTheBoxesOfTheMethod) {
   load();
   pick(form.Combo7, "40");
-  EXPECT_EQ(form.Combo11.text, "180");
-  EXPECT_THAT((std::vector<std::string>{form.Label50.caption, form.Label52.caption, form.Label53.caption,
-                                        form.Label54.caption, form.Label55.caption, form.Label56.caption,
-                                        form.Label57.caption}),
-              ElementsAre("108 à 126", "90 à 108", "108 à 126", "126 à 153", "153 à 180", "180", "180"));
+  EXPECT_THAT(
+      (std::vector<std::string>{form.Combo11.text, form.Label50.caption, form.Label52.caption,
+                                form.Label53.caption, form.Label54.caption, form.Label55.caption,
+                                form.Label56.caption, form.Label57.caption}),
+      ElementsAre("180", "108 à 126", "90 à 108", "108 à 126", "126 à 153", "153 à 180", "180", "180"));
   form.Combo7.text = "4O";  // no number: the box keeps its text and the labels follow it
   form.Combo12.text = "60";
   form.MyButton38.click();
   EXPECT_EQ(form.Combo11.text, "180");
   EXPECT_EQ(form.Label56.caption, "120");
   form.Combo7.text = "40";
-  const auto shown = [this](int methode) {
+  const auto boxes = [this](int methode) {
     form.Combo8.index = methode;
     return std::vector<bool>{form.Combo7.visible, form.Combo10.visible, form.Combo11.visible,
                              form.Combo12.visible, form.Label62.visible};
   };
-  EXPECT_THAT(shown(1), ElementsAre(true, false, false, false, true));
+  EXPECT_THAT(boxes(1), ElementsAre(true, false, false, false, true));
   EXPECT_EQ(form.Combo11.text, "178");
-  EXPECT_THAT(shown(4), ElementsAre(false, false, false, true, false));
+  EXPECT_THAT(boxes(4), ElementsAre(false, false, false, true, false));
   EXPECT_EQ(form.Combo11.text, "240");
   EXPECT_EQ(form.Label50.caption, "168 à 186");
-  EXPECT_THAT(shown(5), ElementsAre(true, true, true, true, true));
+  EXPECT_THAT(boxes(5), ElementsAre(true, true, true, true, true));
   pick(form.Combo11, "200");
   EXPECT_EQ(form.Label57.caption, "200");
   form.Label57.caption = "as it was";
@@ -373,20 +303,20 @@ TEST_F(HeartRate, CompletesAPickedPercentage) {
     form.Combo7.text = row.age;
     form.Combo12.text = row.rest;
     form.ListView1.setText(2, model::column::heartRate, row.picked);
-    dialogs.said.clear();
+    dialogs.messages.clear();
     form.Picture8.visible = false;
-    calculator->viserCellule(2, row.picked);
-    EXPECT_EQ(targets().at(1), row.cell) << row.methode << row.age << row.rest;
-    EXPECT_EQ(dialogs.said.size(), row.messages) << row.methode << row.age << row.rest;
+    calculator.viserCellule(2, row.picked);
+    EXPECT_EQ(target(2), row.cell) << row.methode << row.age << row.rest;
+    EXPECT_EQ(dialogs.messages.size(), row.messages) << row.methode << row.age << row.rest;
     EXPECT_EQ(form.Picture8.visible, row.messages == 1);
     if (row.messages == 0) continue;
-    const bool ageAlone = row.methode == 2;
-    EXPECT_THAT(dialogs.said.front().text, HasSubstr(ageAlone ? "au moins un (Age)" : "une (FCMaxi)"));
+    EXPECT_THAT(dialogs.messages.front().text,
+                HasSubstr(row.methode == 2 ? "au moins un (Age)" : "une (FCMaxi)"));
   }
   form.Combo7.text = "40";
   form.Combo11.text = " ";
-  calculator->viserCellule(2, "75 %");
-  EXPECT_EQ(targets().at(1), " ");
+  calculator.viserCellule(2, "75 %");
+  EXPECT_EQ(target(2), " ");
 }
 
 TEST_F(HeartRate, RewritesTheColumnForAnotherMethod) {
@@ -394,16 +324,18 @@ TEST_F(HeartRate, RewritesTheColumnForAnotherMethod) {
   fillGrid({"000", "75 %", "1-75 %", "-----", "132- 80 %", "132-100 %", " ", "132X90 %", "7-", "9-5 %"});
   form.Combo7.text = "20";  // the saved age counts
   form.Combo13.index = 3;
-  EXPECT_THAT(targets(), ElementsAre("Fréq./Card.", "000", "134- 75 %", "134- 75 %", "-----", "143- 80 %",
-                                     "179-100 %", " ", "161- 90 %", "161- 90 %", "9-5 %"));
+  std::vector<std::string> targets;
+  for (int row = 1; row <= form.ListView1.rowCount(); ++row) targets.push_back(target(row));
+  EXPECT_THAT(targets, ElementsAre("Fréq./Card.", "000", "134- 75 %", "134- 75 %", "-----", "143- 80 %",
+                                   "179-100 %", " ", "161- 90 %", "161- 90 %", "9-5 %"));
   form.Combo13.index = 5;
-  EXPECT_EQ(targets().at(6), "190-100 %");
-  EXPECT_EQ(targets().at(10), "57-5 %");
+  EXPECT_EQ(target(7), "190-100 %");
+  EXPECT_EQ(target(11), "57-5 %");
   form.Combo7.text = " ";
   form.Combo13.index = 0;
-  EXPECT_EQ(targets().at(6), "190-100 %");
-  ASSERT_EQ(dialogs.said.size(), 1U);
-  EXPECT_THAT(dialogs.said.front().text, HasSubstr("au moins un (Age)"));
+  EXPECT_EQ(target(7), "190-100 %");
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_THAT(dialogs.messages.front().text, HasSubstr("au moins un (Age)"));
   EXPECT_TRUE(form.Picture8.visible);
 }
 
@@ -425,12 +357,13 @@ TEST_F(HeartRate, OpensOverTheGridAndEndsItsEditing) {
 
 TEST_F(HeartRate, ShowsTheTargetInOneModeAtATime) {
   load();
-  for (const int mode : {3, 2, 1}) {
-    modeBox(mode).value = 1;
-    EXPECT_EQ(state.modeAffichageFC, mode);
-    EXPECT_EQ(form.Check1.value + form.Check2.value + form.Check3.value, 1);
-    EXPECT_EQ(modeBox(mode).value, 1);
-  }
+  const auto mode = [this] { return shown().substr(shown().size() - 4); };
+  form.Check3.value = 1;
+  EXPECT_EQ(mode(), "3001");
+  form.Check2.value = 1;
+  EXPECT_EQ(mode(), "2010");
+  form.Check1.value = 1;
+  EXPECT_EQ(mode(), "1100");
   form.Check1.value = 0;
   EXPECT_EQ(state.modeAffichageFC, 1);
 }
@@ -439,7 +372,7 @@ TEST_F(HeartRate, ComputesNothingWithoutAMethodAndAnAge) {
   load();
   form.Combo8.type("none of the list");
   form.MyButton38.click();
-  EXPECT_THAT(dialogs.said, testing::IsEmpty());
+  EXPECT_THAT(dialogs.messages, testing::IsEmpty());
   EXPECT_EQ(form.Label50.caption, "");
   form.Combo8.click();  // falls back on what is saved
   EXPECT_EQ(form.Combo8.index, 0);
@@ -448,23 +381,20 @@ TEST_F(HeartRate, ComputesNothingWithoutAMethodAndAnAge) {
 TEST_F(HeartRate, OffersToSaveOnlyWhatDiffersOnTheLastMethod) {
   load(saved);
   form.MyButton25.click();
+  const auto offered = [this] {
+    advance(600);
+    return std::pair{form.MyButton40.visible.get(), form.MyButton38.visible.get()};
+  };
   form.Combo12.text = "51";
-  watch();
-  EXPECT_TRUE(form.MyButton40.visible);
-  EXPECT_TRUE(form.MyButton38.visible);
+  EXPECT_EQ(offered(), std::pair(true, true));
   form.Combo12.text = " 050 ";
-  watch();
-  EXPECT_FALSE(form.MyButton40.visible);
-  EXPECT_FALSE(form.MyButton38.visible);
+  EXPECT_EQ(offered(), std::pair(false, false));
   form.Combo10.text = "Masculin";
   form.Check1.value = 0;
-  watch();
-  EXPECT_TRUE(form.MyButton40.visible);
-  EXPECT_FALSE(form.MyButton38.visible);  // for good
+  EXPECT_EQ(offered(), std::pair(true, false));  // the second one for good
   EXPECT_EQ(form.Check1.value, 1);
   form.Combo8.index = 1;
-  watch();
-  EXPECT_FALSE(form.MyButton40.visible);
+  EXPECT_EQ(offered(), std::pair(false, false));
 }
 
 TEST_F(HeartRate, AsksBeforeClosingOverChangedFigures) {
@@ -472,26 +402,19 @@ TEST_F(HeartRate, AsksBeforeClosingOverChangedFigures) {
   const auto close = [this](const char* rest, std::deque<Answer> answers) {
     form.MyButton25.click();
     form.Combo12.text = rest;
-    dialogs.said.clear();
+    dialogs.messages.clear();
     dialogs.next = std::move(answers);
     form.Command2.click();
     EXPECT_EQ(form.Timer10.enabled, form.Picture8.visible);
-    return std::tuple{dialogs.said.size(), form.Picture8.visible.get(), disk.files.at(path)->substr(14, 3)};
+    return std::tuple{dialogs.messages.size(), form.Picture8.visible.get(),
+                      memory.files.at(path)->substr(14, 3)};
   };
   form.Combo10.text = "Masculin";
   EXPECT_EQ(close("050", {}), std::tuple(0U, false, "050"));
   EXPECT_EQ(close("70", {Answer::Cancel}), std::tuple(1U, true, "050"));
   EXPECT_EQ(close("70", {Answer::No}), std::tuple(1U, false, "050"));
   EXPECT_EQ(close("70", {Answer::Yes}), std::tuple(1U, false, "70 "));
-  EXPECT_EQ(dialogs.said.front().buttons, platform::MessageButtons::YesNoCancel);
-}
-
-TEST_F(HeartRate, ClosesUntouchedOnANewDisk) {
-  load();
-  form.MyButton25.click();
-  form.Command2.click();
-  EXPECT_FALSE(form.Picture8.visible);
-  EXPECT_THAT(dialogs.said, testing::IsEmpty());
+  EXPECT_EQ(dialogs.messages.front().buttons, platform::MessageButtons::YesNoCancel);
 }
 
 TEST_F(HeartRate, HelpStandsUntilThePointerLeaves) {

@@ -2,7 +2,6 @@
 
 #include "model/numbers.h"
 #include "model/time_value.h"
-#include "model/vocabulary.h"
 #include "model/windows1252.h"
 #include "platform/text.h"
 
@@ -96,17 +95,6 @@ TEST(ModelValues, CodePageRoundTrip) {
   for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
   EXPECT_EQ(toWindows1252(fromWindows1252(all)), all);
   EXPECT_EQ(toWindows1252("é€œ😀日\xFF!"), "\xE9\x80\x9C\?\?\?!");
-}
-
-TEST(ModelValues, ListsHaveTheirLengthsAndLandmarks) {
-  EXPECT_EQ(sequenceKinds().size(), 37U);
-  EXPECT_EQ(cadences().size(), 83U);
-  EXPECT_EQ(cadences().at(3), "10 à 20");
-  EXPECT_EQ(cadences().back(), "150");
-  EXPECT_EQ(chainrings().size(), 36U);
-  EXPECT_EQ(gears().size(), 34U);
-  EXPECT_EQ(repeatCounts().size(), 20U);
-  EXPECT_EQ(targetPercents().at(1) + targetPercents().back(), "50 %100 %");
 }
 
 }  // namespace

@@ -131,19 +131,6 @@ TEST_F(SessionFile, ACountBeyondTheFileGivesEmptyRowsAndDamageIsRefused) {
   EXPECT_EQ(grid_.rowCount(), before);
 }
 
-TEST_F(SessionFile, CutAnywhereItNeverTouchesMoreThanItMay) {
-  const std::string whole = header(3, "2") + warmUp_ + force_;
-  for (std::size_t size = 0; size <= whole.size(); ++size) {
-    put(whole.substr(0, size));
-    grid_.clearRows();
-    grid_.addRow(firstRow());
-    if (!lireEnTete(files_, path_).present()) continue;
-    ajouterSeance(files_, path_, grid_);
-    ASSERT_EQ(grid_.rowCount(), 7) << size;
-    ASSERT_EQ(grid_.text(1, column::sessionName), "Nouvelle Séance");
-  }
-}
-
 TEST_F(SessionFile, AnOldFileIsConvertedInPlace) {
   const auto old = [](const std::string& text) { return text.substr(0, 84); };
   std::string oldHeader = old(header(3, "2"));
