@@ -1,6 +1,6 @@
 // What a ride with music costs: the desktop program rides a session over a piece of music by its own buttons,
 // and a plain player plays the same piece beside it. tools/measure-ride runs it at a sound server and on a
-// screen of its own.
+// screen of its own, in a window of 1920 x 1080.
 //
 //     ventoria-ride-cost SESSION.tq2 MUSIC SECONDS PLAYER [ARGUMENT...]
 #include <QAction>
@@ -83,6 +83,7 @@ int main(int count, char** words) {
   desktop::applyTheme(desktop::ThemeMode::Dark);
   desktop::DesktopProgram program(desktop::fromQt(folder.path()), desktop::ThemeMode::Dark);
   if (!program.start()) return 1;
+  widget<QWidget>("MainForm", "header").window()->resize(1920, 1080);
   ride(program, arguments[1]);
   QProcess player;
   player.start(arguments[4], arguments.mid(5) << arguments[2]);

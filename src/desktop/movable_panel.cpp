@@ -78,6 +78,7 @@ void MovablePanel::putBack() {
   delete home_.replaceWidget(stand_, &panel_);
   delete stand_;
   stand_ = nullptr;
+  panel_.layout()->setContentsMargins({});
   panel_.setMinimumSize(0, 0);
   panel_.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
   setLook(panel_, look_);
@@ -86,6 +87,9 @@ void MovablePanel::putBack() {
 
 void MovablePanel::fit() {
   if (!floating()) return;
+  const int aside = dp(&page_, 16);
+  const int above = dp(&page_, 12);
+  panel_.layout()->setContentsMargins(aside, above, aside, above);
   const int wide = std::min(dp(&page_, floatingWidth), page_.width());
   const int high = panel_.layout()->hasHeightForWidth() ? panel_.layout()->heightForWidth(wide)
                                                         : panel_.layout()->sizeHint().height();
