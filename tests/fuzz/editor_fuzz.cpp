@@ -42,39 +42,32 @@ class Rider {
   }
 
   void act(std::uint8_t what, std::uint8_t a, std::uint8_t b, std::uint8_t c) {
-    switch (what % 16) {
+    switch (std::array{0, 0, 0, 0, 0, 1, 1, 1, 1, 2, 3, 4, 5, 6, 7, 8}.at(what % 16)) {
       case 0:
-      case 1:
-      case 2:
-      case 3:
-      case 4:
         click(a, b, c % 8 == 0);
         break;
-      case 5:
-      case 6:
-      case 7:
-      case 8:
+      case 1:
         pick("Combo1", a + 256 * b);
         break;
-      case 9:
+      case 2:
         pick(std::array{"Combo2", "Combo3", "Combo4"}.at(a % 3), b);
         break;
-      case 10:
+      case 3:
         run("type CreerCycle.Combo1 \"" + std::string(typed.at(a % typed.size())) + "\"");
         break;
-      case 11:
+      case 4:
         run("advance " + std::string(waits.at(a % waits.size())));
         break;
-      case 12:
+      case 5:
         if (a % 2 == 0)
           save(b % 3);
         else
           load(b % 3, c % 2 == 0);
         break;
-      case 13:
+      case 6:
         handOver(a % 2 == 0);
         break;
-      case 14:
+      case 7:
         finishLastRow(a, b, c);
         break;
       default:

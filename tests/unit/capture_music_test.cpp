@@ -191,4 +191,12 @@ TEST_F(MusicRide, PlaysOnUnderTheVoiceInTheOtherMode) {
   EXPECT_TRUE(program.screens().main.MyButton19.visible);
 }
 
+TEST_F(Library, LeavingItWithAnEmptyListUnloadsThePage) {
+  program.run("press EnrUneAnnonce.MyButton9");
+  EXPECT_FALSE(form.loaded());
+  program.memory.put("/d/ambiances/late.mp3", piece(3));
+  program.run("press MainForm.mnEnrAnnVocale");
+  EXPECT_EQ(form.File1.lines().size(), 4U);
+}
+
 }  // namespace

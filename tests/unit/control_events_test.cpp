@@ -2,26 +2,21 @@
 
 #include "platform/controls.h"
 #include "platform/grid.h"
-#include "platform/menu.h"
 
 namespace {
 
 using namespace platform;
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 struct Sample : Form {
   Sample() : Form("Sample") { visible = true; }
-  Frame outer{*this, "outer"};
-  Frame inner{*this, "inner", "", {.in = &outer}};
-  Button button{*this, "button", "Start", {.in = &inner}};
+  Button button{*this, "button", "Start"};
   CheckBox check{*this, "check"};
   Option option{*this, "option"};
   ComboBox combo{*this, "combo"};
   ScrollBar bar{*this, "bar", {100, 0}, 50};
   TextBox box{*this, "box"};
   Grid grid{*this, "grid"};
-  FileList list{*this, "list", "*.mp3;*.wma"};
 };
 
 // Which write from code raises which event, and only on a change: the whole table at once.
@@ -83,29 +78,6 @@ TEST(ControlEvents, WatchersHearRealChangesAfterTheWrite) {
   EXPECT_THAT(heard, ElementsAre("caption=Stop", "colour=1,2,3", "enabled=0"));
 }
 
-TEST(ControlEvents, TheRiderSeesAndReachesThroughEveryContainer) {
-  Sample form;
-  EXPECT_TRUE(canBeSeen(form.button));
-  form.outer.visible = false;
-  EXPECT_FALSE(canBeSeen(form.button));
-  form.outer.visible = true;
-  form.outer.enabled = false;
-  EXPECT_FALSE(isEnabled(form.button));
-  form.visible = false;
-  EXPECT_FALSE(canBeSeen(form.check));
-}
-
-TEST(ControlEvents, AnUnknownNameListsTheNearOnes) {
-  const Sample form;
-  EXPECT_EQ(&form.find("combo"), &form.combo);
-  try {
-    (void)form.find("comboo");
-    FAIL();
-  } catch (const std::out_of_range& error) {
-    EXPECT_THAT(error.what(), HasSubstr("near: combo"));
-  }
-}
-
 TEST(ControlEvents, TheGridKeepsItsSelectionOnTheRow) {
   Sample form;
   Grid& grid = form.grid;
@@ -128,17 +100,6 @@ TEST(ControlEvents, TheGridKeepsItsSelectionOnTheRow) {
   EXPECT_EQ(grid.selectedRow(), 0);
   EXPECT_EQ(grid.columnLeft(3), 100);
   EXPECT_EQ(grid.text(0, 1) + grid.text(9, 9), "");
-}
-
-TEST(ControlEvents, AFileListKeepsToItsPatterns) {
-  Sample form;
-  form.list.readThrough([](const std::string&) {
-    return std::vector<std::string>{"a.MP3", "b.txt", "c.wma", "mp3", "été.mp3"};
-  });
-  form.list.path = "/music";
-  EXPECT_THAT(form.list.lines(), ElementsAre("a.MP3", "c.wma", "été.mp3"));
-  form.list.pattern = "*.wav*";
-  EXPECT_TRUE(form.list.lines().empty());
 }
 
 }  // namespace

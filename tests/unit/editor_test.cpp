@@ -25,8 +25,8 @@ struct Editor : testing::Test {
 };
 
 TEST_F(Editor, GoesWithItsRowAndEndsWhereAnotherIsSelected) {
-  for (const auto& [col, box] : {std::pair<const char*, platform::Control*>{"5", &form.Combo1},
-                                 {"10", &form.Picture2}}) {
+  for (const auto& [col, box] :
+       {std::pair<const char*, platform::Control*>{"5", &form.Combo1}, {"10", &form.Picture2}}) {
     program.run(std::string("cell CreerCycle.ListView1 2 ") + col);
     for (const auto& [first, shown] : {std::pair{3, false}, {1, true}}) {
       form.ListView1.setVisibleRows(first, 9);
@@ -46,7 +46,8 @@ TEST_F(Editor, AFullDiskAtAnyWriteKeepsTheListAndTellsWhatIsLost) {
     if (replacing) program.memory.put("/d/chronodat/a.tq2", "9" + std::string(1349, ' '));
     for (const int write : {1, 2, 3}) {
       program.disk.failFrom(Call::Write, write);
-      EXPECT_THAT(program.run(save), testing::HasSubstr(replacing ? "en partie remplacée" : "disque insuffisant"));
+      EXPECT_THAT(program.run(save),
+                  testing::HasSubstr(replacing ? "en partie remplacée" : "disque insuffisant"));
       EXPECT_EQ(program.list().rowCount(), 3);
       EXPECT_EQ(model::lireEnTete(program.memory, "/d/chronodat/a.tq2").nbEnreg, replacing ? 9 : 0);
     }

@@ -8,7 +8,7 @@
 #include "player/fourcc_table.h"
 #include "player/medium.h"
 #include "player/placement.h"
-#include "support/memory_file_system.h"
+#include "support/rig.h"
 
 namespace {
 
@@ -128,18 +128,9 @@ TEST(Placement, FitsIntoTheBox) {
   }
 }
 
-struct Said final : platform::Dialogs {
-  std::vector<std::string> texts;
-  platform::Answer message(const platform::Message& message) override {
-    texts.push_back(message.title + "|" + message.text);
-    return platform::Answer::Ok;
-  }
-  std::vector<std::string> chooseFiles(const platform::FileRequest&) override { return {}; }
-};
-
 TEST(FourccTable, TellsWhatACodeStandsFor) {
   support::MemoryFileSystem disk;
-  Said said;
+  support::RecordedDialogs said;
   player::FourccTable table(disk, said);
   table.chargerFourcc("/d/");
   table.montrerFourcc("DIV");
@@ -148,10 +139,12 @@ TEST(FourccTable, TellsWhatACodeStandsFor) {
   table.chargerFourcc("/d/");
   table.montrerFourcc("DIVX [640x480]");
   table.montrerFourcc("XVID");
-  EXPECT_EQ(said.texts, (std::vector<std::string>{
-                            "FourCC information|Code FOURCC inconnu.",
-                            "Information FourCC|Code : DIVX\nNom complet : DivX été\nCréateur : DivX Inc",
-                            "FourCC information|Code FOURCC inconnu."}));
+  std::string all;
+  for (const platform::Message& one : said.messages) all += one.title + "|" + one.text + "\n";
+  EXPECT_EQ(all,
+            "FourCC information|Code FOURCC inconnu.\n"
+            "Information FourCC|Code : DIVX\nNom complet : DivX été\nCréateur : DivX Inc\n"
+            "FourCC information|Code FOURCC inconnu.\n");
 }
 
 }  // namespace

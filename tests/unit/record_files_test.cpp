@@ -4,13 +4,11 @@
 #include "model/grid_rows.h"
 #include "model/session_file.h"
 #include "model/settings_file.h"
-#include "support/faulty_file_system.h"
 #include "support/memory_file_system.h"
 
 namespace {
 
 using namespace model;
-using support::FaultyFileSystem;
 using support::MemoryFileSystem;
 using testing::ElementsAre;
 
@@ -77,14 +75,6 @@ TEST_F(SessionFile, OverwritesInPlaceAndCutsLongValues) {
   grid_.clearRows();
   ajouterSeance(files_, path_, grid_);
   EXPECT_THAT(column(column::sequence), ElementsAre("Annonce Vocale"));
-}
-
-TEST_F(SessionFile, AFullDiskLeavesNoValidCount) {
-  FaultyFileSystem faulty(files_);
-  faulty.failFrom(FaultyFileSystem::Call::Write, 2);
-  grid_.addRow(loadedRow(2, "a", {"Plat", "60", "53", "17", "00:10:00", "", "000"}));
-  EXPECT_THROW(ecrireSeance(faulty, path_, grid_), platform::FileFault);
-  EXPECT_FALSE(lireEnTete(files_, path_).present());
 }
 
 TEST_F(SessionFile, RepeatsUnrollWithTheirClosingRows) {

@@ -45,26 +45,6 @@ TEST(Start, MakesItsFoldersAndTellsWhereOneCannotBeMade) {
               testing::UnorderedElementsAre("/d", "/d/chronodat", "/d/annonces", "/d/ambiances", "/d/Vid"));
 }
 
-TEST(Saving, AFullDiskKeepsTheListAndSaysWhichFile) {
-  for (int write = 1; write <= 3; ++write) {
-    SimulatedProgram program;
-    ASSERT_TRUE(program.start());
-    program.run(composeTwoRows);
-    program.disk.failFrom(FaultyFileSystem::Call::Write, write);
-    const std::string said =
-        program.run("journal\nanswer Matin.tq2\npress CreerCycle.Command6\njournal dialog");
-    EXPECT_THAT(said, HasSubstr("Impossible d'écrire dans « /d/chronodat/Matin.tq2 »"));
-    EXPECT_THAT(said, HasSubstr("La liste est restée telle quelle"));
-    EXPECT_EQ(program.list().rowCount(), 3);
-    program.disk.heal();
-    program.run("answer Matin.tq2\nanswer ok\npress CreerCycle.Command6");
-    EXPECT_EQ(program.list().rowCount(), 2);
-    EXPECT_EQ(program.memory.files.at("/d/chronodat/Matin.tq2")->size(), 450U);
-    program.run("answer Matin.tq2\npress CreerCycle.MyButton4\nexpect CreerCycle.ListView1 3");
-    EXPECT_EQ(program.status(), 0);
-  }
-}
-
 TEST(Settings, AFullDiskKeepsTheBoxesAndTheLengthOfTheCountdown) {
   SimulatedProgram program;
   ASSERT_TRUE(program.start());
