@@ -197,6 +197,7 @@ TEST_F(Library, LeavingItWithAnEmptyListUnloadsThePage) {
   program.memory.put("/d/ambiances/late.mp3", piece(3));
   program.run("press MainForm.mnEnrAnnVocale");
   EXPECT_EQ(form.File1.lines().size(), 4U);
+  EXPECT_TRUE(form.Timer2.enabled);
 }
 
 }  // namespace

@@ -10,7 +10,9 @@ using testing::ElementsAre;
 
 struct Sample : Form {
   Sample() : Form("Sample") { visible = true; }
-  Button button{*this, "button", "Start"};
+  Frame outer{*this, "outer"};
+  Frame inner{*this, "inner", "", {.in = &outer}};
+  Button button{*this, "button", "Start", {.in = &inner}};
   CheckBox check{*this, "check"};
   Option option{*this, "option"};
   ComboBox combo{*this, "combo"};
@@ -76,6 +78,13 @@ TEST(ControlEvents, WatchersHearRealChangesAfterTheWrite) {
   form.button.colour = Colour::rgb(1, 2, 3);
   form.button.enabled = false;
   EXPECT_THAT(heard, ElementsAre("caption=Stop", "colour=1,2,3", "enabled=0"));
+}
+
+TEST(ControlEvents, TheRiderSeesAndReachesThroughEveryContainer) {
+  Sample form;
+  EXPECT_TRUE(canBeSeen(form.button) && isEnabled(form.button));
+  form.outer.visible = form.outer.enabled = false;
+  EXPECT_FALSE(canBeSeen(form.button) || isEnabled(form.button));
 }
 
 TEST(ControlEvents, TheGridKeepsItsSelectionOnTheRow) {

@@ -1,11 +1,8 @@
-#include <gmock/gmock.h>
-
-#include <sstream>
+#include <gtest/gtest.h>
 
 #include "console/arguments.h"
 #include "console/escaping.h"
 #include "console/options.h"
-#include "console/scripted_dialogs.h"
 #include "console/wav_length.h"
 #include "platform/text.h"
 
@@ -15,8 +12,6 @@ using namespace std::chrono_literals;
 using console::Arguments;
 using console::CommandError;
 using console::SoundMode;
-using platform::MessageButtons;
-using testing::ElementsAre;
 
 TEST(ConsoleTextTest, TakesTheLastTextToTheEndOfTheLine) {
   const struct {
@@ -70,65 +65,6 @@ TEST(ConsoleOptionsTest, UnderstandsTheCommandLine) {
     EXPECT_THROW(static_cast<void>(console::parseOptions(platform::split(bad, '|'))), console::UsageError)
         << bad;
   }
-}
-
-class ConsoleDevicesTest : public testing::Test {
- protected:
-  std::string journal(std::string_view kind = {}) {
-    std::ostringstream out;
-    journal_.print(out, kind);
-    return out.str();
-  }
-
-  platform::SimulatedClock clock_{platform::LocalTime{}};
-  console::Journal journal_{clock_};
-};
-
-TEST_F(ConsoleDevicesTest, MessagesTakeTheQueuedAnswerThatTheyOffer) {
-  const struct {
-    const char* queued;
-    MessageButtons buttons;
-    platform::Answer given;
-    bool misfit;
-  } cases[]{{"", MessageButtons::Ok, platform::Answer::Ok, false},
-            {"", MessageButtons::OkCancel, platform::Answer::Cancel, false},
-            {"", MessageButtons::YesNoCancel, platform::Answer::Cancel, false},
-            {"ok", MessageButtons::OkCancel, platform::Answer::Ok, false},
-            {"no", MessageButtons::YesNoCancel, platform::Answer::No, false},
-            {"yes", MessageButtons::OkCancel, platform::Answer::Cancel, true},
-            {"a.tq2", MessageButtons::Ok, platform::Answer::Ok, true}};
-  for (const auto& [queued, buttons, given, misfit] : cases) {
-    console::ScriptedDialogs dialogs(journal_);
-    bool told = false;
-    dialogs.onMisfit([&](const std::string&) { told = true; });
-    if (*queued != 0) dialogs.queue(queued);
-    EXPECT_EQ(dialogs.message({platform::MessageKind::Information, buttons, "T", "x"}), given) << queued;
-    EXPECT_EQ(told, misfit) << queued;
-  }
-}
-
-TEST_F(ConsoleDevicesTest, FileDialogsTakePathsFromTheirFolder) {
-  using platform::FilePurpose;
-  const struct {
-    FilePurpose purpose;
-    const char* queued;
-    std::vector<std::string> chosen;
-  } cases[]{{FilePurpose::Open, "", {}},
-            {FilePurpose::Open, "cancel", {}},
-            {FilePurpose::Open, "ok", {}},
-            {FilePurpose::Open, "a b.tq2", {"/f/a b.tq2"}},
-            {FilePurpose::Open, "../x", {"/x"}},
-            {FilePurpose::Save, "new", {"/f/new.tq2"}},
-            {FilePurpose::Save, "/e/new.txt", {"/e/new.txt"}},
-            {FilePurpose::Save, "ok", {"/f/Proposed.tq2"}},
-            {FilePurpose::Folder, "/e", {"/e"}},
-            {FilePurpose::OpenSeveral, "a.mp3|/e/b.mp3", {"/f/a.mp3", "/e/b.mp3"}}};
-  for (const auto& [purpose, queued, chosen] : cases) {
-    console::ScriptedDialogs dialogs(journal_);
-    if (*queued != 0) dialogs.queue(queued);
-    EXPECT_EQ(dialogs.chooseFiles({purpose, "", "/f", "Fichiers|*.tq2", "Proposed"}), chosen) << queued;
-  }
-  EXPECT_THAT(journal(), testing::HasSubstr("0.000\tdialog\tsave\t\tProposed\tnew\n"));
 }
 
 TEST(WavLengthTest, CountsFramesByCoding) {
