@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
+#include <QTextDocument>
 #include <QTimer>
 #include <algorithm>
 #include <stdexcept>
@@ -77,6 +78,11 @@ QList<QWidget*> widgetsNamed(const QWidget& page, const std::string& name) {
   QList<QWidget*> found = page.findChildren<QWidget*>(toQt(name));
   if (page.objectName() == toQt(name)) found.append(const_cast<QWidget*>(&page));
   return found;
+}
+
+// A rider's text that looks like markup is none.
+QString plainTip(const QString& text) {
+  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 // An ampersand in a text would be taken for a shortcut's mark.
@@ -284,7 +290,7 @@ void Binder::show(const Component& component, Prop prop, QWidget& widget) {
       widget.setEnabled(control.enabled);
       break;
     case Prop::ToolTip:
-      widget.setToolTip(toQt(control.toolTip.get()));
+      widget.setToolTip(plainTip(toQt(control.toolTip.get())));
       if (component.kind() == ControlKind::Image && !control.toolTip.get().empty()) {
         widget.setAccessibleName(toQt(control.toolTip.get()));
       }

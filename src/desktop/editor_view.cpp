@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "model/grid_rows.h"
@@ -35,9 +36,11 @@ QRect within(QRect rect, const QSize& room) {
 EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
     : form_(form), ui_(std::make_unique<Ui::CreerCycle>()), page_(page), binder_(binder) {
   ui_->setupUi(&page);
+  // Beside the list, not in it: what is inside a list is nothing but cells to somebody who does not see it.
   for (auto* floating : std::initializer_list<QWidget*>{ui_->Navette, ui_->Combo1, ui_->Picture2,
                                                         ui_->Combo13, ui_->Picture1}) {
-    floating->setParent(ui_->ListView1->viewport());
+    floating->setParent(ui_->MyFrame2);
+    floating->setProperty("over", QStringLiteral("list"));
   }
   ui_->Navette->setAttribute(Qt::WA_TransparentForMouseEvents);
   ui_->Picture1->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -60,7 +63,6 @@ EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
   });
   ui_->editorProfile->setClickable(true);
 
-  tieKeyboard();
   help_ = new MovablePanel(*ui_->Picture3, *ui_->hintRow, page);
 
   pending_.setSingleShot(true);
@@ -81,13 +83,17 @@ void EditorView::speak(const QString& text) {
   ui_->editorPrompt->setVisible(!text.isEmpty());
 }
 
-void EditorView::tieKeyboard() {
+void EditorView::whenBound() {
   connect(ui_->ListView1, &GridTable::cellOpened, this, &EditorView::focusCellEditor);
   connect(ui_->ListView1, &GridTable::deletionAsked, this,
           [this](int row) { ui_->ListView1->pressRight(row, model::column::deleteMark); });
   for (QComboBox* box : {ui_->Combo1, ui_->Combo2, ui_->Combo3, ui_->Combo4, ui_->Combo13}) {
     box->installEventFilter(this);
   }
+  for (QComboBox* box : {ui_->Combo2, ui_->Combo3, ui_->Combo4}) {
+    connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::enterDuration);
+  }
+  ui_->Combo6->lineEdit()->setPlaceholderText(ui_->Combo6->accessibleName());
 }
 
 void EditorView::focusCellEditor() {
@@ -96,13 +102,17 @@ void EditorView::focusCellEditor() {
     if (!box->isVisible()) continue;
     box->setFocus(Qt::OtherFocusReason);
     if (box != ui_->Combo2) box->showPopup();
-    break;
+    return;
   }
-  // A duration is written as it is picked: Enter only ends its editing.
-  for (QComboBox* box : {ui_->Combo2, ui_->Combo3, ui_->Combo4}) {
-    connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::leaveCellEditor,
-            Qt::UniqueConnection);
-  }
+}
+
+// A duration is written as it is picked; a number that was typed is a pick, too.
+void EditorView::enterDuration() {
+  const auto* box = qobject_cast<const QComboBox*>(sender()->parent());
+  const int line = box->findText(box->currentText().rightJustified(2, QLatin1Char('0')));
+  auto& control = dynamic_cast<platform::ComboBox&>(form_.find(fromQt(box->objectName())));
+  if (line >= 0) binder_.run([&control, line] { control.pick(line); });
+  leaveCellEditor();
 }
 
 void EditorView::leaveCellEditor() {
@@ -136,6 +146,9 @@ void EditorView::refresh() {
   refreshFilms();
   refreshProfile();
   refreshCalculator();
+  // White is for a refusal; the rest is a tip.
+  const bool refusal = form_.Label4.colour == platform::Colour::rgb(255, 255, 255);
+  setLook(*ui_->Label4, refusal ? QStringLiteral("badge") : QStringLiteral("tip"));
   placeFloating();
   // A cell editor that has gone hands the keyboard back to the list.
   const bool editing = form_.Combo1.visible || form_.Picture2.visible || form_.Combo13.visible;
@@ -145,9 +158,6 @@ void EditorView::refresh() {
 // A narrow box in the header, with a list as wide as its titles.
 void EditorView::refreshFilms() {
   ui_->filmsBox->setVisible(!form_.Combo6.lines().empty());
-  if (ui_->Combo6->lineEdit() != nullptr) {
-    ui_->Combo6->lineEdit()->setPlaceholderText(ui_->Combo6->accessibleName());
-  }
   QAbstractItemView& titles = *ui_->Combo6->view();
   titles.setMinimumWidth(titles.sizeHintForColumn(0) + dp(&titles, 24));
 }
@@ -155,13 +165,14 @@ void EditorView::refreshFilms() {
 void EditorView::placeFloating() {
   const GridTable& table = *ui_->ListView1;
   const QSize room = table.viewport()->size();
+  const QPoint corner = table.viewport()->mapTo(ui_->MyFrame2, QPoint(0, 0));
   const int row = form_.ListView1.selectedRow();
   const QRect cell = table.cellRect(row, table.pressedColumn());
   const auto put = [&](QWidget& widget, const QRect& over, int least) {
     QSize size(std::max(over.width(), least), std::max(over.height(), widget.minimumSizeHint().height()));
     QRect place(QPoint(0, 0), size);
     place.moveCenter(over.center());
-    widget.setGeometry(within(place, room));
+    widget.setGeometry(within(place, room).translated(corner));
     widget.raise();
   };
   // A grid that is not on the screen yet has no cells to lay anything over.
@@ -173,7 +184,7 @@ void EditorView::placeFloating() {
   const QRect badge = table.cellRect(table.pressedRow(), table.pressedColumn());
   if (!badge.isNull()) put(*ui_->Picture1, badge, ui_->Picture1->sizeHint().width());
   const QRect pointed = table.cellRect(form_.ListView1.pointedRow(), form_.ListView1.pointedColumn());
-  if (!pointed.isNull()) ui_->Navette->setGeometry(pointed.adjusted(1, 1, -1, -1));
+  if (!pointed.isNull()) ui_->Navette->setGeometry(pointed.adjusted(1, 1, -1, -1).translated(corner));
 }
 
 void EditorView::refreshProfile() {

@@ -21,6 +21,8 @@ class EditorView final : public QObject {
  public:
   EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder);
   ~EditorView() override;
+  // The page's widgets are tied to the form.
+  void whenBound();
   void speak(const QString& text);
   void refresh();
   // The window has another scale.
@@ -32,8 +34,8 @@ class EditorView final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void tieKeyboard();
   void focusCellEditor();
+  void enterDuration();
   void leaveCellEditor();
   void placeFloating();
   void refreshFilms();

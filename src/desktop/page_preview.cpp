@@ -65,6 +65,16 @@ void PagePreview::resizeEvent(QResizeEvent* event) {
   layOut();
 }
 
+void PagePreview::focusInEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusInEvent(event);
+  viewport()->update();
+}
+
+void PagePreview::focusOutEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusOutEvent(event);
+  viewport()->update();
+}
+
 void PagePreview::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   painter.setRenderHint(QPainter::Antialiasing);
@@ -88,6 +98,9 @@ void PagePreview::paintEvent(QPaintEvent*) {
               page, coloured_);
     painter.restore();
   }
+  if (!hasFocus()) return;
+  painter.setPen(QPen(QGuiApplication::palette().color(role::accent), 2));
+  painter.drawRoundedRect(viewport()->rect().adjusted(1, 1, -1, -1), dp(this, 8), dp(this, 8));
 }
 
 }  // namespace desktop

@@ -17,6 +17,8 @@ class PagePreview final : public QAbstractScrollArea {
 
  protected:
   void paintEvent(QPaintEvent*) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -46,6 +46,7 @@ Windows::Windows(app::Program& program, ThemeMode mode)
     window_.addPage(page);
     followForm(*form, *page);
   }
+  editorView_->whenBound();
   connect(&window_, &MainWindow::rescaled, this, [this] {
     editorView_->rescale();
     announceView_->rescale();

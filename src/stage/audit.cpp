@@ -11,12 +11,15 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QSet>
 #include <QToolButton>
 #include <array>
+#include <utility>
 
 #include "desktop/chronometer.h"
 #include "desktop/elided_label.h"
 #include "desktop/fit_label.h"
+#include "desktop/grid_table.h"
 #include "desktop/picture.h"
 #include "desktop/qt_text.h"
 #include "desktop/step_button.h"
@@ -34,10 +37,11 @@ constexpr int rounding = 2;  // what a scaled margin may lose
 
 class Audit {
  public:
-  Audit(const platform::Form& form, QWidget& window, const QImage& picture)
-      : form_(form), window_(window), picture_(picture) {}
+  Audit(const platform::Form& form, QWidget& window, QImage picture)
+      : form_(form), window_(window), picture_(std::move(picture)) {}
 
   QStringList faults() {
+    walk(QAccessible::queryAccessibleInterface(&window_));
     for (QWidget* widget : window_.findChildren<QWidget*>()) {
       if (isControl(*widget) && widget->isVisible() && !isCovered(*widget)) look(*widget);
     }
@@ -63,6 +67,15 @@ class Audit {
                    what;
   }
 
+  // The tree as somebody meets it who does not see the screen.
+  void walk(QAccessibleInterface* face) {
+    if (face == nullptr || face->state().invisible) return;
+    if (face->object() != nullptr) told_.insert(face->object());
+    // The cells of a list are its texts.
+    if (face->role() == QAccessible::Table || face->role() == QAccessible::List) return;
+    for (int i = 0; i < face->childCount(); ++i) walk(face->child(i));
+  }
+
   void look(QWidget& widget) {
     checkPlace(widget);
     checkOverlap(widget);
@@ -84,7 +97,15 @@ class Audit {
     const QWidget* top = window_.childAt(at);
     const bool own =
         top == nullptr || top == &widget || widget.isAncestorOf(top) || top->isAncestorOf(&widget);
-    return own ? nullptr : top;
+    return own || isEditorOf(widget, *top) ? nullptr : top;
+  }
+  // A list's cell editors lie over it.
+  static bool isEditorOf(const QWidget& widget, const QWidget& top) {
+    if (qobject_cast<const desktop::GridTable*>(&widget) == nullptr) return false;
+    for (const QWidget* over = &top; over != nullptr; over = over->parentWidget()) {
+      if (over->property("over").toString() == QLatin1String("list")) return true;
+    }
+    return false;
   }
   // A page that lies over another one hides all of it; a panel is there to lie over what it is about.
   [[nodiscard]] bool isCovered(const QWidget& widget) const {
@@ -153,6 +174,7 @@ class Audit {
   }
 
   void checkName(QWidget& widget) {
+    if (!told_.contains(&widget)) fault(widget, QStringLiteral("is not in the accessibility tree"));
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
     if (face == nullptr || face->role() == QAccessible::NoRole || face->role() == QAccessible::Client) {
       fault(widget, QStringLiteral("has no role"));
@@ -184,16 +206,38 @@ class Audit {
     return false;
   }
 
-  void checkContrast(const QWidget& widget) {
+  // What the strongest ink makes out there, inside the window.
+  [[nodiscard]] double inkIn(const QRect& place) const {
     const double ratio = picture_.devicePixelRatio();
-    if (!widget.isEnabled() || widget.fontMetrics().height() * ratio < solidInk) return;
-    const QRectF place(widget.mapTo(&window_, QPoint(0, 0)), widget.size());
-    const QRect pixels = QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect();
+    const QRectF exact(place);
+    return inkContrast(picture_, QRectF(exact.topLeft() * ratio, exact.size() * ratio).toAlignedRect());
+  }
+
+  void checkCells(const desktop::GridTable& table) {
+    const QPoint corner = table.viewport()->mapTo(&window_, QPoint(0, 0));
+    for (int row = 0; row < table.model()->rowCount(); ++row) {
+      for (int column = 0; column < table.model()->columnCount(); ++column) {
+        const QModelIndex index = table.model()->index(row, column);
+        const QRect cell = table.visualRect(index);
+        const bool seen = table.viewport()->rect().contains(cell) && !cell.isEmpty();
+        if (!seen || index.data().toString().trimmed().isEmpty()) continue;
+        const QWidget* top = window_.childAt(corner + cell.center());
+        if (top != table.viewport()) continue;  // its editor lies over it
+        const double found = inkIn(cell.translated(corner));
+        if (found >= readable) continue;
+        fault(table, QStringLiteral("has a contrast of %1 in row %2").arg(found, 0, 'f', 1).arg(row + 1));
+        return;
+      }
+    }
+  }
+  void checkContrast(const QWidget& widget) {
+    if (!widget.isEnabled() || widget.fontMetrics().height() * picture_.devicePixelRatio() < solidInk) return;
+    if (const auto* table = qobject_cast<const desktop::GridTable*>(&widget)) checkCells(*table);
     const bool drawn = qobject_cast<const desktop::Picture*>(&widget) != nullptr ||
                        qobject_cast<const desktop::PictureButton*>(&widget) != nullptr;
     const bool written = !widget.property("text").toString().trimmed().isEmpty();
     if (!drawn && !written) return;
-    const double found = inkContrast(picture_, pixels);
+    const double found = inkIn(QRect(widget.mapTo(&window_, QPoint(0, 0)), widget.size()));
     const bool large = qobject_cast<const desktop::ChronoDigits*>(&widget) != nullptr;
     if (found < (drawn || large ? visible : readable)) {
       fault(widget, QStringLiteral("has a contrast of %1").arg(found, 0, 'f', 1));
@@ -202,14 +246,15 @@ class Audit {
 
   const platform::Form& form_;
   QWidget& window_;
-  const QImage& picture_;
+  const QImage picture_;  // 32 bits a pixel
   QStringList faults_;
+  QSet<const QObject*> told_;  // what the accessibility tree holds
 };
 
 }  // namespace
 
 QStringList faultsOf(const platform::Form& form, QWidget& window, const QImage& picture) {
-  return Audit(form, window, picture).faults();
+  return Audit(form, window, picture.convertToFormat(QImage::Format_RGB32)).faults();
 }
 
 }  // namespace stage

@@ -6,7 +6,8 @@
 namespace stage {
 
 [[nodiscard]] double contrast(const QColor& a, const QColor& b);
-// Of the strongest ink in that part of a picture, against the colour that fills most of it.
+// Of the strongest ink in that part of a picture of 32 bits a pixel, against the colour that fills most of
+// it.
 [[nodiscard]] double inkContrast(const QImage& picture, const QRect& area);
 
 }  // namespace stage

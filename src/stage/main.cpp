@@ -1,8 +1,6 @@
 // ventoria-stage: the console's commands over the desktop's real windows, with the console's simulated
 // devices and clock, and pictures of what stands there.
 #include <QApplication>
-#include <QMenu>
-#include <QPainter>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -14,7 +12,7 @@
 #include "desktop/theme.h"
 #include "desktop/windows.h"
 #include "platform/program_folder.h"
-#include "stage/audit.h"
+#include "stage/camera.h"
 #include "stage/widget_hands.h"
 
 namespace {
@@ -46,25 +44,6 @@ StageOptions parse(std::vector<std::string> words) {
   return options;
 }
 
-// Writes the picture, and returns what the audit finds in it.
-QStringList capture(desktop::Windows& windows, const platform::Form& form, const std::string& path) {
-  QWidget* window = windows.windowOf(form);
-  if (window == nullptr) throw console::CommandError(form.name() + " has no window");
-  windows.refresh();
-  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
-  QPixmap picture = window->grab();
-  const QStringList faults = stage::faultsOf(form, *window, picture.toImage());
-  QPainter painter(&picture);
-  for (QWidget* menu : QApplication::topLevelWidgets()) {
-    if (qobject_cast<QMenu*>(menu) == nullptr || !menu->isVisible()) continue;
-    const QVariant place = menu->property("place");  // the platform without a screen is a small one
-    painter.drawPixmap((place.isValid() ? place.toPoint() : menu->pos()) - window->pos(), menu->grab());
-  }
-  painter.end();
-  if (!picture.save(desktop::toQt(path))) throw console::CommandError("cannot write " + path);
-  return faults;
-}
-
 int run(const StageOptions& options) {
   std::ifstream script;
   if (!options.console.script.empty()) {
@@ -80,18 +59,10 @@ int run(const StageOptions& options) {
   windows.onTake([&](const std::string& path) { session.saveTake(path); });
   hands.attach(windows);
   windows.binder().onPopUp([&](const platform::MenuItem& root) { session.interpreter().menuOpened(root); });
-  bool faulty = false;
+  stage::Camera camera(windows, options.check);
   session.interpreter().add("capture", [&](console::Arguments& arguments) {
     const std::string name = arguments.word("FORM");
-    const std::string path = arguments.text();
-    for (const QString& fault :
-         capture(windows, console::findForm(session.program().screens(), name), path)) {
-      if (options.check) {
-        faulty = true;
-        std::cout << std::filesystem::path(path).filename().string() << ": " << desktop::fromQt(fault)
-                  << '\n';
-      }
-    }
+    camera.take(console::findForm(session.program().screens(), name), arguments.text());
   });
   // What a voice would say just then: the simulated one has spoken before anybody can look.
   session.interpreter().add(
@@ -100,7 +71,7 @@ int run(const StageOptions& options) {
   windows.window().show();
   QCoreApplication::processEvents();
   const int status = session.run(script.is_open() ? script : std::cin, std::cerr);
-  return faulty && status == 0 ? 1 : status;
+  return camera.foundFaults() && status == 0 ? 1 : status;
 }
 
 }  // namespace

@@ -125,6 +125,32 @@ TEST_F(ScreensTest, ATickPaintsOnlyWhatChanges) {
   }
 }
 
+TEST_F(ScreensTest, WhatHasTheKeyboardShowsIt) {
+  screens_.main.MyButton5.click();
+  program_.run("advance 2");
+  for (platform::Form* form :
+       std::initializer_list<platform::Form*>{&screens_.editor, &screens_.announcements, &screens_.volume,
+                                              &screens_.print, &screens_.films, &screens_.main}) {
+    form->show();
+    settle();
+    QWidget& page = *windows_->page(*form);
+    page.window()->activateWindow();
+    for (QWidget* widget : page.findChildren<QWidget*>()) {
+      const bool takesKeys = widget->isVisible() && widget->isEnabled() &&
+                             (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr;
+      if (!takesKeys || widget->objectName().isEmpty()) continue;
+      page.setFocus();
+      settle();
+      const QImage before = widget->grab().toImage();
+      widget->setFocus();
+      settle();
+      if (!widget->hasFocus()) continue;
+      EXPECT_NE(widget->grab().toImage(), before)
+          << form->name() << '.' << widget->objectName().toStdString();
+    }
+  }
+}
+
 TEST_F(ScreensTest, TheHelpIsPulledOutOfItsRowAndPutBack) {
   screens_.main.MyButton5.click();
   settle();
