@@ -1,4 +1,4 @@
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "console/media_length.h"
 #include "console/simulated_media.h"
@@ -10,7 +10,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using platform::MediaFigure;
-using testing::ElementsAre;
 
 // Writes each call down as one line, and answers 7.
 class CallList final : public platform::MediaBackend {

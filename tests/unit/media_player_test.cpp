@@ -6,9 +6,7 @@
 namespace {
 
 using support::SimulatedProgram;
-using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
 
 const std::string noPiece = "dialog\tmessage\tVentoria\tAucune Musique d'Ambiance Sélectionnée...\tok\n";
 
