@@ -80,7 +80,6 @@ int main(int count, char** words) {
 
   constexpr int untilItRuns = 30000;  // ms: the countdown and the first words
   const int seconds = arguments[3].toInt();
-  desktop::applyTheme(desktop::ThemeMode::Dark);
   desktop::DesktopProgram program(desktop::fromQt(folder.path()), desktop::ThemeMode::Dark);
   if (!program.start()) return 1;
   widget<QWidget>("MainForm", "header").window()->resize(1920, 1080);

@@ -102,7 +102,6 @@ BENCHMARK(tickOfARide)->Unit(benchmark::kMillisecond)->Iterations(600);
 int main(int count, char** words) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(count, words);
-  desktop::applyTheme(desktop::ThemeMode::Dark);
   benchmark::Initialize(&count, words);
   benchmark::RunSpecifiedBenchmarks();
   return 0;

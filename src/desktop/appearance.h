@@ -15,7 +15,7 @@ class Appearance final : public QObject {
  public:
   enum class Choice { System, Light, Dark };
 
-  explicit Appearance(ThemeMode system) : system_(system) {}
+  explicit Appearance(ThemeMode system, Choice choice = Choice::System) : system_(system), choice_(choice) {}
   [[nodiscard]] ThemeMode mode() const;
   [[nodiscard]] Choice choice() const { return choice_; }
   [[nodiscard]] ThemeMode system() const { return system_; }
@@ -36,7 +36,7 @@ class Appearance final : public QObject {
   void update(ThemeMode before);
 
   ThemeMode system_;
-  Choice choice_ = Choice::System;
+  Choice choice_;
 };
 
 }  // namespace desktop

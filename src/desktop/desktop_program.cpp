@@ -9,7 +9,7 @@
 
 namespace desktop {
 
-DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode mode)
+DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appearance::Choice choice)
     : connection_("Ventoria"),
       sound_(connection_, {.whileBlocking = [this] { repaint(); },
                            .giveUp = [this] { return program_.loop().quitting(); },
@@ -24,7 +24,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode mode)
       printer_(dialogs_),
       program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_, volume_, printer_},
                {folder, VENTORIA_VERSION, {}, platform::documentsFolder()}),
-      windows_(program_, mode) {
+      windows_(program_, system, choice) {
   alarm_.setSingleShot(true);
   alarm_.setTimerType(Qt::PreciseTimer);
   connect(&alarm_, &QTimer::timeout, this, &DesktopProgram::serve);

@@ -25,7 +25,8 @@ namespace desktop {
 class DesktopProgram final : public QObject {
   Q_OBJECT
  public:
-  DesktopProgram(const std::string& folder, ThemeMode mode);
+  DesktopProgram(const std::string& folder, ThemeMode system,
+                 Appearance::Choice choice = Appearance::Choice::System);
 
   [[nodiscard]] Appearance& appearance() { return windows_.appearance(); }
   // Shows the window and starts the program; false where it cannot start.

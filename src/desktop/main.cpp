@@ -16,22 +16,23 @@
 
 namespace {
 
-// The windows wear what was asked for at the start, else what the rider chose last, else what the desktop
-// wants.
-void wear(desktop::Appearance& appearance, desktop::SystemLook& system, const QString& asked) {
-  QSettings settings;
-  const QString key = QStringLiteral("appearance");
-  const QString word = asked.isEmpty() ? settings.value(key).toString() : asked;
-  appearance.choose(desktop::Appearance::fromWord(word));
-  QObject::connect(&appearance, &desktop::Appearance::chosen, [key](desktop::Appearance::Choice choice) {
-    QSettings().setValue(key, desktop::Appearance::word(choice));
+const QString appearanceKey = QStringLiteral("appearance");
+
+// What was asked for at the start, else what the rider chose last.
+desktop::Appearance::Choice choiceOf(const QString& asked) {
+  return desktop::Appearance::fromWord(asked.isEmpty() ? QSettings().value(appearanceKey).toString() : asked);
+}
+
+void follow(desktop::SystemLook& system, desktop::Appearance& appearance) {
+  QObject::connect(&appearance, &desktop::Appearance::chosen, [](desktop::Appearance::Choice choice) {
+    QSettings().setValue(appearanceKey, desktop::Appearance::word(choice));
   });
-  const auto follow = [&appearance, &system] {
+  const auto take = [&appearance, &system] {
     QApplication::setEffectEnabled(Qt::UI_General, system.animations());
     appearance.setSystem(system.colours().value_or(appearance.system()));
   };
-  follow();
-  QObject::connect(&system, &desktop::SystemLook::changed, follow);
+  take();
+  QObject::connect(&system, &desktop::SystemLook::changed, take);
 }
 
 // Qt's own words, such as a file chooser's, in French.
@@ -86,11 +87,10 @@ int main(int count, char** words) {
   }
 
   desktop::SystemLook system;
-  const desktop::ThemeMode mode = system.colours().value_or(desktop::platformTheme());
-  desktop::applyTheme(mode);
-  desktop::DesktopProgram program(folder, mode);
+  desktop::DesktopProgram program(folder, system.colours().value_or(desktop::platformTheme()),
+                                  choiceOf(parser.value(themeOption)));
   running = &program;
-  wear(program.appearance(), system, parser.value(themeOption));
+  follow(system, program.appearance());
   if (!program.start()) return 1;
   if (!session.isEmpty()) program.addSession(desktop::fromQt(session));
   return QApplication::exec();

@@ -22,17 +22,18 @@ constexpr std::array<const char*, 22> handles{
 
 }  // namespace
 
-Windows::Windows(app::Program& program, ThemeMode mode)
+Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice choice)
     : program_(program),
-      appearance_(mode),
-      window_(mode),
+      appearance_(system, choice),
+      window_(appearance_.mode()),
       binder_(program.loop()),
       mainPage_(new QWidget),
       editorPage_(new QWidget),
       announcePage_(new QWidget),
-      volumeWindow_(program.screens().volume, QSize(520, 500), mode, window_),
-      printWindow_(program.screens().print, QSize(980, 740), mode, window_),
-      filmsWindow_(program.screens().films, QSize(860, 620), mode, window_) {
+      volumeWindow_(program.screens().volume, QSize(520, 500), appearance_.mode(), window_),
+      printWindow_(program.screens().print, QSize(980, 740), appearance_.mode(), window_),
+      filmsWindow_(program.screens().films, QSize(860, 620), appearance_.mode(), window_) {
+  applyTheme(appearance_.mode());
   installAccessibleFaces();
   forms::Screens& screens = program.screens();
   mainView_ = std::make_unique<MainView>(screens.main, program.state(), *mainPage_);

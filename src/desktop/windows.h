@@ -21,7 +21,8 @@ namespace desktop {
 class Windows final : public QObject {
   Q_OBJECT
  public:
-  Windows(app::Program& program, ThemeMode mode);
+  // `system` is what the desktop wants, `choice` what the rider does.
+  Windows(app::Program& program, ThemeMode system, Appearance::Choice choice = Appearance::Choice::System);
   ~Windows() override;
 
   [[nodiscard]] MainWindow& window() { return window_; }

@@ -80,7 +80,6 @@ int main(int count, char** words) {
   QApplication application(count, words);
   try {
     const StageOptions options = parse({words + 1, words + count});
-    desktop::applyTheme(options.theme);
     return run(options);
   } catch (const std::exception& error) {
     std::cerr << "ventoria-stage: " << error.what() << '\n';

@@ -109,20 +109,17 @@ TEST(Windows, AChangedThemeLooksLikeOneFromTheStart) {
   {
     support::SimulatedProgram program;
     compose(program);
-    applyTheme(ThemeMode::Light);
     Windows windows(program.program(), ThemeMode::Light);
     windows.window().show();
     wanted = pictureOf(program, windows);
   }
   support::SimulatedProgram program;
   compose(program);
-  applyTheme(ThemeMode::Dark);
   Windows windows(program.program(), ThemeMode::Dark);
   windows.window().show();
   EXPECT_NE(pictureOf(program, windows), wanted);
   windows.appearance().choose(Appearance::Choice::Light);
   EXPECT_EQ(pictureOf(program, windows), wanted);
-  applyTheme(ThemeMode::Dark);
 }
 
 }  // namespace
