@@ -68,8 +68,8 @@ void tellFault(platform::Dialogs& dialogs, const std::string& text) {
 
 }  // namespace
 
-Program::Program(const platform::Outside& outside, Setup setup)
-    : outside_(outside), loop_(outside_.clock), logic_() {
+Program::Program(const platform::Outside& outside, const Setup& setup)
+    : outside_(outside), loop_(outside_.clock) {
   for (platform::Form* form : screens_.all()) {
     form->attach(loop_);
     for (platform::Component* component : form->components()) {

@@ -22,7 +22,7 @@ struct Setup {
 
 class Program {
  public:
-  Program(const platform::Outside& outside, Setup setup);
+  Program(const platform::Outside& outside, const Setup& setup);
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;

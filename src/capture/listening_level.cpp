@@ -51,8 +51,10 @@ void ListeningLevel::makeReady() {
 
 // Above the table the last level stays.
 void ListeningLevel::apply() {
-  const auto row = static_cast<std::size_t>(form_.VScroll1.value - 1);
-  const auto column = static_cast<std::size_t>(form_.HScroll1.value + 2);
+  const int down = form_.VScroll1.value - 1;
+  const int across = form_.HScroll1.value + 2;
+  const auto row = static_cast<std::size_t>(down);
+  const auto column = static_cast<std::size_t>(across);
   if (row >= levels.size() || column >= levels[row].size()) return;
   const std::uint32_t both = levels[row][column];
   output_.set(static_cast<std::uint16_t>(both & 0xFFFF), static_cast<std::uint16_t>(both >> 16));

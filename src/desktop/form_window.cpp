@@ -22,7 +22,7 @@ FormWindow::FormWindow(platform::Form& form, const QSize& design, ThemeMode mode
   resize(design);
 }
 
-void FormWindow::open() {
+void FormWindow::whenBound() {
   restyle();
   const auto title = [this] { setWindowTitle(toQt(form_.caption.get()).trimmed()); };
   title();

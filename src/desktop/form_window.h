@@ -16,7 +16,7 @@ class FormWindow final : public QDialog {
   FormWindow(platform::Form& form, const QSize& design, ThemeMode mode, QWidget& over);
   [[nodiscard]] QWidget& page() const { return *page_; }
   // The page is complete: it takes the window's scale, and the form's state.
-  void open();
+  void whenBound();
   void setTheme(ThemeMode mode);
   // What leaves the form when the window is closed or Escape pressed.
   void onClose(std::function<void()> asked) { closeAsked_ = std::move(asked); }

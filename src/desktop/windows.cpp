@@ -94,7 +94,7 @@ QWidget* Windows::windowOf(const platform::Form& form) {
 void Windows::openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way) {
   binder_.bind(form, window.page());
   window.onClose([this, &way] { binder_.run([&way] { way.click(); }); });
-  window.open();
+  window.whenBound();
 }
 
 void Windows::followForm(platform::Form& form, QWidget& page) {
