@@ -17,13 +17,13 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStackedWidget>
 #include <QTextDocument>
 #include <QTimer>
 #include <algorithm>
 #include <stdexcept>
 
 #include "desktop/grid_table.h"
+#include "desktop/keyboard_focus.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "desktop/unseen_controls.h"
@@ -124,18 +124,6 @@ void showCombo(const platform::ComboBox& box, QComboBox& widget, bool relist) {
   if (widget.currentIndex() != box.index) widget.setCurrentIndex(box.index);
   const QString text = toQt(box.text.get());
   if (widget.currentText() != text) widget.setEditText(text);
-}
-
-// What is about to go gives the keyboard to its page: Qt would hand it to whatever comes next.
-void leaveKeyboard(QWidget& widget) {
-  const QWidget* focused = QApplication::focusWidget();
-  if (focused != &widget && !widget.isAncestorOf(focused)) return;
-  QWidget* page = widget.parentWidget();
-  while (page != nullptr && !page->isWindow() &&
-         qobject_cast<QStackedWidget*>(page->parentWidget()) == nullptr) {
-    page = page->parentWidget();
-  }
-  if (page != nullptr) page->setFocus();
 }
 
 // A text or a picture that can be pressed, and is no mere label of another control.
@@ -404,17 +392,21 @@ void Binder::tieOpeners(platform::MenuItem& item, QMenu& menu, QWidget& page) {
 
 void Binder::popUp(QMenu& menu) {
   QPoint place = QCursor::pos();
-  if (pressed_ && qobject_cast<QAbstractButton*>(pressed_) != nullptr) {
-    // Under the button, and inside the window on its right.
-    place = pressed_->mapToGlobal(QPoint(0, pressed_->height() + dp(pressed_, 6)));
+  const auto keepInside = [&] {
     const QWidget* window = pressed_->window();
     const int right = window->mapToGlobal(QPoint(window->width() - dp(window, 24), 0)).x();
     place.setX(std::min(place.x(), right - menu.sizeHint().width()));
+  };
+  if (pressed_ && qobject_cast<QAbstractButton*>(pressed_) != nullptr) {
+    // Under the button, and inside the window on its right.
+    place = pressed_->mapToGlobal(QPoint(0, pressed_->height() + dp(pressed_, 6)));
+    keepInside();
   } else if (const auto* list = qobject_cast<GridTable*>(pressed_);
              list != nullptr && !list->rect().contains(list->mapFromGlobal(place))) {
     // Opened by the keyboard.
     const QRect cell = list->cellRect(list->pressedRow(), list->pressedColumn());
     place = list->viewport()->mapToGlobal(cell.bottomLeft() + QPoint(dp(list, 24), 0));
+    keepInside();
   }
   menu.setProperty("place", place);  // as asked for; a small screen may move it
   menu.popup(place);

@@ -20,7 +20,7 @@ namespace desktop {
 namespace {
 
 // The widths in twips are those of another face: what each column needs of this one, against its twips.
-constexpr std::array<double, 14> share{0, 1, 1, 1, 1.4, 1, 1.1, 1.05, 0.9, 0.85, 0.72, 1, 0.9, 1.05};
+constexpr std::array<double, 14> share{0, 1, 1.05, 0.94, 1.5, 1, 1.1, 1.05, 0.9, 0.85, 0.72, 1, 0.9, 1.05};
 
 class CellPainter final : public QStyledItemDelegate {
  public:
@@ -57,6 +57,10 @@ class CellPainter final : public QStyledItemDelegate {
   void paintKind(QPainter& painter, const QRect& place, const QString& kind) const {
     const int chip = dp(table_, 6);
     const int gap = dp(table_, 8);
+    // A long kind is written smaller before it is cut.
+    if (painter.fontMetrics().horizontalAdvance(kind) > place.width() - chip - gap) {
+      painter.setFont(sansFont(table_, 13, painter.font().weight()));
+    }
     const QString shown = painter.fontMetrics().elidedText(kind, Qt::ElideRight, place.width() - chip - gap);
     const int textWidth = painter.fontMetrics().horizontalAdvance(shown);
     const int x = place.left() + (place.width() - textWidth - chip - gap) / 2;

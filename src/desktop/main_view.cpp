@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 
 #include "desktop/fade_away.h"
+#include "desktop/keyboard_focus.h"
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
@@ -87,6 +88,9 @@ void MainView::refreshPages() {
   ui_->volumeBox->setVisible(volumeKnown);
   ui_->contactScrim->setVisible(form_.Picture12.visible);
   ui_->noticePicture->setPicture(toQt(form_.Image18.visible ? "sound-off" : "sound-on"));
+  // What the ride's panel covers must not shine through its corners, nor take the keyboard.
+  if (form_.Picture6.visible) leaveKeyboard(*ui_->buttonRow);
+  ui_->buttonRow->setVisible(!form_.Picture6.visible);
   // What leads on stands out: the start where a duration stands, else the way to the sessions.
   const bool startable = form_.MyButton1.enabled && form_.MyButton1.caption == "Start";
   setLook(*ui_->MyButton1, startable ? QStringLiteral("primary") : QString());
@@ -158,6 +162,7 @@ void MainView::refreshProfile() {
   ui_->countdownProfile->setVisible(planned);
 
   const int next = planned && riding() ? nextRow() : 0;
+  ui_->nextWord->setVisible(next > 0);
   ui_->nextWord->setText(next > 0 ? QStringLiteral("Ensuite :") : QString());
   ui_->nextChip->setVisible(next > 0);
   if (next > 0) ui_->nextChip->show(model::effortFamily(state_.plan.planSequence[at(next)]));
