@@ -33,8 +33,9 @@ bool says(const std::string& text) {
 MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidget& page)
     : form_(form), state_(state), ui_(std::make_unique<Ui::MainForm>()) {
   ui_->setupUi(&page);
-  for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1,
-                                                         ui_->Label2, ui_->Label3, ui_->sequenceBar}) {
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1, ui_->Label2,
+                                       ui_->Label3, ui_->sequenceBar, ui_->buttonRow}) {
     keepPlace(*widget);
   }
   // The panel takes the pointer as one; what it holds only shows.
