@@ -71,8 +71,8 @@ void FitLabel::paintEvent(QPaintEvent*) {
                                                   : tone_ == QLatin1String("second") ? role::second
                                                                                      : role::text));
   QRect drawn;
-  painter.drawText(place, (centred_ ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextWordWrap,
-                   text_, &drawn);
+  const Qt::Alignment side = centred_ ? Qt::AlignHCenter : Qt::AlignLeft;
+  painter.drawText(place, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextWordWrap, text_, &drawn);
   if (unit_.isEmpty()) return;
   const int baseline = drawn.bottom() - painter.fontMetrics().descent();
   painter.setFont(sansFont(this, unitSize));

@@ -48,8 +48,8 @@ class CellPainter final : public QStyledItemDelegate {
     }
     const bool left =
         column == model::column::sessionName || grid.column(column).alignment == platform::Alignment::Left;
-    painter->drawText(place,
-                      (left ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter | Qt::TextSingleLine,
+    const Qt::Alignment side = left ? Qt::AlignLeft : Qt::AlignHCenter;
+    painter->drawText(place, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine,
                       painter->fontMetrics().elidedText(toQt(cell), Qt::ElideRight, place.width()));
   }
 

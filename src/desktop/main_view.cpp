@@ -172,7 +172,7 @@ void MainView::refreshProfile() {
 
 void MainView::refreshCountdown() {
   ui_->Label9->setTotal(form_.Combo5.text.get().empty() ? 16 : toQt(form_.Combo5.text.get()).toInt());
-  const bool planned = ui_->countdownProfile->steps().size() > 0;
+  const bool planned = !ui_->countdownProfile->steps().empty();
   ui_->firstText->setText(planned ? QStringLiteral("D'abord : ") + describe(1) : QString());
 }
 

@@ -1,6 +1,7 @@
 #include "editor/history.h"
 
 #include <algorithm>
+#include <ranges>
 
 #include "model/grid_rows.h"
 
@@ -105,7 +106,7 @@ void History::play(std::deque<Step>& from, std::deque<Step>& to, bool backwards)
   from.pop_back();
   playing_ = true;
   if (backwards) {
-    for (auto change = step.rbegin(); change != step.rend(); ++change) apply(*change, true);
+    for (const Change& change : std::views::reverse(step)) apply(change, true);
   } else {
     for (const Change& change : step) apply(change, false);
   }
