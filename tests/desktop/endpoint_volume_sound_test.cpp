@@ -1,9 +1,9 @@
 // The master volume of a real sound server, beside other programs that change it; run under
 // with-sound-server.
 #include <gtest/gtest.h>
-#include <signal.h>
 
 #include <cmath>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <functional>

@@ -1,8 +1,8 @@
 // Plays at a real sound server and listens to what comes out; run it under with-sound-server.
 #include <gtest/gtest.h>
-#include <signal.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
