@@ -81,10 +81,11 @@ SequenceTexts textsOf(const Record& record) {
 // One pass over the file's sequences: rows numbered 1 to n in the session column.
 void appendPass(platform::RandomFile& file, int nbEnreg, const std::string& name, platform::Grid& grid) {
   Record record(recordWidth);
-  const std::string total = std::to_string(nbEnreg - 1);
+  const std::string total = '/' + std::to_string(nbEnreg - 1) + ')';
   for (int number = 2; number <= nbEnreg; ++number) {
     record.read(file, static_cast<std::uint64_t>(number));
-    const std::string place = name + " (" + std::to_string(number - 1) + "/" + total + ")";
+    std::string place = name;
+    place.append(" (").append(std::to_string(number - 1)).append(total);
     grid.addRow(loadedRow(grid.rowCount() + 1, place, textsOf(record)));
     grid.setLook(grid.rowCount(), column::sessionName, column::deleteMark, look::finished);
   }
@@ -128,7 +129,7 @@ std::string convertirAncien(platform::FileSystem& files, const std::string& chem
   // The blanks keep the work file's name as long as the old one, so that it ends by the same cut.
   const std::string base = withoutExtension(chemin);
   const std::string work = base + ".   ";
-  const std::string target = withoutExtension(work) + ".tq2";
+  std::string target = withoutExtension(work) + ".tq2";
   if (target != chemin && files.exists(target)) {
     throw platform::FileFault("de convertir vers", target, "ce fichier existe déjà");
   }

@@ -18,7 +18,10 @@ PropertyBase* Component::property(Prop id) const {
 }
 
 void Component::tellWatchers(Prop id) {
-  for (std::size_t i = 0; i < watchers_.size(); ++i) watchers_[i](*this, id);
+  // By place: a watcher may add another.
+  for (std::size_t i = 0; i < watchers_.size(); ++i) {  // NOLINT(modernize-loop-convert)
+    watchers_[i](*this, id);
+  }
 }
 
 const std::vector<CodeEvent>& codeEvents() {

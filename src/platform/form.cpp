@@ -27,6 +27,7 @@ std::size_t editDistance(std::string_view a, std::string_view b) {
 
 std::string nearNames(std::string_view wanted, const std::vector<std::string>& names) {
   std::vector<std::pair<std::size_t, std::string>> ranked;
+  ranked.reserve(names.size());
   for (const std::string& name : names) ranked.emplace_back(editDistance(wanted, name), name);
   std::stable_sort(ranked.begin(), ranked.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });
