@@ -383,6 +383,7 @@ void Binder::tieOpeners(platform::MenuItem& item, QMenu& menu, QWidget& page) {
     auto* button = qobject_cast<QPushButton*>(widget);
     if (button == nullptr) continue;
     button->setText(toQt(item.caption.get()));
+    button->installEventFilter(this);
     connect(button, &QPushButton::clicked, this, [this, button, &menu] {
       pressed_ = button;
       popUp(menu);
@@ -440,7 +441,9 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
   if (control == nullptr) {
     if (event->type() == QEvent::MouseButtonPress && !held_)
       pressed_ = static_cast<QWidget*>(watched)->parentWidget();
-    return false;
+    const bool opener =
+        event->type() == QEvent::KeyPress && qobject_cast<QAbstractButton*>(watched) != nullptr;
+    return opener && pressByKey(*static_cast<QWidget*>(watched), static_cast<QKeyEvent*>(event)->key());
   }
   auto* widget = static_cast<QWidget*>(watched);
   switch (event->type()) {

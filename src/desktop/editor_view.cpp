@@ -11,6 +11,7 @@
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "desktop/within.h"
 #include "model/grid_rows.h"
 #include "model/time_value.h"
 #include "ui_creer_cycle.h"
@@ -24,12 +25,6 @@ using model::EffortFamily;
 constexpr std::array<const char*, 14> headButtons{
     "",           "",           "",           "MyButton14", "MyButton15", "MyButton16", "MyButton17",
     "MyButton18", "MyButton19", "MyButton20", "MyButton21", "MyButton22", "MyButton23", "MyButton25"};
-
-QRect within(QRect rect, const QSize& room) {
-  rect.moveLeft(std::clamp(rect.left(), 0, std::max(0, room.width() - rect.width())));
-  rect.moveTop(std::clamp(rect.top(), 0, std::max(0, room.height() - rect.height())));
-  return rect;
-}
 
 }  // namespace
 
@@ -135,7 +130,6 @@ void EditorView::rescale() {
 }
 
 void EditorView::setListMode(bool whole) {
-  wholeList_ = whole;
   ui_->profileCard->setVisible(!whole);
 }
 

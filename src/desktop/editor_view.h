@@ -50,7 +50,6 @@ class EditorView final : public QObject {
   Binder& binder_;
   QTimer pending_;
   bool editing_ = false;
-  bool wholeList_ = false;
 };
 
 }  // namespace desktop

@@ -8,6 +8,7 @@
 
 #include "desktop/look.h"
 #include "desktop/theme.h"
+#include "desktop/within.h"
 
 namespace desktop {
 namespace {
@@ -98,8 +99,7 @@ void MovablePanel::fit() {
 }
 
 void MovablePanel::moveTo(const QPoint& corner) {
-  panel_.move(std::clamp(corner.x(), 0, std::max(0, page_.width() - panel_.width())),
-              std::clamp(corner.y(), 0, std::max(0, page_.height() - panel_.height())));
+  panel_.move(within(QRect(corner, panel_.size()), page_.size()).topLeft());
 }
 
 bool MovablePanel::overHome() const {

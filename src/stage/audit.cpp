@@ -146,25 +146,23 @@ class Audit {
   }
 
   void checkText(const QWidget& widget) {
-    const QString text = widget.property("text").toString();
-    if (const auto* step = qobject_cast<const desktop::StepButton*>(&widget)) {
-      if (!step->textFits()) fault(widget, QStringLiteral("cuts its text: ") + text);
-    } else if (const auto* fit = qobject_cast<const desktop::FitLabel*>(&widget)) {
-      if (!fit->textFits()) fault(widget, QStringLiteral("cuts its text: ") + text);
-    } else if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
-      const QString shown = box->currentText();
+    const auto* box = qobject_cast<const QComboBox*>(&widget);
+    const QString text = box != nullptr ? box->currentText() : widget.property("text").toString();
+    if (!text.isEmpty() && !textFits(widget, text)) fault(widget, QStringLiteral("cuts its text: ") + text);
+  }
+  static bool textFits(const QWidget& widget, const QString& text) {
+    if (const auto* step = qobject_cast<const desktop::StepButton*>(&widget)) return step->textFits();
+    if (const auto* fit = qobject_cast<const desktop::FitLabel*>(&widget)) return fit->textFits();
+    if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
       const int room = box->lineEdit() != nullptr ? box->lineEdit()->width() - 4 : box->width() - 30;
-      if (box->fontMetrics().horizontalAdvance(shown) > room) {
-        fault(widget, QStringLiteral("cuts its text: ") + shown);
-      }
-    } else if (!text.isEmpty() && hasFixedText(widget)) {
-      const QSize needed = widget.sizeHint();
-      const auto* label = qobject_cast<const QLabel*>(&widget);
-      const bool wraps = label != nullptr && label->wordWrap();
-      const bool wide = !wraps && needed.width() > widget.width() + rounding;
-      const bool high = (wraps ? label->heightForWidth(widget.width()) : needed.height()) > widget.height();
-      if (wide || high) fault(widget, QStringLiteral("cuts its text: ") + text);
+      return box->fontMetrics().horizontalAdvance(text) <= room;
     }
+    if (!hasFixedText(widget)) return true;
+    const QSize needed = widget.sizeHint();
+    if (const auto* label = qobject_cast<const QLabel*>(&widget); label != nullptr && label->wordWrap()) {
+      return label->heightForWidth(widget.width()) <= widget.height();
+    }
+    return needed.width() <= widget.width() + rounding && needed.height() <= widget.height();
   }
   // A text that is the program's own. What may be of any length is elided, and read in full on hover.
   static bool hasFixedText(const QWidget& widget) {
@@ -230,6 +228,7 @@ class Audit {
       }
     }
   }
+
   void checkContrast(const QWidget& widget) {
     if (!widget.isEnabled() || widget.fontMetrics().height() * picture_.devicePixelRatio() < solidInk) return;
     if (const auto* table = qobject_cast<const desktop::GridTable*>(&widget)) checkCells(*table);

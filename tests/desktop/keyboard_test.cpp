@@ -1,26 +1,21 @@
 // From the launch to the end of a ride without a mouse: a session composed, saved and ridden by keys alone.
 #include <gmock/gmock.h>
 
-#include <QApplication>
-#include <QTest>
+#include <QMenu>
 
-#include "desktop/windows.h"
-#include "support/simulated_program.h"
+#include "desktop/windows_test_base.h"
 
 namespace {
 
-class KeyboardTest : public testing::Test {
+class KeyboardTest : public WindowsTestBase {
  protected:
   KeyboardTest() {
-    EXPECT_TRUE(program_.start());
-    windows_.emplace(program_.program(), desktop::ThemeMode::Dark);
-    windows_->window().show();
     windows_->window().activateWindow();
     settle();
   }
   void settle() {
-    windows_->refresh();
-    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+    WindowsTestBase::settle();
+    for (int i = 0; i < 2; ++i) QCoreApplication::processEvents();
     // A platform without a screen gives the keyboard back to nobody when a list closes.
     if (QApplication::activePopupWidget() == nullptr && QApplication::focusWidget() == nullptr) {
       windows_->window().activateWindow();
@@ -65,14 +60,11 @@ class KeyboardTest : public testing::Test {
     key(Qt::Key_Return);
     EXPECT_EQ(focused(), "Combo2");
     tabTo("Combo4");
-    for (int i = 0; i < 20; ++i) key(Qt::Key_Down);
+    key(Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(QApplication::focusWidget(), '9');
     key(Qt::Key_Return);
     EXPECT_EQ(focused(), "ListView1");
   }
-
-  support::SimulatedProgram program_;
-  forms::Screens& screens_ = program_.screens();
-  std::optional<desktop::Windows> windows_;
 };
 
 TEST_F(KeyboardTest, ASessionIsComposedSavedAndRidden) {
@@ -82,7 +74,7 @@ TEST_F(KeyboardTest, ASessionIsComposedSavedAndRidden) {
   composeARow();
   ASSERT_EQ(program_.list().rowCount(), 2);
   const std::string duration = program_.list().text(2, 10);
-  EXPECT_EQ(duration, "00:00:20");
+  EXPECT_EQ(duration, "00:00:09");
   program_.run("advance 1.5");
   settle();
   program_.run("answer A la main");
@@ -110,10 +102,30 @@ TEST_F(KeyboardTest, ASessionIsComposedSavedAndRidden) {
   EXPECT_EQ(screens_.main.MyButton1.caption, "Start");
 }
 
+TEST_F(KeyboardTest, EnterOpensAMenuOnItsFirstEntry) {
+  tabTo("MyButton5");
+  key(Qt::Key_Return);
+  tabTo("mnMenu");
+  key(Qt::Key_Return);
+  const auto* menu = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  EXPECT_NE(menu->activeAction(), nullptr);
+  key(Qt::Key_Escape);
+}
+
 TEST_F(KeyboardTest, DeleteAsksBeforeItTakesALineAway) {
   tabTo("MyButton5");
   key(Qt::Key_Space);
   composeARow();
+  const std::string kind = program_.list().text(2, 4);
+  key(Qt::Key_Home);
+  key(Qt::Key_Down);
+  key(Qt::Key_F2);
+  for (int i = 0; i < 2; ++i) key(Qt::Key_Escape);  // the list, then the cell
+  EXPECT_EQ(focused(), "ListView1");
+  EXPECT_FALSE(screens_.editor.Combo1.visible || screens_.editor.Picture2.visible);
+  EXPECT_EQ(program_.list().text(2, 4), kind);
+
   EXPECT_FALSE(screens_.editor.mnSupprimer.enabled);
   key(Qt::Key_Delete);
   EXPECT_TRUE(screens_.editor.mnSupprimer.enabled);

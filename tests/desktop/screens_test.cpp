@@ -12,36 +12,14 @@
 
 #include "desktop/check_list.h"
 #include "desktop/take_views.h"
-#include "desktop/windows.h"
+#include "desktop/windows_test_base.h"
 #include "platform/recording.h"
-#include "support/simulated_program.h"
 
 namespace {
 
 using testing::ElementsAre;
 
-class ScreensTest : public testing::Test {
- protected:
-  ScreensTest() {
-    EXPECT_TRUE(program_.start());
-    windows_.emplace(program_.program(), desktop::ThemeMode::Dark);
-    windows_->window().show();
-  }
-  template <class Widget>
-  Widget& widget(const platform::Form& form, const char* name) {
-    auto* found = windows_->page(form)->findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) throw std::out_of_range(name);
-    return *found;
-  }
-  void settle() {
-    windows_->refresh();
-    QCoreApplication::processEvents();
-  }
-
-  support::SimulatedProgram program_;
-  forms::Screens& screens_ = program_.screens();
-  std::optional<desktop::Windows> windows_;
-};
+class ScreensTest : public WindowsTestBase {};
 
 // That each control stands once on its page is checked as the windows are made: they would throw.
 TEST_F(ScreensTest, EveryFormButThePlayerHasAPlace) {
@@ -124,6 +102,26 @@ TEST_F(ScreensTest, ATickPaintsOnlyWhatChanges) {
   for (const char* still : {"Label4", "Label5", "Label11", "MyFrame1", "Command7", "header"}) {
     EXPECT_FALSE(watch.painted.contains(still)) << still;
   }
+}
+
+TEST_F(ScreensTest, TheRidesPanelFadesOnlyWhereThingsMayMove) {
+  auto& panel = widget<QFrame>(screens_.main, "Picture6");
+  for (const bool moving : {false, true}) {
+    QApplication::setEffectEnabled(Qt::UI_General, moving);
+    screens_.main.Picture6.visible = true;
+    settle();
+    screens_.main.Picture6.visible = false;
+    EXPECT_FALSE(panel.isVisible());
+    const auto fading = panel.parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    EXPECT_EQ(!fading.isEmpty(), moving);
+  }
+  QApplication::setEffectEnabled(Qt::UI_General, false);
+}
+
+TEST_F(ScreensTest, ATextThatLooksLikeMarkupStaysOneInATip) {
+  screens_.editor.ListView1.toolTip = "<b>Col</b>";
+  EXPECT_THAT(widget<QWidget>(screens_.editor, "ListView1").toolTip().toStdString(),
+              testing::HasSubstr("&lt;b&gt;Col"));
 }
 
 TEST_F(ScreensTest, WhatHasTheKeyboardShowsIt) {
