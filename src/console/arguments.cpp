@@ -1,6 +1,7 @@
 #include "console/arguments.h"
 
 #include <charconv>
+#include <utility>
 
 #include "console/escaping.h"
 
@@ -58,6 +59,10 @@ std::string Arguments::text() {
     taken = taken.substr(1, taken.size() - 2);
   }
   return unescaped(taken);
+}
+
+std::string_view Arguments::rest() {
+  return std::exchange(rest_, {});
 }
 
 void Arguments::end() const {

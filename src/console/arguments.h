@@ -31,6 +31,8 @@ class Arguments {
   bool flag(std::string_view what);  // 0 or 1
   // All that is left, unescaped and without the double quotes around it; nothing is left behind it.
   std::string text();
+  // All that is left, as it stands.
+  std::string_view rest();
   // Nothing may be left.
   void end() const;
 

@@ -1,16 +1,20 @@
 #include "console/interpreter.h"
 
+#include <cmath>
 #include <exception>
 #include <vector>
 
+#include "console/journal.h"
 #include "platform/form.h"
 
 namespace console {
 
 Interpreter::Interpreter(const TestCommands::World& world, RiderHands& hands, std::ostream& out)
-    : out_(out), rider_(world.screens, world.loop, hands), tests_(world, rider_, out) {
+    : loop_(world.loop), out_(out), rider_(world.screens, world.loop, hands), tests_(world, rider_, said_) {
   rider_.enrol(commands_);
   tests_.enrol(commands_);
+  add("at", [this](Arguments& arguments) { postpone(arguments); });
+  loop_.onInput([this] { carryOutDue(); }, [this] { return nextPending(); });
   add("quit", [this](Arguments& arguments) {
     arguments.end();
     quit_ = true;
@@ -18,12 +22,55 @@ Interpreter::Interpreter(const TestCommands::World& world, RiderHands& hands, st
   world.dialogs.onMisfit([this](const std::string& text) { printError(text); });
 }
 
+Interpreter::~Interpreter() {
+  loop_.onInput({});
+}
+
 void Interpreter::printError(const std::string& text) {
   erred_ = true;
-  out_ << "error: " << text << '\n';
+  said_ << "error: " << text << '\n';
+}
+
+void Interpreter::deliver(const std::string& stamp) {
+  std::istringstream lines(said_.str());
+  said_.str({});
+  for (std::string line; std::getline(lines, line);) out_ << stamp << line << '\n';
+}
+
+void Interpreter::postpone(Arguments& arguments) {
+  const double seconds = arguments.decimal("number of seconds");
+  if (!(seconds >= 0) || seconds > 1e9) throw CommandError("time only goes forward");
+  const std::string_view line = arguments.rest();
+  Arguments postponed(line);
+  const std::string name = postponed.word("command");
+  // What lets time pass is not for a rider to do, and would never come to its end inside a wait of its own.
+  for (const char* unfit : {"at", "advance", "quit"}) {
+    if (name == unfit) throw CommandError(name + " cannot be postponed");
+  }
+  pending_.emplace(loop_.clock().now() + platform::Instant{std::llround(seconds * 1000)}, line);
+}
+
+std::optional<platform::Instant> Interpreter::nextPending() const {
+  if (pending_.empty()) return std::nullopt;
+  return pending_.begin()->first;
+}
+
+void Interpreter::carryOutDue() {
+  while (!pending_.empty() && pending_.begin()->first <= loop_.clock().now()) {
+    const std::string line = std::move(pending_.extract(pending_.begin()).mapped());
+    // Before it is carried out: what it prints comes in between where it waits itself.
+    const std::string stamp = secondsText(loop_.clock().now()) + "\t";
+    perform(line);
+    deliver(stamp);
+  }
 }
 
 void Interpreter::execute(std::string_view line) {
+  perform(line);
+  deliver({});
+}
+
+void Interpreter::perform(std::string_view line) {
   Arguments arguments(line);
   if (arguments.empty()) return;
   const std::string name = arguments.word("command");
@@ -38,7 +85,7 @@ void Interpreter::execute(std::string_view line) {
   try {
     found->second(arguments);
   } catch (const Refusal& refusal) {
-    out_ << "refused: " << refusal.what() << '\n';
+    said_ << "refused: " << refusal.what() << '\n';
   } catch (const std::exception& fault) {
     printError(fault.what());
   }

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <istream>
+#include <map>
+#include <optional>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -17,6 +20,10 @@ class Interpreter {
   // To be made before the program starts, so that it sees every form that is shown.
   Interpreter(const TestCommands::World& world, RiderHands& hands, std::ostream& out);
 
+  ~Interpreter();
+  Interpreter(const Interpreter&) = delete;
+  Interpreter& operator=(const Interpreter&) = delete;
+
   // A front's own command.
   void add(const std::string& name, std::function<void(Arguments&)> command) {
     commands_[name] = std::move(command);
@@ -30,9 +37,18 @@ class Interpreter {
   [[nodiscard]] int status() const { return erred_ || tests_.failed() ? 1 : 0; }
 
  private:
+  void postpone(Arguments& arguments);
+  void carryOutDue();
+  [[nodiscard]] std::optional<platform::Instant> nextPending() const;
+  void perform(std::string_view line);
+  // Hands on what a command has printed, each line behind the stamp.
+  void deliver(const std::string& stamp);
   void printError(const std::string& text);
 
+  platform::EventLoop& loop_;
   std::ostream& out_;
+  std::ostringstream said_;  // what the command under way has printed
+  std::multimap<platform::Instant, std::string> pending_;
   RiderCommands rider_;
   TestCommands tests_;
   CommandTable commands_;

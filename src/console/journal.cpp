@@ -6,14 +6,11 @@
 #include "console/escaping.h"
 
 namespace console {
-namespace {
 
-std::string secondsOf(platform::Instant instant) {
+std::string secondsText(platform::Instant instant) {
   const std::string fraction = std::to_string(instant.count() % 1000);
   return std::to_string(instant.count() / 1000) + "." + std::string(3 - fraction.size(), '0') + fraction;
 }
-
-}  // namespace
 
 const std::vector<std::string>& Journal::kinds() {
   static const std::vector<std::string> all{"prompt", "file",  "media",  "level", "dialog",
@@ -22,7 +19,7 @@ const std::vector<std::string>& Journal::kinds() {
 }
 
 void Journal::write(std::string_view kind, const std::vector<std::string_view>& fields) {
-  Line line{std::string(kind), secondsOf(clock_.now()) + "\t" + std::string(kind)};
+  Line line{std::string(kind), secondsText(clock_.now()) + "\t" + std::string(kind)};
   for (const std::string_view field : fields) line.text += "\t" + escaped(field);
   lines_.push_back(std::move(line));
 }

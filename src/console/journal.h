@@ -11,6 +11,9 @@
 
 namespace console {
 
+// The clock's seconds with three decimals, as the journal writes them.
+[[nodiscard]] std::string secondsText(platform::Instant instant);
+
 class Journal {
  public:
   explicit Journal(const platform::Clock& clock) : clock_(clock) {}

@@ -123,8 +123,9 @@ void EventLoop::runUntil(Instant when) {
   for (;;) {
     serveEvents();
     if (quitting_ || clock_.now() >= when) return;
-    const std::optional<Instant> next = nextDue();
-    clock_.sleepUntil(next && *next < when ? *next : when);
+    const Instant timer = nextDue().value_or(when);
+    const Instant input = (nextInput_ ? nextInput_() : std::nullopt).value_or(when);
+    clock_.sleepUntil(std::min({when, timer, input}));
   }
 }
 

@@ -36,7 +36,11 @@ class EventLoop final : public TimerScheduler {
   // Runs something on behalf of the rider or a timer: an exception ends it and goes to the fault handler.
   void guard(const std::function<void()>& action);
 
-  void onInput(std::function<void()> pump) { pump_ = std::move(pump); }
+  // `pump` lets the front handle the rider's input; `next` says when more will come, where that is known.
+  void onInput(std::function<void()> pump, std::function<std::optional<Instant>()> next = {}) {
+    pump_ = std::move(pump);
+    nextInput_ = std::move(next);
+  }
   void onFault(std::function<void(const std::string&)> handler) { faultHandler_ = std::move(handler); }
   // Told when the next due time may have changed, for a front that sleeps on a timer of its own.
   void onReschedule(std::function<void()> handler) { rescheduled_ = std::move(handler); }
@@ -75,6 +79,7 @@ class EventLoop final : public TimerScheduler {
   std::vector<Entry*> queue_;  // the timers that are on, by due time, then creation
   std::uint64_t created_ = 0;
   std::function<void()> pump_;
+  std::function<std::optional<Instant>()> nextInput_;
   std::function<void(const std::string&)> faultHandler_;
   std::function<void()> rescheduled_;
   int blocked_ = 0;

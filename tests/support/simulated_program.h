@@ -17,8 +17,9 @@ inline const std::string settingsOn = "0111111111012 1               ";
 class SimulatedProgram {
  public:
   explicit SimulatedProgram(const std::string& settings = settingsOff,
-                            std::chrono::milliseconds timeOfDay = std::chrono::hours(12))
-      : options_(at(timeOfDay)), session_(options_, "/d", out_, nullptr, &disk) {
+                            std::chrono::milliseconds timeOfDay = std::chrono::hours(12),
+                            console::SoundMode sound = console::SoundMode::Instant)
+      : options_(at(timeOfDay, sound)), session_(options_, "/d", out_, nullptr, &disk) {
     if (!settings.empty()) memory.put("/d/par.tq3", settings);
   }
 
@@ -42,8 +43,9 @@ class SimulatedProgram {
   FaultyFileSystem disk{memory};
 
  private:
-  static console::Options at(std::chrono::milliseconds timeOfDay) {
+  static console::Options at(std::chrono::milliseconds timeOfDay, console::SoundMode sound) {
     console::Options options;
+    options.sound = sound;
     options.start = platform::LocalTime{std::chrono::days(20000) + timeOfDay};
     return options;
   }
