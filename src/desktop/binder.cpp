@@ -21,6 +21,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "desktop/grid_table.h"
 #include "desktop/keyboard_focus.h"
@@ -275,7 +276,9 @@ void Binder::show(const Component& component, Prop prop, QWidget& widget) {
       widget.setVisible(control.visible);
       break;
     case Prop::Enabled:
+      if (!control.enabled && leaveKeyboard(widget)) closedInUse_ = &widget;
       widget.setEnabled(control.enabled);
+      if (control.enabled && closedInUse_ == &widget) takeKeyboardBack(*std::exchange(closedInUse_, nullptr));
       break;
     case Prop::ToolTip:
       widget.setToolTip(plainTip(toQt(control.toolTip.get())));

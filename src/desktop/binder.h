@@ -65,8 +65,9 @@ class Binder final : public QObject {
   QHash<const QObject*, platform::Control*> controls_;
   QHash<const platform::MenuItem*, QMenu*> menus_;
   QPointer<QWidget> pressed_;
-  bool held_ = false;   // a mouse button is down
-  bool typed_ = false;  // what was done last was done by a key
+  QPointer<QWidget> closedInUse_;  // had the keyboard when it was closed
+  bool held_ = false;              // a mouse button is down
+  bool typed_ = false;             // what was done last was done by a key
   QPointF pointer_;
   std::function<void(const platform::MenuItem&)> poppedUp_;
 };

@@ -4,16 +4,28 @@
 #include <QStackedWidget>
 
 namespace desktop {
+namespace {
 
-void leaveKeyboard(const QWidget& widget) {
-  const QWidget* focused = QApplication::focusWidget();
-  if (focused != &widget && !widget.isAncestorOf(focused)) return;
+QWidget* pageOf(const QWidget& widget) {
   QWidget* page = widget.parentWidget();
   while (page != nullptr && !page->isWindow() &&
          qobject_cast<QStackedWidget*>(page->parentWidget()) == nullptr) {
     page = page->parentWidget();
   }
-  if (page != nullptr) page->setFocus();
+  return page;
+}
+
+}  // namespace
+
+bool leaveKeyboard(const QWidget& widget) {
+  const QWidget* focused = QApplication::focusWidget();
+  if (focused != &widget && !widget.isAncestorOf(focused)) return false;
+  if (QWidget* page = pageOf(widget)) page->setFocus();
+  return true;
+}
+
+void takeKeyboardBack(QWidget& widget) {
+  if (widget.isVisible() && QApplication::focusWidget() == pageOf(widget)) widget.setFocus();
 }
 
 }  // namespace desktop
