@@ -25,11 +25,12 @@ struct Program::Logic {
       : voice(program.state_, program.loop_, program.outside_.sound, program.screens_.main,
               program.screens_.player),
         tools{program.screens_, program.state_, program.loop_, program.outside_, voice},
-        reset(tools),
-        advance(tools, reset),
-        chrono(tools, advance, reset),
+        waits(voice, program.loop_),
+        reset(tools, waits),
+        advance(tools, waits),
+        chrono(tools, advance, waits),
         countdown(tools, advance),
-        handOver(tools),
+        handOver(tools, waits),
         settings(tools),
         mainScreen(tools, settings, setup.folder,
                    player::informationFichier(player::programFile(), setup.version).FileVersion),
@@ -43,6 +44,7 @@ struct Program::Logic {
 
   voice::Voice voice;
   voice::Toolbox tools;
+  runner::RideWaits waits;
   runner::Reset reset;
   runner::Advance advance;
   runner::Chrono chrono;

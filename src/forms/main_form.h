@@ -66,9 +66,9 @@ struct MainForm : platform::Form {
   ComboBox Combo6{*this, "Combo6", "", {.visible = false}};  // a film list that nothing fills
 
   // The rider's buttons.
-  Button MyButton1{*this, "MyButton1", "Start"};  // opens the countdown frame, or stops
-  Button Command7{*this, "Command7", "Pause"};    // suspends or resumes
-  Button MyButton4{*this, "MyButton4", "Annuler", {.tip = "Annuler et Remise à Zéro..."}};
+  Button MyButton1{*this, "MyButton1", "Start", {.enabled = false}};  // opens the countdown frame, or stops
+  Button Command7{*this, "Command7", "Pause", {.enabled = false}};    // suspends or resumes
+  Button MyButton4{*this, "MyButton4", "Annuler", {.enabled = false, .tip = "Annuler et Remise à Zéro..."}};
   Button MyButton5{
       *this, "MyButton5", "Séances", {.tip = "Charger, Créer ou Retour aux Séances d'Entraînements..."}};
   Button Command2{*this, "Command2", "Menu", {.tip = "Cliquer pour Afficher le Menu Principal..."}};

@@ -20,7 +20,9 @@ constexpr Field boxField(std::size_t index) {
 }  // namespace
 
 std::optional<Settings> readSettings(platform::FileSystem& files, const std::string& path) {
-  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
+  // Settings that may only be read are settings all the same.
+  using enum platform::OpenMode;
+  const auto file = files.open(path, files.exists(path) ? Read : ReadWriteCreate);
   Record record(recordWidth);
   record.read(*file, 1);
   Settings settings;

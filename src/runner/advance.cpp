@@ -7,20 +7,18 @@
 
 namespace runner {
 
-Advance::Advance(const voice::Toolbox& tools, const Reset& reset)
-    : tools_(tools), reset_(reset), main_(tools.screens.main), state_(tools.state) {}
+Advance::Advance(const voice::Toolbox& tools, RideWaits& waits)
+    : tools_(tools), waits_(waits), main_(tools.screens.main), state_(tools.state) {}
 
 void Advance::avancerSequence() {
   if (state_.nbSequences == 0) return;
   // A boundary can come up inside the waits of the one before it, which then has nothing more to say.
-  const Beginning outer = beginning_;
-  beginning_ = {reset_.cancels(), ++boundaries_};
-  try {
-    crossBoundary();
-  } catch (const Overtaken&) {
-    // The cancel has put everything to rest, or the later boundary has said what there is to say.
-  }
-  beginning_ = outer;
+  waits_.overtake();
+  struct Standing {
+    bool& flag;
+    ~Standing() { flag = false; }
+  } const standing{timeStands_ = true};
+  waits_.run([this] { crossBoundary(); });
 }
 
 void Advance::crossBoundary() {
@@ -34,7 +32,7 @@ void Advance::crossBoundary() {
   ++state_.sequenceCourante;
   sayPass();
   showRow();
-  pause();
+  waits_.pause();
   nameSounds();
   showTarget();
   const auto row = static_cast<std::size_t>(state_.sequenceCourante);
@@ -43,13 +41,17 @@ void Advance::crossBoundary() {
   playOwnAnnouncement();
   saySequenceNumber();
   // From here on time runs, although the voice that follows still delays the first tick. A ride that was
-  // paused during the waits above stays paused.
-  if (main_.Command7.caption == "Pause") main_.Timer1.enabled = true;
+  // paused during the waits above stays paused; an announcement, which has no time to hold, ends all the
+  // same.
+  timeStands_ = false;
+  if (main_.Command7.caption == "Pause" || state_.dureeSequence == 0) main_.Timer1.enabled = true;
   sayRow();
   if (main_.Check7.value == 1 && !state_.sonBraquet.empty()) tools_.voice.dire(state_.sonBraquet);
   const bool musicPlaysInRide = main_.Check10.value == 1 || main_.Check11.value == 1;
-  if (main_.Check2.value == 1 && tools_.voice.musiqueChargee() && musicPlaysInRide)
+  if (main_.Check2.value == 1 && tools_.voice.musiqueChargee() && musicPlaysInRide) {
+    waits_.forgetHold();
     state_.musiqueSuit = "oui";
+  }
 }
 
 void Advance::choosePass() {
@@ -70,16 +72,17 @@ bool Advance::isOver() const {
 
 void Advance::endRun() {
   main_.Picture6.visible = false;
+  main_.Timer10.enabled = false;
   if (main_.Check2.value == 1) {
     state_.sequenceCourante = 0;  // so that the cancel below says nothing
-    hold();
-    showMessage(main_, "Séance d'Entraînement Terminée");
-    pause();
+    waits_.hold();
+    showMessage(main_, endMessage);
+    waits_.pause();
     tools_.voice.dire("finentrainement.wav");
     tools_.voice.dire("pensezIdrater.wav");
     showIdlePicture(main_);
     main_.Label43.caption = "";
-    tools_.voice.relacherMusique();
+    waits_.release();
   } else {
     state_.etatFin = "terminer";
   }
@@ -100,9 +103,9 @@ void Advance::showRideFields() {
 // The hold and the release come at every boundary, the number only before the first row of a pass.
 void Advance::sayPass() {
   if (main_.Check2.value != 1 || main_.Check3.value != 1 || state_.sonSeance.empty()) return;
-  hold();
+  waits_.hold();
   if (state_.sequenceCourante == 1) tools_.voice.dire(state_.sonSeance);
-  tools_.voice.relacherMusique();
+  waits_.release();
 }
 
 void Advance::showRow() {
@@ -156,13 +159,13 @@ void Advance::showTarget() {
 void Advance::playOwnAnnouncement() {
   const auto row = static_cast<std::size_t>(state_.sequenceCourante);
   if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) return;
-  hold();
+  waits_.hold();
   if (main_.Check9.value == 1) tools_.voice.jouerAnnonce(state_.plan.planAnnonce.at(row));
 }
 
 void Advance::saySequenceNumber() {
   state_.sonNumSequence = sequenceNumberSound(state_.sequenceCourante);
-  if (main_.Check4.value == 1 && !isAnnouncement()) sayHolding(state_.sonNumSequence);
+  if (main_.Check4.value == 1 && !isAnnouncement()) waits_.sayHolding(state_.sonNumSequence);
 }
 
 void Advance::sayRow() {
@@ -171,19 +174,19 @@ void Advance::sayRow() {
     sayKind();
     if (main_.Check5.value == 1 && !state_.sonCadence.empty()) tools_.voice.dire(state_.sonCadence);
     sayChainring();
-    pause();
+    waits_.pause();
   }
-  if (!isAnnouncement()) tools_.voice.relacherMusique();
+  if (!isAnnouncement()) waits_.release();
 }
 
 // The cadence alone holds the music, too, but does not say the kind.
 void Advance::sayKind() {
   const bool wanted = main_.Check5.value == 1 || main_.Check13.value == 1;
   if (!wanted || isAnnouncement() || state_.sonSequence.empty()) return;
-  state_.sonDemande = state_.sonSequence;
-  tools_.voice.nommerSon();
-  hold();
-  if (main_.Check13.value == 1) tools_.voice.jouerSon();
+  tools_.voice.nommer(state_.sonSequence);
+  waits_.hold();
+  // Named again: who paused during the hold has used the one slot of the sounds.
+  if (main_.Check13.value == 1) tools_.voice.dire(state_.sonSequence);
 }
 
 void Advance::sayChainring() {
@@ -198,29 +201,6 @@ void Advance::sayChainring() {
 
 bool Advance::isAnnouncement() const {
   return main_.Label11.caption == std::string(model::vocalAnnouncement);
-}
-
-void Advance::pause() {
-  tools_.voice.attendre(1);
-  leaveIfOvertaken();
-}
-
-void Advance::hold() {
-  tools_.voice.retenirMusique();
-  leaveIfOvertaken();
-}
-
-void Advance::sayHolding(const std::string& name) {
-  state_.sonDemande = name;
-  tools_.voice.nommerSon();
-  hold();
-  tools_.voice.jouerSon();
-  tools_.voice.relacherMusique();
-}
-
-void Advance::leaveIfOvertaken() const {
-  const bool overtaken = reset_.cancels() != beginning_.cancels || boundaries_ != beginning_.boundary;
-  if (overtaken || tools_.loop.quitting()) throw Overtaken{};
 }
 
 }  // namespace runner

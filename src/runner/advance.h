@@ -1,26 +1,21 @@
 // The boundary between two sequences: what comes next, on the screen and in the voice, or the end of the run.
 #pragma once
 
-#include "runner/reset.h"
+#include "runner/ride_waits.h"
 #include "voice/toolbox.h"
 
 namespace runner {
 
 class Advance {
  public:
-  Advance(const voice::Toolbox& tools, const Reset& reset);
+  Advance(const voice::Toolbox& tools, RideWaits& waits);
 
   // Runs at each boundary. When it returns the chrono runs on the new sequence, or the run has ended.
   void avancerSequence();
+  // A boundary is at work that has not yet come to where time runs again.
+  [[nodiscard]] bool timeStands() const { return timeStands_; }
 
  private:
-  // The rider cancelled during one of the waits, or the next boundary came: nothing more is to be done.
-  struct Overtaken {};
-  struct Beginning {
-    std::uint64_t cancels = 0;
-    std::uint64_t boundary = 0;
-  };
-
   void crossBoundary();
   void choosePass();
   [[nodiscard]] bool isOver() const;
@@ -38,18 +33,12 @@ class Advance {
   void sayChainring();
 
   [[nodiscard]] bool isAnnouncement() const;
-  // The voice's waits, after which the boundary may be overtaken.
-  void pause();
-  void hold();
-  void sayHolding(const std::string& name);
-  void leaveIfOvertaken() const;
 
   voice::Toolbox tools_;
-  const Reset& reset_;
+  RideWaits& waits_;
   forms::MainForm& main_;
   model::SharedState& state_;
-  std::uint64_t boundaries_ = 0;
-  Beginning beginning_;
+  bool timeStands_ = false;
 };
 
 }  // namespace runner

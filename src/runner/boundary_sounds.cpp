@@ -32,7 +32,7 @@ constexpr std::array<CaptionSound, 17> sequences{{{"Plat", "Plat"},
                                                   {"Vélocité", "velocite"},
                                                   {"Pédalage Souple", "pedalagesouple"}}};
 
-constexpr int lastNumberedRow = 20;
+constexpr int lastNumber = 20;  // of a row or a pass
 
 // The whole number that `text` is, without sign or leading zero; -1 where it is none.
 int exactNumber(std::string_view text) {
@@ -76,11 +76,11 @@ std::string chainringSound(const std::string& caption) {
 }
 
 std::string sequenceNumberSound(int row) {
-  return row > lastNumberedRow ? "nvsequence.wav" : "seq" + std::to_string(row) + ".wav";
+  return row > lastNumber ? "nvsequence.wav" : "seq" + std::to_string(row) + ".wav";
 }
 
 std::string passSound(int pass) {
-  return "seance" + std::to_string(pass) + ".wav";
+  return pass > lastNumber ? "nvseance.wav" : "seance" + std::to_string(pass) + ".wav";
 }
 
 }  // namespace runner

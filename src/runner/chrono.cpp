@@ -20,8 +20,8 @@ std::string percentPart(const std::string& target) {
 
 }  // namespace
 
-Chrono::Chrono(const voice::Toolbox& tools, Advance& advance, const Reset& reset)
-    : tools_(tools), advance_(advance), reset_(reset), main_(tools.screens.main), state_(tools.state) {
+Chrono::Chrono(const voice::Toolbox& tools, Advance& advance, RideWaits& waits)
+    : tools_(tools), advance_(advance), waits_(waits), main_(tools.screens.main), state_(tools.state) {
   main_.Timer1.tick.handle([this] { tickChrono(); });
   main_.Timer3.tick.handle([this] { tickSurveillance(); });
   main_.Timer9.tick.handle([this] { tickEcranVeille(); });
@@ -32,9 +32,17 @@ Chrono::Chrono(const voice::Toolbox& tools, Advance& advance, const Reset& reset
 }
 
 void Chrono::tickChrono() {
+  waits_.run([this] { count(); });
+}
+
+void Chrono::count() {
   showTarget();
   countTotal();
-  if (state_.dureeSequence != 0 && !countSecond()) return;
+  if (state_.dureeSequence != 0) {
+    if (countSecond() == Sequence::GoesOn) return;
+    main_.Label6.caption = "00";
+    waits_.pause();
+  }
   main_.Timer1.enabled = false;
   for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) box->text = "00";
   if (state_.nbSequences == 0) return;
@@ -55,6 +63,8 @@ void Chrono::showTarget() {
 
 // The total is kept in the label and read back from it, and so always in whole seconds.
 void Chrono::countTotal() {
+  // A ride that comes out of a paused countdown has not ridden a second yet.
+  if (state_.nbSequences != 0 && state_.sequenceCourante == 0) return;
   const auto row = static_cast<std::size_t>(state_.sequenceCourante);
   if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) {
     main_.Label40.caption = model::formatTime(state_.dureeTotale - state_.pasChrono);
@@ -62,8 +72,7 @@ void Chrono::countTotal() {
   state_.dureeTotale = model::timeValue(main_.Label40.caption.get());
 }
 
-bool Chrono::countSecond() {
-  const std::uint64_t before = reset_.cancels();
+Chrono::Sequence Chrono::countSecond() {
   main_.Label16.caption = std::to_string(state_.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   state_.ecouleSequence += state_.pasChrono;
   // Through the text and back: sums of many seconds drift off the whole ones, and the test below needs them.
@@ -73,21 +82,18 @@ bool Chrono::countSecond() {
   main_.Label5.caption = platform::mid(left, 4, 2);
   main_.Label6.caption = platform::right(left, 2);
   state_.moitieSequence = model::formatTime(state_.dureeSequence / 2);
-  if (model::timeValue(state_.moitieSequence) == state_.restantSequence && main_.Check8.value == 1) {
-    tools_.voice.direEnRetenant("miparcours.wav");
-    if (reset_.cancels() != before) return false;
-  }
-  for (const auto* digits : {&main_.Label4, &main_.Label5, &main_.Label6}) {
-    if (model::lenientNumber(digits->caption.get()) != 0) return false;
-  }
-  main_.Label6.caption = "00";
-  tools_.voice.attendre(1);
-  return reset_.cancels() == before && !tools_.loop.quitting();
+  const bool halfWay = model::timeValue(state_.moitieSequence) == state_.restantSequence;
+  if (halfWay && main_.Check8.value == 1) waits_.sayHolding("miparcours.wav");
+  const auto digits = {&main_.Label4, &main_.Label5, &main_.Label6};
+  const bool runOut = std::all_of(digits.begin(), digits.end(), [](const auto* label) {
+    return model::lenientNumber(label->caption.get()) == 0;
+  });
+  return runOut ? Sequence::HasRunOut : Sequence::GoesOn;
 }
 
 void Chrono::tickSurveillance() {
-  const bool open = state_.dureeSequence != 0;
-  for (auto* button : {&main_.MyButton1, &main_.MyButton4, &main_.Command7}) button->enabled = open;
+  // What is paused can always be resumed, whatever the row.
+  openRideButtons(main_, state_.dureeSequence != 0 || main_.Command7.caption == "REPRENDRE");
   const auto boxes = {&main_.Check3, &main_.Check4, &main_.Check5, &main_.Check6,
                       &main_.Check7, &main_.Check8, &main_.Check9, &main_.Check13};
   if (std::all_of(boxes.begin(), boxes.end(), [](const auto* box) { return box->value == 0; })) {
@@ -97,7 +103,7 @@ void Chrono::tickSurveillance() {
 
 void Chrono::tickPanneau() {
   main_.Timer10.enabled = false;
-  main_.Picture6.visible = true;
+  if (!showsEndMessage(main_)) main_.Picture6.visible = true;
 }
 
 void Chrono::stepAsidePanel() {

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "runner/advance.h"
-#include "runner/reset.h"
+#include "runner/ride_waits.h"
 #include "voice/toolbox.h"
 
 namespace runner {
 
 class Chrono {
  public:
-  Chrono(const voice::Toolbox& tools, Advance& advance, const Reset& reset);
+  Chrono(const voice::Toolbox& tools, Advance& advance, RideWaits& waits);
 
   void tickChrono();
   void tickSurveillance();
@@ -19,13 +19,15 @@ class Chrono {
  private:
   void showTarget();
   void countTotal();
-  // One second off the sequence; false while it goes on, or when a cancel has ended it.
-  [[nodiscard]] bool countSecond();
+  void count();
+  enum class Sequence { GoesOn, HasRunOut };
+  // One second off the sequence.
+  Sequence countSecond();
   void stepAsidePanel();
 
   voice::Toolbox tools_;
   Advance& advance_;
-  const Reset& reset_;
+  RideWaits& waits_;
   forms::MainForm& main_;
   model::SharedState& state_;
 };

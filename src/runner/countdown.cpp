@@ -32,6 +32,10 @@ Countdown::Countdown(const voice::Toolbox& tools, Advance& advance)
 }
 
 void Countdown::lancerCompteRebours() {
+  if (state_.nbSequences == 0 && state_.dureeSequence == 0) {
+    tellNothingToRide(main_);
+    return;
+  }
   main_.Command7.caption = "Pause";
   if (main_.MyButton3.caption == "Redémarrer Chrono") main_.MyButton3.caption = "Démarrer Chrono";
   main_.Label9.caption = main_.Combo5.text;
@@ -63,6 +67,7 @@ void Countdown::tickCompteRebours() {
   main_.MyFrame2.visible = false;
   hideTimeBoxesUnderSettings(main_);
   main_.Timer2.enabled = false;
+  clearMessage(main_);
   main_.Label40.caption = model::formatTime(state_.dureeTotale);
   main_.Picture6.visible = true;
   if (state_.nbSequences == 0) {
@@ -76,17 +81,25 @@ void Countdown::tickCompteRebours() {
 
 void Countdown::basculerPause() {
   if (main_.Command7.caption == "Pause") {
-    main_.Timer1.enabled = false;
+    if (!somethingRuns()) return;
+    // An announcement has no time to hold: it ends by itself, and the pause then holds the row behind it.
+    if (state_.dureeSequence != 0) main_.Timer1.enabled = false;
     main_.Timer2.enabled = false;
     if (main_.Check2.value == 1) tools_.voice.dire("pausedemande.wav");
     main_.Command7.caption = "REPRENDRE";
   } else if (main_.Command7.caption == "REPRENDRE") {
     tools_.voice.dire("repriseentrainement.wav");
-    main_.Timer1.enabled = true;
+    // Before a row's time begins, its boundary starts the chrono.
+    main_.Timer1.enabled = !advance_.timeStands();
     main_.Timer2.enabled = false;
     main_.Timer10.enabled = true;
     main_.Command7.caption = "Pause";
+    showDigits(main_);
   }
+}
+
+bool Countdown::somethingRuns() const {
+  return main_.Timer1.enabled || main_.Timer2.enabled || state_.sequenceCourante > 0;
 }
 
 void Countdown::leaveFrame() {

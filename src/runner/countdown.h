@@ -15,6 +15,7 @@ class Countdown {
   void basculerPause();
 
  private:
+  [[nodiscard]] bool somethingRuns() const;
   void leaveFrame();
   void chooseLength();
   void chooseManualTime();

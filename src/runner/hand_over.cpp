@@ -10,8 +10,12 @@
 
 namespace runner {
 
-HandOver::HandOver(const voice::Toolbox& tools)
-    : tools_(tools), main_(tools.screens.main), editor_(tools.screens.editor), state_(tools.state) {
+HandOver::HandOver(const voice::Toolbox& tools, RideWaits& waits)
+    : tools_(tools),
+      waits_(waits),
+      main_(tools.screens.main),
+      editor_(tools.screens.editor),
+      state_(tools.state) {
   editor_.MyButton5.click.handle([this] { validerSeance(); });
 }
 
@@ -30,7 +34,11 @@ void HandOver::validerSeance() {
   state_.dureeTotale = model::timeValue(grid.text(1, model::column::duration));
   const int times = model::lenientInteger(grid.text(1, model::column::times));
   state_.nbSeances = times > 0 ? times : 1;
-  if (grid.rowCount() < 2) return;
+  if (grid.rowCount() < 2) {
+    main_.MyButton4.click();
+    tellNothingToRide(main_);
+    return;
+  }
   fillPlan();
   // Only to open the start button, until the first sequence replaces it.
   state_.dureeSequence = model::timeValue("00:00:03");
@@ -49,6 +57,11 @@ void HandOver::settleOtherForms() {
 }
 
 void HandOver::resetRide() {
+  // The menu leads to the editor from the midst of a ride, too.
+  waits_.overtake();
+  waits_.forgetHold();
+  main_.Timer1.enabled = false;
+  main_.Timer2.enabled = false;
   show({&main_.Label4, &main_.Label5, &main_.Label6, &main_.Image4});
   state_.sequenceCourante = 0;
   state_.seanceCourante = 0;

@@ -1,13 +1,14 @@
 // From the editor to the ride: the grid's rows become the run plan, and the main screen comes back.
 #pragma once
 
+#include "runner/ride_waits.h"
 #include "voice/toolbox.h"
 
 namespace runner {
 
 class HandOver {
  public:
-  explicit HandOver(const voice::Toolbox& tools);
+  HandOver(const voice::Toolbox& tools, RideWaits& waits);
 
   void validerSeance();
 
@@ -18,6 +19,7 @@ class HandOver {
   void showTitle();
 
   voice::Toolbox tools_;
+  RideWaits& waits_;
   forms::MainForm& main_;
   forms::CreerCycle& editor_;
   model::SharedState& state_;

@@ -7,22 +7,23 @@
 
 namespace runner {
 
-Reset::Reset(const voice::Toolbox& tools) : tools_(tools), main_(tools.screens.main), state_(tools.state) {
+Reset::Reset(const voice::Toolbox& tools, RideWaits& waits)
+    : tools_(tools), waits_(waits), main_(tools.screens.main), state_(tools.state) {
   main_.MyButton4.click.handle([this] { annulerSeance(); });
   main_.MyButton1.click.handle([this] { boutonStart(); });
 }
 
 void Reset::annulerSeance() {
-  ++cancels_;
+  waits_.overtake();
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
-  if (state_.etatFin != "terminer") {
-    if (state_.sequenceCourante > 0) {
-      showIdlePicture(main_);
-      tools_.voice.dire("seanceAnnule.wav");
-    }
-    main_.Command7.caption = "Pause";
+  if (state_.etatFin != "terminer" && state_.sequenceCourante > 0) {
+    showIdlePicture(main_);
+    tools_.voice.dire("seanceAnnule.wav");
   }
+  main_.Command7.caption = "Pause";
+  openRideButtons(main_, false);
+  if (!showsEndMessage(main_)) clearMessage(main_);
   showIdlePicture(main_);
   main_.Label18.caption = "Prêt pour une Nouvelle Séance d'Entraînement";
   hide({&main_.Label1, &main_.Label2, &main_.Label3, &main_.Combo1, &main_.Combo2, &main_.Combo3,
@@ -40,6 +41,7 @@ void Reset::annulerSeance() {
   }
   for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) box->text = "00";
   if (state_.ecranVeilleActif == "oui") tools_.outside.screenSaver.setActive(true);
+  waits_.endHold();
 }
 
 void Reset::boutonStart() {
@@ -51,13 +53,16 @@ void Reset::boutonStart() {
   if (main_.MyButton1.caption == "Start") {
     main_.MyButton1.caption = "Stop";
     hide({&main_.Combo1, &main_.Combo2, &main_.Combo3, &main_.Combo4});
+    clearMessage(main_);
     main_.MyFrame2.visible = true;
     main_.MyButton3.enabled = true;
   } else if (main_.MyButton1.caption == "Stop") {
     main_.MyButton3.caption = "Démarrer Chrono";
-    tools_.voice.retenirMusique();
-    main_.MyButton1.caption = "Start";
-    main_.Timer1.enabled = false;
+    waits_.run([this] {
+      waits_.silenceMusic();
+      main_.MyButton1.caption = "Start";
+      main_.Timer1.enabled = false;
+    });
   }
 }
 
@@ -70,6 +75,10 @@ void Reset::startManualChrono() {
   for (std::size_t i = 0; i < boxes.size(); ++i) boxes.at(i)->text = chosen.at(i);
   state_.dureeSequence = model::timeValue(chosen[0] + ":" + chosen[1] + ":" + chosen[2]);
   state_.dureeTotale = state_.dureeSequence;
+  if (state_.dureeSequence == 0) {
+    tellNothingToRide(main_);
+    return;
+  }
   main_.Timer2.enabled = true;
 }
 

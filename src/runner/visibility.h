@@ -31,6 +31,19 @@ inline void hideTimeBoxesUnderSettings(forms::MainForm& main) {
   if (main.Picture1.visible) hide({&main.Combo1, &main.Combo2, &main.Combo3});
 }
 
+// The buttons that stop, suspend and cancel a ride.
+inline void openRideButtons(forms::MainForm& main, bool open) {
+  for (auto* button : {&main.MyButton1, &main.MyButton4, &main.Command7}) button->enabled = open;
+}
+
+// Where a start finds neither a plan nor a time: the rider reads why, and can still choose a time.
+inline void tellNothingToRide(forms::MainForm& main) {
+  main.MyFrame2.visible = false;
+  main.Label18.caption = "Rien à Parcourir : Composez ou Chargez une Séance d'Entraînement";
+  show({&main.Label18, &main.Combo1, &main.Combo2, &main.Combo3});
+  hideTimeBoxesUnderSettings(main);
+}
+
 // A large message in the place of the heart-rate target.
 inline void showMessage(forms::MainForm& main, const char* text) {
   main.Label44.visible = false;
@@ -38,6 +51,18 @@ inline void showMessage(forms::MainForm& main, const char* text) {
   main.Label44.top = 120;
   main.Label44.caption = text;
   main.Label44.visible = true;
+}
+
+inline constexpr const char* endMessage = "Séance d'Entraînement Terminée";
+
+// The one message that outlives its ride.
+inline bool showsEndMessage(const forms::MainForm& main) {
+  return main.Label44.caption == endMessage;
+}
+
+inline void clearMessage(forms::MainForm& main) {
+  main.Label44.visible = false;
+  main.Label44.caption = "";
 }
 
 }  // namespace runner

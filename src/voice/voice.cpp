@@ -49,18 +49,14 @@ void Voice::relacherMusique() {
   if (musiqueCede()) state_.musiqueSuit = "oui";
 }
 
-void Voice::dire(const std::string& name) {
+void Voice::nommer(const std::string& name) {
   state_.sonDemande = name;
   nommerSon();
-  jouerSon();
 }
 
-void Voice::direEnRetenant(const std::string& name) {
-  state_.sonDemande = name;
-  nommerSon();
-  retenirMusique();
+void Voice::dire(const std::string& name) {
+  nommer(name);
   jouerSon();
-  relacherMusique();
 }
 
 }  // namespace voice

@@ -33,10 +33,10 @@ class Voice {
   // Under the same test: orders it to go on. The player does so when events are next served.
   void relacherMusique();
 
+  // Asks for the sound of this name.
+  void nommer(const std::string& name);
   // Names and plays in one.
   void dire(const std::string& name);
-  // The same with the music held before and released behind.
-  void direEnRetenant(const std::string& name);
 
   [[nodiscard]] bool musiqueChargee() const { return !player_.Text1.text.get().empty(); }
 

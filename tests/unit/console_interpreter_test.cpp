@@ -18,6 +18,7 @@ class InterpreterTest : public testing::Test {
     for (platform::Form* form : screens_.all()) form->attach(loop_);
     loop_.onFault([this](const std::string& text) { journal_.write("fault", {text}); });
     console::watchPopUps(screens_, interpreter_);
+    main_.MyButton1.enabled = true;
     main_.show();
     editor_.show();
     for (int column = 1; column <= 3; ++column) editor_.ListView1.addColumn({"", column == 1 ? 0 : 100});
