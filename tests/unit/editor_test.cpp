@@ -14,7 +14,7 @@ struct Editor : testing::Test {
   Editor() {
     EXPECT_TRUE(program.start());
     program.run("press MainForm.mnCreat\n" + row("2", "Plat", "05") + "press CreerCycle.MyButton1\n" +
-                row("3", "Fond", "01") + "press CreerCycle.Command1");
+                row("3", "Fond", "01") + "call CreerCycle.Command1");
   }
   static std::string row(const std::string& number, const std::string& kind, const std::string& seconds) {
     return "cell CreerCycle.ListView1 " + number + " 4\npick CreerCycle.Combo1 " + kind +
@@ -55,6 +55,52 @@ TEST_F(Editor, AFullDiskAtAnyWriteKeepsTheListAndTellsWhatIsLost) {
   program.disk.heal();
   program.run(save);
   EXPECT_EQ(program.list().rowCount(), 2);
+}
+
+TEST_F(Editor, ADurationTakesEntriesOfItsListsAloneHoweverItsBoxIsLeft) {
+  const std::string enter = "key CreerCycle.Combo3 Enter\nadvance 0.2";
+  const std::string elsewhere = "cell CreerCycle.ListView1 3 5";
+  struct Case {
+    const char* typed;
+    std::string leave;
+    const char* duration;
+    const char* total;
+  };
+  for (const Case& c : {Case{"75", enter, "00:00:05", "00:00:06"},
+                        {"7", enter, "00:07:05", "00:07:06"},
+                        {"99", "pick CreerCycle.Combo4 05\nadvance 0.2", "00:07:05", "00:07:06"},
+                        {"abc", elsewhere, "00:07:05", "00:07:06"},
+                        {"", elsewhere, "00:07:05", "00:07:06"},
+                        {" 8", elsewhere, "00:08:05", "00:08:06"},
+                        {"60", "press CreerCycle.mnImprim", "00:08:05", "00:08:06"},
+                        {"9", "press CreerCycle.MyButton5", "00:09:05", "00:09:06"}}) {
+    program.run("cell CreerCycle.ListView1 2 10\nset CreerCycle.Combo3.text " + std::string(c.typed) + "\n" +
+                c.leave);
+    EXPECT_EQ(form.ListView1.text(2, column::duration), c.duration) << c.typed;
+    EXPECT_EQ(form.ListView1.text(1, column::duration), c.total) << c.typed;
+    EXPECT_EQ(form.ListView1.text(3, column::duration), "00:00:01");
+  }
+  EXPECT_EQ(program.state().plan.planDuree.at(1), "00:09:05");
+}
+
+TEST_F(Editor, ATextThatIsNoDurationStaysOutOfThePlan) {
+  for (const char* text : {"", "7", "00:75:31", "00:7:01", "1:2:3", "24:00:00", "bientôt", "-----"}) {
+    program.list().setText(3, column::duration, text);
+    program.list().setText(3, column::announcement, text == std::string("-----") ? " " : "-----");
+    EXPECT_THAT(program.run("press CreerCycle.MyButton5\njournal dialog"), testing::HasSubstr("Ligne (3)"));
+    EXPECT_TRUE(form.visible);
+    EXPECT_EQ(program.state().nbSequences, 0);
+    EXPECT_EQ(program.list().look(3, column::duration), model::look::unfinished) << text;
+    EXPECT_EQ(program.list().selectedRow(), 3);
+    EXPECT_FALSE(form.MyButton5.visible) << text;
+    // The way on is the duration's own box, where the cell can be opened.
+    program.list().setText(3, column::duration, text == std::string("-----") ? "00:00:00" : text);
+    program.run(
+        "cell CreerCycle.ListView1 3 10\npick CreerCycle.Combo4 01\ncall CreerCycle.Command1\nadvance 1");
+    EXPECT_TRUE(form.MyButton5.visible) << text;
+  }
+  program.run("press CreerCycle.MyButton5");
+  EXPECT_EQ(program.state().nbSequences, 2);
 }
 
 }  // namespace
