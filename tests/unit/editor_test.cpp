@@ -103,4 +103,29 @@ TEST_F(Editor, ATextThatIsNoDurationStaysOutOfThePlan) {
   EXPECT_EQ(program.state().nbSequences, 2);
 }
 
+std::string session(int announced, int records) {
+  std::string bytes(static_cast<std::size_t>(150 * (records + 1)), ' ');
+  bytes.replace(0, 1, std::to_string(announced + 1)).replace(84, 4, "ver2");
+  for (std::size_t at = 165; at < bytes.size(); at += 150) {
+    bytes.replace(at, 4, "Plat").replace(at + 61, 8, "00:01:00").replace(at + 69, 5, "-----");
+  }
+  return bytes;
+}
+
+TEST_F(Editor, AFileThatEndsTooEarlyIsToldAndItsBlankRowsAreRed) {
+  for (const auto& [records, told] : {std::pair{1, true}, {0, true}, {3, false}}) {
+    program.memory.put("/d/chronodat/Court.tq2", session(3, records));
+    const std::string said = program.run(
+        "press CreerCycle.Command4\nanswer Court.tq2\npress CreerCycle.MyButton4\nadvance 1\njournal dialog");
+    const std::string counts = "(3) Séquence(s), mais (" + std::to_string(records) + ")";
+    EXPECT_EQ(said.find(counts) != std::string::npos, told) << said;
+    ASSERT_EQ(program.list().rowCount(), 4);
+    for (int row = 2; row <= 4; ++row) {
+      EXPECT_EQ(program.list().look(row, column::sequence) == model::look::unfinished, row - 1 > records)
+          << row;
+    }
+    EXPECT_NE(form.MyButton5.visible, told);
+  }
+}
+
 }  // namespace
