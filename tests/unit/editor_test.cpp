@@ -128,4 +128,55 @@ TEST_F(Editor, AFileThatEndsTooEarlyIsToldAndItsBlankRowsAreRed) {
   }
 }
 
+TEST(EditorUndo, BringsBackTheListAndAllThatIsSaidOfIt) {
+  const std::string load = "answer Court.tq2\npress CreerCycle.MyButton4\nadvance 1\n";
+  const std::string cycle = "press CreerCycle.MyButton3\n";
+  const std::string words =
+      "get CreerCycle.Label8\nget CreerCycle.Label9\nget MainForm.MyFrame1\nget CreerCycle.MyButton3\n"
+      "get CreerCycle.MyButton4\nvar seanceTitre\n";
+  const std::string state = words + "rows CreerCycle.ListView1";
+  for (const auto& [before, action] : std::initializer_list<std::pair<std::string, std::string>>{
+           {load, "press CreerCycle.Command4"},
+           {load, cycle},
+           {load + cycle, cycle},
+           {load, "press CreerCycle.MyButton1"},
+           {cycle, load},
+           {load, "answer a.tq2\npress CreerCycle.Command6"},
+           {load, "cell CreerCycle.ListView1 3 12 right\npress CreerCycle.mnsupprim"},
+           {load, "cell CreerCycle.ListView1 3 10\npick CreerCycle.Combo3 20"}}) {
+    support::SimulatedProgram program;
+    program.memory.put("/d/chronodat/Court.tq2", session(2, 2));
+    ASSERT_TRUE(program.start());
+    const auto width = [&] { return program.list().column(column::cycleName).width; };
+    // A click on the total brings it up to date.
+    const std::string summed = "\ncell CreerCycle.ListView1 1 10\nadvance 1\n" + state;
+    const std::string was = program.run("press MainForm.mnCreat\n" + before + summed);
+    const int wide = width();
+    const std::string done = program.run(action + "\nadvance 0.01\n" + words);
+    program.run("press CreerCycle.mnUndo");
+    EXPECT_EQ(program.run(state), was) << action;
+    EXPECT_EQ(width(), wide) << action;
+    program.run("press CreerCycle.mnRedo");
+    const std::string is = program.run(state);
+    EXPECT_TRUE(is.starts_with(done)) << action << is << done;
+    EXPECT_EQ(is, program.run(summed)) << action;
+    EXPECT_NE(is, was) << action;
+  }
+}
+
+TEST_F(Editor, WhatChangesNothingIsNoStepAndTheTotalIsExactAtOnce) {
+  for (const char* action : {"press CreerCycle.MyButton3\npress CreerCycle.mnUndo",
+                             "cell CreerCycle.ListView1 2 4\npick CreerCycle.Combo1 Plat",
+                             "cell CreerCycle.ListView1 2 13\npick CreerCycle.Combo1 75 %"}) {
+    program.run(std::string(action) + "\nadvance 0.01\npress CreerCycle.mnUndo");
+    EXPECT_EQ(program.list().text(3, column::duration), "00:00:00") << action;
+    program.run("press CreerCycle.mnRedo\nadvance 0.01");
+  }
+  // The total of two durations comes behind the second.
+  const std::string pick = "cell CreerCycle.ListView1 3 10\npick CreerCycle.Combo3 ";
+  program.run(pick + "20\ncell CreerCycle.ListView1 3 5\n" + pick +
+              "30\nadvance 0.3\npress CreerCycle.mnUndo");
+  EXPECT_EQ(program.list().text(1, column::duration), "00:20:06");
+}
+
 }  // namespace
