@@ -21,7 +21,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
       level_(connection_),
       shell_(dialogs_),
       volume_(connection_),
-      printer_(dialogs_),
+      printer_(dialogs_, [this] { repaintBlocking(); }),
       program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_, volume_, printer_},
                {folder, VENTORIA_VERSION, {}, platform::documentsFolder()}),
       windows_(program_, system, choice) {
@@ -94,6 +94,12 @@ void DesktopProgram::askToClose() {
   if (closing_) return;
   closing_ = true;
   windows_.binder().run([this] { program_.screens().main.Command4.click(); });
+}
+
+// Between two pages: what the rider presses meanwhile must not end the document under the printer's hands.
+void DesktopProgram::repaintBlocking() {
+  const platform::EventLoop::Blocking blocking(program_.loop());
+  repaint();
 }
 
 void DesktopProgram::repaint() {

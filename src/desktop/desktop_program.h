@@ -42,6 +42,7 @@ class DesktopProgram final : public QObject {
   void endWhenQuitting();
   void askToClose();
   void repaint();
+  void repaintBlocking();
 
   QtClock clock_;
   PulseConnection connection_;

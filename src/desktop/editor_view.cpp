@@ -14,6 +14,7 @@
 #include "desktop/within.h"
 #include "model/grid_rows.h"
 #include "model/time_value.h"
+#include "platform/text.h"
 #include "ui_creer_cycle.h"
 
 namespace desktop {
@@ -86,7 +87,7 @@ void EditorView::whenBound() {
     box->installEventFilter(this);
   }
   for (QComboBox* box : {ui_->Combo2, ui_->Combo3, ui_->Combo4}) {
-    connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::enterDuration);
+    connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::leaveCellEditor);
   }
   ui_->Combo6->lineEdit()->setPlaceholderText(ui_->Combo6->accessibleName());
 }
@@ -101,24 +102,26 @@ void EditorView::focusCellEditor() {
   }
 }
 
-// A duration is written as it is picked; a number that was typed is a pick, too.
-void EditorView::enterDuration() {
-  const auto* box = qobject_cast<const QComboBox*>(sender()->parent());
-  const int line = box->findText(box->currentText().rightJustified(2, QLatin1Char('0')));
-  auto& control = dynamic_cast<platform::ComboBox&>(form_.find(fromQt(box->objectName())));
-  if (line >= 0) binder_.run([&control, line] { control.pick(line); });
-  leaveCellEditor();
-}
-
 void EditorView::leaveCellEditor() {
   binder_.run([this] { form_.Command1.click(); });
   ui_->ListView1->setFocus();
+}
+
+// Otherwise leaving would take it.
+void EditorView::dropTypedDuration() {
+  binder_.run([this] {
+    const std::string& kept = form_.Label7.caption;
+    form_.Combo2.text = platform::left(kept, 2);
+    form_.Combo3.text = platform::mid(kept, 4, 2);
+    form_.Combo4.text = platform::mid(kept, 7, 2);
+  });
 }
 
 bool EditorView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
     return QObject::eventFilter(watched, event);
   }
+  dropTypedDuration();
   leaveCellEditor();
   return true;
 }

@@ -35,7 +35,7 @@ class EditorView final : public QObject {
 
  private:
   void focusCellEditor();
-  void enterDuration();
+  void dropTypedDuration();
   void leaveCellEditor();
   void placeFloating();
   void refreshFilms();

@@ -104,6 +104,7 @@ QRectF QtPrinter::area() const {
 }
 
 void QtPrinter::paintPicture(const platform::PageGrid& grid, int left, int top) {
+  onPage_();
   if (!page()) return;
   const double unit = printer_->resolution() / 1440.0;
   bottom_ = paintGrid(painter_, area().adjusted(left * unit, top * unit, 0, 0), grid,
@@ -122,8 +123,12 @@ void QtPrinter::endDocument() {
 }
 
 void QtPrinter::killDocument() {
-  if (painter_.isActive() && file_.isEmpty()) printer_->abort();
+  const bool begun = painter_.isActive();
+  const QString file = file_;
+  if (begun && file.isEmpty()) printer_->abort();
   drop();
+  // A file that lacks pages is of no use to anybody; a device that the rider named is not ours to remove.
+  if (begun && QFileInfo(file).isFile()) QFile::remove(file);
 }
 
 void QtPrinter::finish() {

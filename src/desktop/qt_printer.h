@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QPrinter>
+#include <functional>
 #include <memory>
 
 #include "platform/dialogs.h"
@@ -13,7 +14,10 @@ namespace desktop {
 
 class QtPrinter final : public platform::Printer {
  public:
-  explicit QtPrinter(platform::Dialogs& dialogs) : dialogs_(dialogs) {}
+  // `onPage` is called as each page is begun, so that the rider can be shown how far it is.
+  explicit QtPrinter(
+      platform::Dialogs& dialogs, std::function<void()> onPage = [] {})
+      : dialogs_(dialogs), onPage_(std::move(onPage)) {}
   ~QtPrinter() override;
 
   void setOrientation(platform::PageOrientation orientation) override { orientation_ = orientation; }
@@ -37,6 +41,7 @@ class QtPrinter final : public platform::Printer {
   [[nodiscard]] QRectF area() const;
 
   platform::Dialogs& dialogs_;
+  std::function<void()> onPage_;
   platform::PageOrientation orientation_ = platform::PageOrientation::Landscape;
   platform::ColourMode mode_ = platform::ColourMode::Colour;
   platform::PrintQuality quality_ = platform::PrintQuality::High;

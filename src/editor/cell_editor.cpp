@@ -1,5 +1,6 @@
 #include "editor/cell_editor.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "editor/cell_texts.h"
@@ -7,6 +8,7 @@
 #include "editor/row_rules.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
+#include "model/time_value.h"
 #include "model/vocabulary.h"
 #include "platform/text.h"
 
@@ -33,6 +35,8 @@ CellEditor::CellEditor(const voice::Toolbox& tools, heartrate::Calculator& calcu
   form_.Combo1.validate.handle([this] { ecouterAnnonce(); });
   for (auto* box : {&form_.Combo2, &form_.Combo3, &form_.Combo4}) {
     box->click.handle([this] { validerDuree(); });
+    box->enter.handle([this] { validerDuree(); });
+    box->validate.handle([this] { finishDuration(); });
   }
   form_.Timer1.tick.handle([this] { placerEditeur(); });
   form_.Timer2.tick.handle([this] { hideBadge(); });
@@ -40,6 +44,7 @@ CellEditor::CellEditor(const voice::Toolbox& tools, heartrate::Calculator& calcu
 }
 
 void CellEditor::endEditing() {
+  finishDuration();
   form_.Picture2.visible = false;
   form_.Combo1.visible = false;
   form_.Timer1.enabled = false;
@@ -54,6 +59,7 @@ void CellEditor::movePointer() {
 
 void CellEditor::cliquerCellule() {
   if (grid_.rowCount() == 0) return;
+  finishDuration();
   form_.Timer3.enabled = false;
   form_.Timer4.enabled = false;
   if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
@@ -83,12 +89,7 @@ void CellEditor::cliquerCellule() {
   recalerColonnes(form_);
   chargerListeCellule();
   if (colonneEdit_ == column::number) return;
-  if (colonneEdit_ == column::duration && !form_.Label7.caption.get().starts_with(model::noMeaning)) {
-    const std::string duration = form_.Label7.caption;
-    form_.Combo2.text = platform::left(duration, 2);
-    form_.Combo3.text = platform::mid(duration, 4, 2);
-    form_.Combo4.text = platform::mid(duration, 7, 2);
-  }
+  if (colonneEdit_ == column::duration) fillDurationBoxes();
   selectPresentText();
   placerEditeur();
 }
@@ -274,10 +275,55 @@ void CellEditor::validerSaisie() {
   form_.Combo1.visible = false;
 }
 
+bool CellEditor::durationOpen() const {
+  return colonneEdit_ == column::duration && ligneEdit_ > 1 && ligneEdit_ <= grid_.rowCount() &&
+         form_.Timer1.enabled;
+}
+
+// As the boxes show it. What is no duration, as a file may bring it, stands there as zero.
+std::string CellEditor::presentDuration() const {
+  return model::formatSeconds(model::parseSeconds(grid_.text(ligneEdit_, column::duration)).value_or(0));
+}
+
+void CellEditor::fillDurationBoxes() {
+  const std::string duration = presentDuration();
+  form_.Combo2.text = platform::left(duration, 2);
+  form_.Combo3.text = platform::mid(duration, 4, 2);
+  form_.Combo4.text = platform::mid(duration, 7, 2);
+}
+
+// What the boxes stand for, "7" being "07". A box that stands for no entry of its list goes back to the
+// cell's.
+std::string CellEditor::chosenDuration() {
+  const std::string texts[] = {form_.Combo2.text, form_.Combo3.text, form_.Combo4.text};
+  fillDurationBoxes();
+  std::size_t next = 0;
+  for (auto* box : {&form_.Combo2, &form_.Combo3, &form_.Combo4}) {
+    const std::string typed = platform::trim(texts[next++]);
+    const std::string padded = typed.size() == 1 ? "0" + typed : typed;
+    const std::vector<std::string>& lines = box->lines();
+    if (std::find(lines.begin(), lines.end(), padded) != lines.end()) {
+      box->text = padded;
+    } else if (!typed.empty()) {
+      form_.Label23.caption = "(" + typed + ") n'est pas dans la Liste, choisissez de (" + lines.front() +
+                              ") à (" + lines.back() + ")...";
+    }
+  }
+  return form_.Combo2.text.get() + ":" + form_.Combo3.text.get() + ":" + form_.Combo4.text.get();
+}
+
 void CellEditor::validerDuree() {
-  if (colonneEdit_ != column::duration || grid_.rowCount() == 0) return;
-  grid_.setText(grid_.selectedRow(), column::duration,
-                form_.Combo2.text.get() + ":" + form_.Combo3.text.get() + ":" + form_.Combo4.text.get());
+  if (durationOpen()) grid_.setText(ligneEdit_, column::duration, chosenDuration());
+}
+
+// The click that leaves a box also ends the time in which the total follows.
+void CellEditor::finishDuration() {
+  if (!durationOpen()) return;
+  const std::string present = presentDuration();
+  const std::string chosen = chosenDuration();
+  if (chosen == present) return;
+  grid_.setText(ligneEdit_, column::duration, chosen);
+  form_.Timer4.tick();
 }
 
 // The announcement that was chosen is played on leaving its cell, with the volume at hand.

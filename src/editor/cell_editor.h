@@ -17,11 +17,17 @@ class CellEditor {
   void placerEditeur();
   void validerChoix();
   void validerSaisie();
+  // A pick in a duration box, or Enter, or leaving it. What is no entry of its list is never written.
   void validerDuree();
   void ecouterAnnonce();
 
  private:
   void endEditing();
+  void finishDuration();
+  [[nodiscard]] bool durationOpen() const;
+  [[nodiscard]] std::string presentDuration() const;
+  void fillDurationBoxes();
+  [[nodiscard]] std::string chosenDuration();
   void movePointer();
   void readOut();
   void chargerListeCellule();

@@ -1,8 +1,10 @@
 #include "editor/history.h"
 
 #include <algorithm>
+#include <map>
 #include <ranges>
 
+#include "editor/layout.h"
 #include "model/grid_rows.h"
 
 namespace editor {
@@ -12,11 +14,37 @@ constexpr std::size_t mostSteps = 200;
 
 namespace column = model::column;
 
+// The buttons whose captions are the cycle mode come last, the session's title behind them.
+constexpr std::size_t firstOfCycleMode = 3;
+constexpr std::size_t sessionTitle = 5;
+
+constexpr int atOnce = 1;        // ms
+constexpr int whileItRuns = 50;  // ms
+
+bool changesTexts(platform::GridChange::What what) {
+  using What = platform::GridChange::What;
+  return what == What::Text || what == What::RowInserted || what == What::RowRemoved || what == What::Cleared;
+}
+
 }  // namespace
 
-History::History(forms::CreerCycle& form) : form_(form), grid_(form.ListView1) {
+History::History(const voice::Toolbox& tools)
+    : loop_(tools.loop),
+      form_(tools.screens.editor),
+      grid_(form_.ListView1),
+      state_(tools.state),
+      captions_{&form_.Label8.caption, &form_.Label9.caption, &tools.screens.main.MyFrame1.caption,
+                &form_.MyButton3.caption, &form_.MyButton4.caption} {
   grid_.watchGrid([this](const platform::GridChange& change) { note(change); });
-  form_.TimerUndoStep.tick.handle([this] { closeStep(); });
+  for (platform::Component* said : std::initializer_list<platform::Component*>{
+           &form_.Label8, &form_.Label9, &tools.screens.main.MyFrame1, &form_.MyButton3, &form_.MyButton4}) {
+    said->watch([this](platform::Component&, platform::Prop prop) {
+      if (prop != platform::Prop::Caption) return;
+      beginStep();
+      saying_ = words();
+    });
+  }
+  form_.TimerUndoStep.tick.handle([this] { endStep(); });
   form_.mnUndo.click.handle([this] { undo(); });
   form_.mnRedo.click.handle([this] { redo(); });
 }
@@ -28,9 +56,35 @@ History::Cells History::cellsOf(int row) const {
   return cells;
 }
 
+History::Words History::words() const {
+  Words all;
+  for (std::size_t i = 0; i < captions_.size(); ++i) all.at(i) = captions_.at(i)->get();
+  all.at(sessionTitle) = state_.seanceTitre;
+  return all;
+}
+
+// What another action has left open is a step of its own.
+void History::beginStep() {
+  if (loop_.action() != action_) closeStep();
+  action_ = loop_.action();
+  form_.TimerUndoStep.enabled = true;
+}
+
+// A step ends when the action that made it does, however long it waits or asks the rider in between.
+void History::endStep() {
+  if (!loop_.runs(action_)) {
+    closeStep();
+    return;
+  }
+  if (!form_.mnUndo.enabled) form_.mnUndo.enabled = hasEffect();
+  form_.TimerUndoStep.interval = whileItRuns;
+}
+
 void History::note(const platform::GridChange& change) {
   using What = platform::GridChange::What;
   const auto at = static_cast<std::ptrdiff_t>(change.row - 1);
+  if (!changesTexts(change.what)) return;
+  beginStep();
   switch (change.what) {
     case What::Text:
       noteText(change.row, change.column);
@@ -43,43 +97,66 @@ void History::note(const platform::GridChange& change) {
       open_.push_back({Kind::Remove, change.row, 0, std::move(shadow_[static_cast<std::size_t>(at)])});
       shadow_.erase(shadow_.begin() + at);
       break;
-    case What::Cleared:
+    default:  // cleared
       for (auto row = shadow_.size(); row > 0; --row) {
         open_.push_back({Kind::Remove, static_cast<int>(row), 0, std::move(shadow_[row - 1])});
       }
       shadow_.clear();
-      break;
-    default:
-      return;
   }
   if (playing_) open_.clear();
-  // A step ends when the handler that made it does: at the next look of a timer that is due at once.
-  if (!open_.empty()) form_.TimerUndoStep.enabled = true;
+  saying_ = words();
 }
 
 void History::noteText(int row, int col) {
   std::string& before = shadow_[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(col - 1)];
   const std::string& after = grid_.text(row, col);
-  open_.push_back({Kind::Text, row, col, {before, after}});
+  // The total follows by itself, some time after what changed it: it is no step, and no part of one.
+  if (row != 1 || col != column::duration) open_.push_back({Kind::Text, row, col, {before, after}});
   before = after;
 }
 
 void History::closeStep() {
   form_.TimerUndoStep.enabled = false;
-  if (open_.empty()) return;
-  // The total follows by itself, some time after what changed it: it belongs to that step.
-  const bool totalAlone = std::all_of(open_.begin(), open_.end(), [](const Change& change) {
-    return change.kind == Kind::Text && change.row == 1 && change.column == column::duration;
-  });
-  if (totalAlone) {
-    if (!undo_.empty()) undo_.back().insert(undo_.back().end(), open_.begin(), open_.end());
-  } else {
-    undo_.push_back(std::move(open_));
+  form_.TimerUndoStep.interval = atOnce;
+  if (hasEffect()) {
+    undo_.push_back({std::move(open_), said_, saying_});
     redo_.clear();
     if (undo_.size() > mostSteps) undo_.pop_front();
   }
   open_.clear();
+  said_ = saying_;
   showWhatIsPossible();
+}
+
+// Words alone are no step, but for the cycle mode.
+bool History::hasEffect() const {
+  for (std::size_t i = firstOfCycleMode; i < sessionTitle; ++i) {
+    if (said_.at(i) != saying_.at(i)) return true;
+  }
+  const auto inserted = std::ranges::count(open_, Kind::Insert, &Change::kind);
+  if (inserted != std::ranges::count(open_, Kind::Remove, &Change::kind)) return true;
+  return inserted == 0 ? textsDiffer() : rowsDiffer();
+}
+
+bool History::textsDiffer() const {
+  std::map<std::pair<int, int>, const std::string*> first;
+  for (const Change& change : open_) first.try_emplace({change.row, change.column}, &change.cells[0]);
+  return std::ranges::any_of(first, [&](const auto& cell) {
+    const auto& [place, before] = cell;
+    return *before != grid_.text(place.first, place.second);
+  });
+}
+
+bool History::rowsDiffer() const {
+  std::vector<Cells> before = shadow_;
+  for (const Change& change : std::views::reverse(open_)) {
+    const auto row = static_cast<std::size_t>(change.row - 1);
+    const auto at = before.begin() + static_cast<std::ptrdiff_t>(row);
+    if (change.kind == Kind::Text) before[row][static_cast<std::size_t>(change.column - 1)] = change.cells[0];
+    if (change.kind == Kind::Insert) before.erase(at);
+    if (change.kind == Kind::Remove) before.insert(at, change.cells);
+  }
+  return before != shadow_;
 }
 
 void History::apply(const Change& change, bool backwards) {
@@ -98,6 +175,14 @@ void History::apply(const Change& change, bool backwards) {
                 first ? model::look::firstRow : model::look::finished);
 }
 
+// Only what the step changed: a hand-over may have named the list anew since.
+void History::say(const Words& from, const Words& to) {
+  for (std::size_t i = 0; i < captions_.size(); ++i) {
+    if (from.at(i) != to.at(i)) *captions_.at(i) = to.at(i);
+  }
+  if (from.at(sessionTitle) != to.at(sessionTitle)) state_.seanceTitre = to.at(sessionTitle);
+}
+
 void History::play(std::deque<Step>& from, std::deque<Step>& to, bool backwards) {
   form_.Command1.click();
   closeStep();
@@ -106,11 +191,16 @@ void History::play(std::deque<Step>& from, std::deque<Step>& to, bool backwards)
   from.pop_back();
   playing_ = true;
   if (backwards) {
-    for (const Change& change : std::views::reverse(step)) apply(change, true);
+    for (const Change& change : std::views::reverse(step.changes)) apply(change, true);
+    say(step.after, step.before);
   } else {
-    for (const Change& change : step) apply(change, false);
+    for (const Change& change : step.changes) apply(change, false);
+    say(step.before, step.after);
   }
   playing_ = false;
+  recalerColonnes(form_);
+  form_.Timer4.tick();
+  said_ = saying_ = words();
   to.push_back(std::move(step));
   showWhatIsPossible();
 }
@@ -126,6 +216,7 @@ void History::forget() {
   open_.clear();
   undo_.clear();
   redo_.clear();
+  said_ = saying_ = words();
   showWhatIsPossible();
 }
 

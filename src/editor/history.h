@@ -1,18 +1,21 @@
 // Undo and redo of the list: every change of the grid's texts is written down as it happens, in steps of one
-// action of the rider each, and can be played backwards and forwards. Cell texts come back exactly.
+// action of the rider each, with what is said about the list, and can be played backwards and forwards. Cell
+// texts come back exactly; the total is summed anew.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <deque>
 #include <string>
 #include <vector>
 
-#include "forms/creer_cycle.h"
+#include "voice/toolbox.h"
 
 namespace editor {
 
 class History {
  public:
-  explicit History(forms::CreerCycle& form);
+  explicit History(const voice::Toolbox& tools);
 
   void undo();
   void redo();
@@ -28,20 +31,40 @@ class History {
     int column;   // of a Text
     Cells cells;  // the row's cells; of a Text the old one and the new one
   };
-  using Step = std::vector<Change>;
+  using Changes = std::vector<Change>;
+  // The captions of `captions_`, then the session's title.
+  using Words = std::array<std::string, 6>;
+  struct Step {
+    Changes changes;
+    Words before;
+    Words after;
+  };
 
   void note(const platform::GridChange& change);
   void noteText(int row, int column);
+  void beginStep();
+  void endStep();
   void closeStep();
+  [[nodiscard]] bool hasEffect() const;
+  [[nodiscard]] bool textsDiffer() const;
+  [[nodiscard]] bool rowsDiffer() const;
   void apply(const Change& change, bool backwards);
+  void say(const Words& from, const Words& to);
   void play(std::deque<Step>& from, std::deque<Step>& to, bool backwards);
   void showWhatIsPossible();
   [[nodiscard]] Cells cellsOf(int row) const;
+  [[nodiscard]] Words words() const;
 
+  platform::EventLoop& loop_;
   forms::CreerCycle& form_;
   platform::Grid& grid_;
+  model::SharedState& state_;
+  std::array<platform::Property<std::string>*, 5> captions_;
   std::vector<Cells> shadow_;  // the grid's texts as they were before the change being noted
-  Step open_;
+  Words said_;                 // as they were before the open step
+  Words saying_;               // as they are
+  Changes open_;
+  std::uint64_t action_ = 0;  // who makes the open step
   std::deque<Step> undo_;
   std::deque<Step> redo_;
   bool playing_ = false;

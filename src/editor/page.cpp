@@ -15,7 +15,7 @@ Page::Page(const voice::Toolbox& tools)
       cells_(tools, calculator_),
       files_(tools, lines_),
       totals_(tools),
-      history_(form_) {
+      history_(tools) {
   form_.onLoad.handle([this] { open(); });
   form_.MyButton6.click.handle([this] { form_.mnSortir.click(); });
   form_.mnSortir.click.handle([this] { leave(); });

@@ -2,7 +2,6 @@
 
 #include "editor/layout.h"
 #include "model/grid_rows.h"
-#include "model/session_file.h"
 #include "platform/fault.h"
 
 namespace editor {
@@ -74,11 +73,22 @@ void SessionFiles::add(const std::string& chosen) {
       "Ventoria avec (" + *name + ") (Durée : " + model::formatTime(state_.dureeTotale) + ")";
   const std::optional<std::string> path = presentVersion(chosen);
   if (!path) return;
-  model::ajouterSeance(tools_.outside.files, *path, form_.ListView1);
+  tellMissing(*path, model::ajouterSeance(tools_.outside.files, *path, form_.ListView1));
   form_.Timer4.enabled = true;
   tools_.voice.attendre(1);
   recalerColonnes(form_);
   form_.Timer4.enabled = false;
+}
+
+// A file that was cut short: its blank rows stand in the list, red, to be filled or taken away.
+void SessionFiles::tellMissing(const std::string& path, const model::FoundSequences& sequences) {
+  if (sequences.found == sequences.announced) return;
+  tools_.outside.dialogs.message(
+      {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Fichier Incomplet...",
+       "Le Fichier (" + path + ") annonce (" + std::to_string(sequences.announced) + ") Séquence(s), mais (" +
+           std::to_string(sequences.found) +
+           ") seulement y ont été Trouvée(s).\nLes Lignes en (Rouge) sont "
+           "Vides : Complétez-les ou Supprimez-les..."});
 }
 
 std::optional<std::string> SessionFiles::presentVersion(std::string path) {

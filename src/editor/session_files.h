@@ -5,6 +5,7 @@
 #include <string>
 
 #include "editor/lines.h"
+#include "model/session_file.h"
 #include "voice/toolbox.h"
 
 namespace editor {
@@ -25,6 +26,7 @@ class SessionFiles {
   [[nodiscard]] std::optional<std::string> presentVersion(std::string path);
   // The path to save under; none where the rider cancels.
   [[nodiscard]] std::optional<std::string> askPath();
+  void tellMissing(const std::string& path, const model::FoundSequences& sequences);
   void write(const std::string& path);
 
   voice::Toolbox tools_;

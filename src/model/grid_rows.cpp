@@ -1,6 +1,8 @@
 #include "model/grid_rows.h"
 
+#include "model/time_value.h"
 #include "model/vocabulary.h"
+#include "platform/text.h"
 
 namespace model {
 namespace {
@@ -93,15 +95,30 @@ bool lastRowUnfinished(const platform::Grid& grid) {
          (grid.text(last, column::sequence) == emptyCell || grid.text(last, column::duration) == noDuration);
 }
 
+// A row of blanks comes from a file that ends too early.
 bool isUnfinished(const platform::Grid& grid, int row) {
   const std::string& sequence = grid.text(row, column::sequence);
-  if (sequence == emptyCell || grid.text(row, column::duration) == noDuration) return true;
-  return sequence == vocalAnnouncement && grid.text(row, column::announcement) == emptyCell;
+  if (platform::trim(sequence).empty() || grid.text(row, column::duration) == noDuration) return true;
+  if (sequence == vocalAnnouncement) return grid.text(row, column::announcement) == emptyCell;
+  return (isSequence(grid, row) || isRidden(grid, row)) && !hasDuration(grid, row);
 }
 
 bool isSequence(const platform::Grid& grid, int row) {
   const std::string& sequence = grid.text(row, column::sequence);
   return sequence != emptyCell && sequence != noMeaning;
+}
+
+bool isRidden(const platform::Grid& grid, int row) {
+  const std::string& duration = grid.text(row, column::duration);
+  const bool none = duration == noMeaning && grid.text(row, column::announcement) == noMeaning;
+  return !none && duration != noDuration;
+}
+
+bool hasDuration(const platform::Grid& grid, int row) {
+  if (grid.text(row, column::sequence) == vocalAnnouncement) return true;
+  const std::string& duration = grid.text(row, column::duration);
+  const std::optional<int> seconds = parseSeconds(duration);
+  return seconds && formatSeconds(*seconds) == duration;
 }
 
 }  // namespace model

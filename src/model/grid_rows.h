@@ -65,5 +65,10 @@ struct SequenceTexts {
 [[nodiscard]] bool isUnfinished(const platform::Grid& grid, int row);
 // Whether the row holds a sequence, which the session file keeps.
 [[nodiscard]] bool isSequence(const platform::Grid& grid, int row);
+// Whether a ride takes the row in: a repeat row, the end of a list and a duration not chosen stay behind.
+[[nodiscard]] bool isRidden(const platform::Grid& grid, int row);
+// Whether the row's duration can be ridden: eight characters as the boxes of the duration write them, or the
+// dashes of a spoken row.
+[[nodiscard]] bool hasDuration(const platform::Grid& grid, int row);
 
 }  // namespace model

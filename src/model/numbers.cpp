@@ -1,6 +1,7 @@
 #include "model/numbers.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -46,9 +47,16 @@ double strictNumber(std::string_view text) {
 }
 
 std::string plainNumber(double value) {
-  char text[32];
-  const auto [end, error] = std::to_chars(std::begin(text), std::end(text), value);
-  return error == std::errc{} ? std::string(text, end) : std::string();
+  if (value == 0 || !std::isfinite(value)) return "0";
+  // To fifteen digits, which is what a sum of decimals is good for; then the shortest text of that number.
+  std::array<char, 400> text{};
+  constexpr int digitsBehindTheFirst = 14;
+  const char* end = std::to_chars(text.data(), text.data() + text.size(), value,
+                                  std::chars_format::scientific, digitsBehindTheFirst)
+                        .ptr;
+  std::from_chars(text.data(), end, value);
+  end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed).ptr;
+  return {static_cast<const char*>(text.data()), end};
 }
 
 std::string formatBpm(double value) {

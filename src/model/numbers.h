@@ -13,7 +13,8 @@ namespace model {
 [[nodiscard]] int lenientInteger(std::string_view text);
 // Strict: the whole text, blanks at its ends aside, must be a number; a platform::Fault otherwise.
 [[nodiscard]] double strictNumber(std::string_view text);
-// The plain conversion to text: whole numbers without decimals, others with as few digits as tell them.
+// The plain conversion to text: whole numbers without decimals, others with as few digits as tell them;
+// never an exponent, nor what rounding leaves behind the fifteenth digit.
 [[nodiscard]] std::string plainNumber(double value);
 // The format "###" of heart rates: rounded to a whole number, halves away from zero; empty for 0.
 [[nodiscard]] std::string formatBpm(double value);

@@ -78,17 +78,21 @@ SequenceTexts textsOf(const Record& record) {
           record.trimmed(field::freqCard)};
 }
 
-// One pass over the file's sequences: rows numbered 1 to n in the session column.
-void appendPass(platform::RandomFile& file, int nbEnreg, const std::string& name, platform::Grid& grid) {
+// One pass over the file's sequences: rows numbered 1 to n in the session column. How many were not blank.
+int appendPass(platform::RandomFile& file, int nbEnreg, const std::string& name, platform::Grid& grid) {
   Record record(recordWidth);
+  int found = 0;
   const std::string total = '/' + std::to_string(nbEnreg - 1) + ')';
   for (int number = 2; number <= nbEnreg; ++number) {
     record.read(file, static_cast<std::uint64_t>(number));
     std::string place = name;
     place.append(" (").append(std::to_string(number - 1)).append(total);
-    grid.addRow(loadedRow(grid.rowCount() + 1, place, textsOf(record)));
+    const SequenceTexts texts = textsOf(record);
+    if (!texts.sequence.empty() || !texts.duration.empty()) ++found;
+    grid.addRow(loadedRow(grid.rowCount() + 1, place, texts));
     grid.setLook(grid.rowCount(), column::sessionName, column::deleteMark, look::finished);
   }
+  return found;
 }
 
 void refuseDamage(const SessionHeader& header, int passes, const std::string& path) {
@@ -154,9 +158,9 @@ std::string convertirAncien(platform::FileSystem& files, const std::string& chem
   return target;
 }
 
-void ajouterSeance(platform::FileSystem& files, const std::string& chemin, platform::Grid& grille) {
+FoundSequences ajouterSeance(platform::FileSystem& files, const std::string& chemin, platform::Grid& grille) {
   const std::optional<std::string> name = sessionName(chemin);
-  if (!name) return;
+  if (!name) return {};
   const auto file = files.open(chemin, platform::OpenMode::Read);
   Record record(recordWidth);
   record.read(*file, 1);
@@ -166,13 +170,15 @@ void ajouterSeance(platform::FileSystem& files, const std::string& chemin, platf
   refuseDamage(header, repeats + 1, chemin);
   // The first row stays, although its total can read as a duration not chosen yet.
   if (grille.rowCount() > 1 && lastRowUnfinished(grille)) grille.removeRow(grille.rowCount());
+  FoundSequences sequences{std::max(0, header.nbEnreg - 1), 0};
   for (int pass = 1; pass <= repeats + 1; ++pass) {
-    appendPass(*file, header.nbEnreg, *name, grille);
+    sequences.found = appendPass(*file, header.nbEnreg, *name, grille);
     if (repeats == 0) continue;
     const std::string announced = "-----Répète--(" + std::to_string(pass + 1) + ")";
     grille.addRow(closingRow(grille.rowCount() + 1, pass <= repeats ? announced : std::string(endOfList)));
     grille.setLook(grille.rowCount(), column::sessionName, column::deleteMark, look::finished);
   }
+  return sequences;
 }
 
 std::optional<std::string> sessionName(const std::string& chemin) {

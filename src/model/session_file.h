@@ -26,9 +26,14 @@ void ecrireSeance(platform::FileSystem& files, const std::string& chemin, const 
 // Turns a file of the old records into a present one and removes the old; returns the path of the new one,
 // which always ends in ".tq2".
 [[nodiscard]] std::string convertirAncien(platform::FileSystem& files, const std::string& chemin);
+struct FoundSequences {
+  int announced = 0;  // by the header
+  int found = 0;      // in the records behind it; the others are blank rows
+};
+
 // Appends the file's sequences as rows, once for each pass, with a closing row behind each pass of a
-// repeated session. A last row that is not finished goes first.
-void ajouterSeance(platform::FileSystem& files, const std::string& chemin, platform::Grid& grille);
+// repeated session. A last row that is not finished goes first. What it found in one pass.
+FoundSequences ajouterSeance(platform::FileSystem& files, const std::string& chemin, platform::Grid& grille);
 
 // The session's name: what stands before the first dot of the path's last part; none where it has no dot.
 [[nodiscard]] std::optional<std::string> sessionName(const std::string& chemin);

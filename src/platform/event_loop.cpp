@@ -16,6 +16,17 @@ struct EventLoop::Entry {
   std::string lastFault;  // so that a timer that fails at every tick says so once
 };
 
+class EventLoop::Acting {
+ public:
+  explicit Acting(EventLoop& loop) : loop_(loop) { loop_.actions_.push_back(++loop_.lastAction_); }
+  ~Acting() { loop_.actions_.pop_back(); }
+  Acting(const Acting&) = delete;
+  Acting& operator=(const Acting&) = delete;
+
+ private:
+  EventLoop& loop_;
+};
+
 EventLoop::EventLoop(Clock& clock) : clock_(clock) {}
 
 EventLoop::~EventLoop() {
@@ -92,6 +103,7 @@ void EventLoop::fire(Entry& entry) {
   schedule(entry, entry.due + passed * period);
   entry.running = true;
   try {
+    const Acting acting(*this);
     entry.timer->tick();
     entry.lastFault.clear();
   } catch (const std::exception& fault) {
@@ -101,6 +113,10 @@ void EventLoop::fire(Entry& entry) {
     }
   }
   entry.running = false;
+}
+
+bool EventLoop::runs(std::uint64_t action) const {
+  return std::find(actions_.begin(), actions_.end(), action) != actions_.end();
 }
 
 void EventLoop::serveEvents() {
@@ -131,6 +147,7 @@ void EventLoop::runUntil(Instant when) {
 
 void EventLoop::guard(const std::function<void()>& action) {
   try {
+    const Acting acting(*this);
     action();
   } catch (const std::exception& fault) {
     if (faultHandler_) faultHandler_(fault.what());

@@ -35,6 +35,10 @@ class EventLoop final : public TimerScheduler {
 
   // Runs something on behalf of the rider or a timer: an exception ends it and goes to the fault handler.
   void guard(const std::function<void()>& action);
+  // The number of what runs now, the innermost where waits and dialogs let others in; 0: nothing does.
+  [[nodiscard]] std::uint64_t action() const { return actions_.empty() ? 0 : actions_.back(); }
+  // Whether it has not come to its end yet.
+  [[nodiscard]] bool runs(std::uint64_t action) const;
 
   // `pump` lets the front handle the rider's input; `next` says when more will come, where that is known.
   void onInput(std::function<void()> pump, std::function<std::optional<Instant>()> next = {}) {
@@ -68,6 +72,7 @@ class EventLoop final : public TimerScheduler {
 
  private:
   struct Entry;
+  class Acting;
   [[nodiscard]] Entry* entryOf(const Timer& timer) const;
   void schedule(Entry& entry, Instant due);
   void unschedule(Entry& entry);
@@ -78,6 +83,8 @@ class EventLoop final : public TimerScheduler {
   std::vector<std::unique_ptr<Entry>> entries_;
   std::vector<Entry*> queue_;  // the timers that are on, by due time, then creation
   std::uint64_t created_ = 0;
+  std::vector<std::uint64_t> actions_;  // what runs, each inside the one before it
+  std::uint64_t lastAction_ = 0;
   std::function<void()> pump_;
   std::function<std::optional<Instant>()> nextInput_;
   std::function<void(const std::string&)> faultHandler_;

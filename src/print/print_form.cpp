@@ -170,11 +170,11 @@ void PrintForm::printList() {
     }
     printer_.finish();
   } catch (const platform::OutOfMemory&) {
-    tooLarge();
+    giveUp(true);
   } catch (const std::bad_alloc&) {
-    tooLarge();
-  } catch (const platform::Fault&) {  // is not told
-    form_.Grid.clearRows();
+    giveUp(true);
+  } catch (const platform::Fault&) {
+    giveUp(false);
   }
 }
 
@@ -192,11 +192,15 @@ void PrintForm::printPage(int firstRow) {
   printer_.endDocument();
 }
 
-void PrintForm::tooLarge() {
-  tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
-                                  "Dépassement de Capacité...",
-                                  "Cette Sélection est trop volumineuse (" + std::to_string(pages_) +
-                                      " pages) pour l'envoyer à l'Impression..."});
+// Nothing of a page that broke off may lie in wait for the next document.
+void PrintForm::giveUp(bool tooLarge) {
+  printer_.killDocument();
+  if (tooLarge) {
+    tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
+                                    "Dépassement de Capacité...",
+                                    "Cette Sélection est trop volumineuse (" + std::to_string(pages_) +
+                                        " pages) pour l'envoyer à l'Impression..."});
+  }
   form_.Grid.clearRows();
 }
 

@@ -22,7 +22,7 @@ class PrintForm {
   void loadRow(int row);
   void printList();
   void printPage(int firstRow);
-  void tooLarge();
+  void giveUp(bool tooLarge);
   void leave();
   // The grid's rows on paper, the head counted in.
   [[nodiscard]] int gridRows() const { return form_.Grid.rowCount() + 1; }

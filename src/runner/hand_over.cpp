@@ -20,6 +20,7 @@ HandOver::HandOver(const voice::Toolbox& tools, RideWaits& waits)
 }
 
 void HandOver::validerSeance() {
+  if (main_.Command7.caption != "REPRENDRE" && refuseWrongDuration()) return;
   settleOtherForms();
   if (main_.Command7.caption == "REPRENDRE") {
     // A paused ride keeps its plan; the edits stay in the grid.
@@ -45,6 +46,24 @@ void HandOver::validerSeance() {
   showTitle();
   main_.Timer4.enabled = true;
   main_.Timer9.enabled = true;
+}
+
+bool HandOver::refuseWrongDuration() {
+  editor_.Command1.click();  // what is still being typed counts
+  platform::Grid& grid = editor_.ListView1;
+  int row = 2;
+  while (row <= grid.rowCount() && (!model::isRidden(grid, row) || model::hasDuration(grid, row))) ++row;
+  if (row > grid.rowCount()) return false;
+  editor_.Timer6.tick();  // paints it red and takes the start away
+  grid.select(row);
+  grid.reveal(row);
+  tools_.outside.dialogs.message(
+      {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Durée à Corriger...",
+       "La Ligne (" + std::to_string(row) + ") de la Liste, (" +
+           platform::trim(grid.text(row, model::column::sequence)) + "), n'a pas de Durée valable : (" +
+           grid.text(row, model::column::duration) +
+           ").\nChoisissez-la en (H:M:S) ou Supprimez la Ligne, puis Démarrez..."});
+  return true;
 }
 
 void HandOver::settleOtherForms() {
@@ -79,8 +98,7 @@ void HandOver::fillPlan() {
   for (int row = 2; row <= grid.rowCount(); ++row) {
     const std::string& duration = grid.text(row, model::column::duration);
     const std::string& announcement = grid.text(row, model::column::announcement);
-    if (duration == model::noMeaning && announcement == model::noMeaning) continue;
-    if (duration == model::noDuration) continue;
+    if (!model::isRidden(grid, row)) continue;
     ++kept;
     plan.planSequence[kept] = grid.text(row, model::column::sequence);
     plan.planCadence[kept] = grid.text(row, model::column::cadence);

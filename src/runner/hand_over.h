@@ -13,6 +13,8 @@ class HandOver {
   void validerSeance();
 
  private:
+  // Tells the rider of the first row that would bring a text that is no duration into the plan, and shows it.
+  [[nodiscard]] bool refuseWrongDuration();
   void settleOtherForms();
   void resetRide();
   void fillPlan();

@@ -121,10 +121,12 @@ TEST_F(KeyboardTest, DeleteAsksBeforeItTakesALineAway) {
   key(Qt::Key_Home);
   key(Qt::Key_Down);
   key(Qt::Key_F2);
-  for (int i = 0; i < 2; ++i) key(Qt::Key_Escape);  // the list, then the cell
+  QTest::keyClick(QApplication::focusWidget(), '7');  // dropped
+  for (int i = 0; i < 2; ++i) key(Qt::Key_Escape);    // the list, then the cell
   EXPECT_EQ(focused(), "ListView1");
   EXPECT_FALSE(screens_.editor.Combo1.visible || screens_.editor.Picture2.visible);
   EXPECT_EQ(program_.list().text(2, 4), kind);
+  EXPECT_EQ(program_.list().text(2, 10), "00:00:09");
 
   EXPECT_FALSE(screens_.editor.mnSupprimer.enabled);
   key(Qt::Key_Delete);

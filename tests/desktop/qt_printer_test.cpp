@@ -55,25 +55,32 @@ TEST(QtPrinter, GathersAllPagesInOneFileThatTheRiderNames) {
   const std::string path = testing::TempDir() + "/liste.pdf";
   QFile::remove(toQt(path));
   dialogs.chosen = {path};
-  QtPrinter printer(dialogs);
+  int begun = 0;
+  QtPrinter printer(dialogs, [&] { ++begun; });
   printPages(printer, {35, 35, 1});
   EXPECT_EQ(dialogs.asked, 1);
+  EXPECT_EQ(begun, 3);
   QFile file(toQt(path));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QByteArray pdf = file.readAll();
   EXPECT_EQ(pdf.count("/Type /Page\n"), 3);
   EXPECT_EQ(pdf.count("/MediaBox [0 0 842"), 3);  // A4, lying
 
+  printer.paintPicture(gridOf(2), 0, 0);  // and breaks off
+  printer.killDocument();
+  EXPECT_FALSE(QFile::exists(toQt(path)));
+  EXPECT_EQ(dialogs.asked, 2);
+
   dialogs.chosen.clear();  // the rider wants none
   printPages(printer, {2, 2});
-  EXPECT_EQ(dialogs.asked, 2);
+  EXPECT_EQ(dialogs.asked, 3);
 
   dialogs.chosen = {"/nonexistent/liste.pdf"};
   EXPECT_THROW(printPages(printer, {2}), platform::FileFault);
-  EXPECT_EQ(dialogs.told, 1);
+  EXPECT_EQ(dialogs.told, 2);
   dialogs.chosen = {"/dev/full"};  // is there already, and takes nothing
   EXPECT_THROW(printPages(printer, {35, 35, 1}), platform::FileFault);
-  EXPECT_EQ(dialogs.told, 3);
+  EXPECT_EQ(dialogs.told, 4);
 }
 
 TEST(PagePainter, StaysInsideThePageAndItsCells) {

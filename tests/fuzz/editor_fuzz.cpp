@@ -178,6 +178,10 @@ class Rider {
   // To the main screen and back, by the start or by the way that keeps everything.
   void handOver(bool start) {
     press(start ? "MyButton5" : "MyButton6");
+    const model::SharedState& state = program_.state();
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(state.nbSequences); ++i) {
+      check(model::parseSeconds(state.plan.planDuree.at(i)).has_value(), "a plan of durations");
+    }
     run("advance 0.2\npress MainForm.MyButton5");
   }
 

@@ -76,7 +76,16 @@ TEST(ModelValues, NumbersLenientAndStrict) {
     }
   }
   EXPECT_EQ(formatBpm(181.5) + formatBpm(0.4) + "|" + formatBpm(0.5) + formatBpm(-2.5), "182|1-3");
-  EXPECT_EQ(plainNumber(180) + " " + plainNumber(178.4), "180 178.4");
+  for (const auto& [value, text] : {std::pair{180.0, "180"},
+                                    {178.4, "178.4"},
+                                    {1e5, "100000"},
+                                    {2.5e8, "250000000"},
+                                    {1e22, "10000000000000000000000"},
+                                    {1e-7, "0.0000001"},
+                                    {200.3 - 60.1, "140.2"},
+                                    {-0.0, "0"}}) {
+    EXPECT_EQ(plainNumber(value), text);
+  }
 }
 
 TEST(ModelValues, TextIsCutByCharacters) {

@@ -72,6 +72,7 @@ TEST_F(Printing, TellsOnlyThatMemoryRanOut) {
     ASSERT_EQ(dialogs.messages.size(), row.messages);
     EXPECT_EQ(form.Grid.rowCount(), 0);
     EXPECT_THAT(printer.pages, IsEmpty());
+    EXPECT_EQ(printer.calls.back(), "kill");
     if (row.messages == 0) continue;
     EXPECT_EQ(dialogs.messages[0].title, "Dépassement de Capacité...");
     EXPECT_EQ(dialogs.messages[0].text,

@@ -135,8 +135,8 @@ TEST(Rides, AFaultInATickIsToldOnceAndTheProgramGoesOn) {
   SimulatedProgram program;
   ASSERT_TRUE(program.start());
   program.run(composeTwoRows);
-  program.list().setText(3, model::column::duration, "bientôt");
   program.run(openCountdown);
+  program.state().plan.planDuree[2] = "bientôt";
   const std::string said = program.run("advance 30\njournal fault\npress MainForm.MyButton4\nadvance 1");
   EXPECT_THAT(said, HasSubstr("bientôt"));
   EXPECT_EQ(said.find("bientôt"), said.rfind("bientôt"));
