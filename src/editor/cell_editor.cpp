@@ -300,10 +300,9 @@ std::string CellEditor::chosenDuration() {
   std::size_t next = 0;
   for (auto* box : {&form_.Combo2, &form_.Combo3, &form_.Combo4}) {
     const std::string typed = platform::trim(texts[next++]);
-    const std::string padded = typed.size() == 1 ? "0" + typed : typed;
     const std::vector<std::string>& lines = box->lines();
-    if (std::find(lines.begin(), lines.end(), padded) != lines.end()) {
-      box->text = padded;
+    if (const std::optional<std::string> line = model::lineFor(lines, typed)) {
+      box->text = *line;
     } else if (!typed.empty()) {
       form_.Label23.caption = "(" + typed + ") n'est pas dans la Liste, choisissez de (" + lines.front() +
                               ") à (" + lines.back() + ")...";

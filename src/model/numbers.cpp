@@ -64,4 +64,11 @@ std::string formatBpm(double value) {
   return rounded == 0 ? std::string() : plainNumber(rounded);
 }
 
+std::optional<std::string> lineFor(const std::vector<std::string>& lines, const std::string& typed) {
+  for (const std::string& line : lines) {
+    if (line == typed || (typed.size() == 1 && line == "0" + typed)) return line;
+  }
+  return std::nullopt;
+}
+
 }  // namespace model

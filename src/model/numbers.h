@@ -1,8 +1,10 @@
 // Reading and writing numbers as the system's texts have them. Nothing depends on the locale.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace model {
 
@@ -18,5 +20,9 @@ namespace model {
 [[nodiscard]] std::string plainNumber(double value);
 // The format "###" of heart rates: rounded to a whole number, halves away from zero; empty for 0.
 [[nodiscard]] std::string formatBpm(double value);
+// The line that a typed number stands for in a list, "7" being "07" where the list has two digits; none where
+// no line does.
+[[nodiscard]] std::optional<std::string> lineFor(const std::vector<std::string>& lines,
+                                                 const std::string& typed);
 
 }  // namespace model

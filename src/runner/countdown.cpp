@@ -1,6 +1,7 @@
 #include "runner/countdown.h"
 
 #include "model/numbers.h"
+#include "platform/text.h"
 #include "runner/visibility.h"
 
 namespace runner {
@@ -18,8 +19,12 @@ Countdown::Countdown(const voice::Toolbox& tools, Advance& advance)
     main_.MyButton4.enabled = true;
   });
   main_.Combo5.click.handle([this] { chooseLength(); });
+  main_.Combo5.enter.handle([this] { takeTypedLength(); });
+  main_.Combo5.validate.handle([this] { takeTypedLength(); });
   for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) {
     box->click.handle([this] { chooseManualTime(); });
+    box->enter.handle([this] { takeTypedTime(); });
+    box->validate.handle([this] { takeTypedTime(); });
   }
   main_.Timer4.tick.handle([this] {
     main_.Timer4.enabled = false;
@@ -36,6 +41,7 @@ void Countdown::lancerCompteRebours() {
     tellNothingToRide(main_);
     return;
   }
+  mendLength();
   main_.Command7.caption = "Pause";
   if (main_.MyButton3.caption == "Redémarrer Chrono") main_.MyButton3.caption = "Démarrer Chrono";
   main_.Label9.caption = main_.Combo5.text;
@@ -119,6 +125,26 @@ void Countdown::chooseManualTime() {
   state_.dureeSequence = model::timeValue(main_.Combo1.text.get() + ":" + main_.Combo2.text.get() + ":" +
                                           main_.Combo3.text.get());
   state_.ecouleSequence = 0;
+}
+
+// A length that is none would be counted down for ever.
+void Countdown::mendLength() {
+  if (model::lenientInteger(main_.Combo5.text.get()) >= 1) return;
+  main_.Combo5.text = state_.dureeChrono.empty() ? "16" : state_.dureeChrono;
+}
+
+// A countdown that runs keeps its number.
+void Countdown::takeTypedLength() {
+  mendLength();
+  if (!main_.Timer2.enabled) chooseLength();
+}
+
+void Countdown::takeTypedTime() {
+  if (!main_.Combo1.visible) return;  // in a ride the boxes show what is ridden
+  for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) {
+    box->text = model::lineFor(box->lines(), platform::trim(box->text.get())).value_or("00");
+  }
+  chooseManualTime();
 }
 
 void Countdown::goToEditor() {

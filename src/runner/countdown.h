@@ -19,6 +19,9 @@ class Countdown {
   void leaveFrame();
   void chooseLength();
   void chooseManualTime();
+  void mendLength();
+  void takeTypedLength();
+  void takeTypedTime();
   void goToEditor();
 
   voice::Toolbox tools_;
