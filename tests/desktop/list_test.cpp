@@ -25,8 +25,9 @@ class ListTest : public WindowsTestBase {
     const std::string padded = "allez.wav" + std::string(41, ' ');
     for (int row = 2; row <= 200; ++row) {
       const bool spoken = row == 3;
-      grid_.addRow(model::loadedRow(row, "Col", {spoken ? "Annonce Vocale" : "Plat", "60", "53", "17",
-                                                 spoken ? "-----" : "00:01:00", padded, "000"}));
+      grid_.addRow(model::loadedRow(row, "Col",
+                                    {spoken ? "Annonce Vocale" : "Plat", "60", "53", "17",
+                                     spoken ? "-----" : "00:01:00", padded, "000"}));
     }
     grid_.removeRow(2);
     program_.memory.put("/d/annonces/allez.wav", "");
@@ -44,8 +45,8 @@ class ListTest : public WindowsTestBase {
   }
   static void roll(QWidget& over) {
     const QPointF at = over.rect().center();
-    QWheelEvent notch(at, over.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                      false);
+    QWheelEvent notch(at, over.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
     QApplication::sendEvent(&over, &notch);
   }
 
@@ -73,7 +74,8 @@ TEST_F(ListTest, AWheelOverAClosedBoxChangesNothingButTheViewOfTheList) {
     roll(widget<QWidget>(form_, over));
     EXPECT_FALSE(inSight(1)) << over;
     program_.run("advance 0.02");
-    EXPECT_FALSE(dynamic_cast<platform::Control&>(form_.find(over)).visible) << over << " stays without its row";
+    EXPECT_FALSE(dynamic_cast<platform::Control&>(form_.find(over)).visible)
+        << over << " stays without its row";
   }
 }
 
