@@ -1,5 +1,7 @@
 #include "capture/music_deletion.h"
 
+#include <algorithm>
+
 namespace capture {
 
 MusicDeletion::MusicDeletion(const voice::Toolbox& tools, SelectionList& list, Selection& selection)
@@ -18,6 +20,8 @@ void MusicDeletion::removeFromList() {
   if (row == 0) return;
   nomMusique_ = form_.ListView1.text(row, 1);
   form_.ListView1.removeRow(row);
+  form_.ListView1.select(std::min(row, form_.ListView1.rowCount()));
+  form_.ListView1.focus();
   list_.readLibrary();
   // Lowered whether the row was ticked or not.
   if (selection_.nbMusiquesCochees > 0) --selection_.nbMusiquesCochees;

@@ -49,19 +49,9 @@ const char* journalWord(FilePurpose purpose) {
   }
 }
 
-// The first pattern's ".ext", empty for "*.*" and the like.
-std::string extensionOf(const std::string& filter) {
-  const std::vector<std::string> parts = platform::split(filter, '|');
-  if (parts.size() < 2) return {};
-  const std::string pattern = platform::split(parts[1], ';').front();
-  const std::size_t dot = pattern.rfind('.');
-  if (dot == std::string::npos || pattern.find('*', dot) != std::string::npos) return {};
-  return pattern.substr(dot);
-}
-
 std::string chosenPath(const std::string& answer, const platform::FileRequest& request) {
-  std::filesystem::path path(answer);
-  if (request.purpose == FilePurpose::Save && !path.has_extension()) path += extensionOf(request.filter);
+  std::filesystem::path path(
+      request.purpose == FilePurpose::Save ? platform::withSuffix(answer, request.filter) : answer);
   if (path.is_relative()) path = std::filesystem::path(request.folder) / path;
   return std::filesystem::absolute(path).lexically_normal().string();
 }

@@ -1,6 +1,7 @@
 #include "desktop/binder.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSlider>
 #include <QApplication>
@@ -239,18 +240,26 @@ void Binder::tieComboBox(platform::ComboBox& box, QComboBox& widget) {
   widget.setEditable(true);
   widget.setInsertPolicy(QComboBox::NoInsert);
   widget.setCompleter(nullptr);
+  widget.setFocusPolicy(Qt::StrongFocus);  // a wheel that passes over takes nothing
   showCombo(box, widget, true);
   connect(&widget, &QComboBox::activated, this,
           [this, &box](int line) { run([&box, line] { box.pick(line); }); });
   connect(widget.lineEdit(), &QLineEdit::textEdited, this,
           [this, &box](const QString& typed) { run([&box, text = fromQt(typed)] { box.type(text); }); });
   connect(widget.lineEdit(), &QLineEdit::returnPressed, this, [this, &box] { run([&box] { box.enter(); }); });
-  // Queued: a box also loses the keyboard by being hidden, in the midst of the handler that hides it.
-  connect(widget.lineEdit(), &QLineEdit::editingFinished, this, [this, &box, &widget] {
-    if (widget.hasFocus()) return;
-    QMetaObject::invokeMethod(
-        this, [this, &box] { run([&box] { box.validate(); }); }, Qt::QueuedConnection);
-  });
+}
+
+// Before what the mouse is pressed for, which may give the box another meaning. Else queued: a box also loses
+// the keyboard by being hidden, in the midst of the handler that hides it.
+void Binder::leaveBox(platform::ComboBox& box, const QComboBox& widget, Qt::FocusReason reason) {
+  const bool elsewhere = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+  if (!elsewhere || widget.view()->isVisible()) return;
+  const auto leave = [this, &box] { run([&box] { box.validate(); }); };
+  if (reason == Qt::MouseFocusReason) {
+    leave();
+  } else {
+    QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);
+  }
 }
 
 void Binder::tieTextBox(platform::TextBox& box, QLineEdit& widget) {
@@ -493,6 +502,15 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
       }
       break;
     }
+    case QEvent::FocusOut:
+      if (auto* box = dynamic_cast<platform::ComboBox*>(control))
+        leaveBox(*box, static_cast<QComboBox&>(*widget), static_cast<QFocusEvent*>(event)->reason());
+      break;
+    case QEvent::Wheel:
+      // A closed list stays as it is: what is around it may scroll.
+      if (control->kind() != ControlKind::ComboBox) break;
+      event->ignore();
+      return true;
     case QEvent::MouseButtonDblClick:
       if (control->doubleClick.handled()) run([control] { control->doubleClick(); });
       break;

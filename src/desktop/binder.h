@@ -53,6 +53,7 @@ class Binder final : public QObject {
   void tieCheckBox(platform::CheckBox& box, QCheckBox& widget);
   void tieOption(platform::Option& option, QRadioButton& widget);
   void tieComboBox(platform::ComboBox& box, QComboBox& widget);
+  void leaveBox(platform::ComboBox& box, const QComboBox& widget, Qt::FocusReason reason);
   void tieTextBox(platform::TextBox& box, QLineEdit& widget);
   void tieScrollBar(platform::ScrollBar& bar, QAbstractSlider& widget);
   void tieMenus(platform::Form& form, QWidget& page);

@@ -55,20 +55,6 @@ void DesktopProgram::wake() {
   window.activateWindow();
 }
 
-void DesktopProgram::addSession(const std::string& path) {
-  if (program_.loop().blocked()) {
-    QTimer::singleShot(100, this, [this, path] { addSession(path); });
-    return;
-  }
-  windows_.binder().run([this, &path] {
-    forms::Screens& screens = program_.screens();
-    const forms::MainForm& main = screens.main;
-    const bool riding = main.Timer1.enabled || main.Timer2.enabled || main.Command7.caption != "Pause";
-    if (main.visible && !riding) main.MyButton5.click();
-    screens.editor.sessionHandedIn(path);
-  });
-}
-
 void DesktopProgram::serve() {
   program_.loop().fireDue();
   arm();

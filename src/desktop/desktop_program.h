@@ -33,8 +33,7 @@ class DesktopProgram final : public QObject {
   [[nodiscard]] bool start();
   // A second launch: the window comes to the front.
   void wake();
-  // A session file opened in the file manager: goes to the editor's list. A ride under way goes on.
-  void addSession(const std::string& path);
+  void addSession(const std::string& path) { windows_.addSession(path); }
 
  private:
   void serve();

@@ -1,9 +1,11 @@
 #include "desktop/editor_view.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWheelEvent>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -83,8 +85,9 @@ void EditorView::whenBound() {
   connect(ui_->ListView1, &GridTable::cellOpened, this, &EditorView::focusCellEditor);
   connect(ui_->ListView1, &GridTable::deletionAsked, this,
           [this](int row) { ui_->ListView1->pressRight(row, model::column::deleteMark); });
-  for (QComboBox* box : {ui_->Combo1, ui_->Combo2, ui_->Combo3, ui_->Combo4, ui_->Combo13}) {
-    box->installEventFilter(this);
+  for (QWidget* over : std::initializer_list<QWidget*>{ui_->Combo1, ui_->Combo2, ui_->Combo3, ui_->Combo4,
+                                                       ui_->Combo13, ui_->Picture2, &page_}) {
+    over->installEventFilter(this);
   }
   for (QComboBox* box : {ui_->Combo2, ui_->Combo3, ui_->Combo4}) {
     connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::leaveCellEditor);
@@ -102,8 +105,15 @@ void EditorView::focusCellEditor() {
   }
 }
 
+bool EditorView::editing() const {
+  return form_.Combo1.visible || form_.Picture2.visible || form_.Combo13.visible;
+}
+
 void EditorView::leaveCellEditor() {
-  binder_.run([this] { form_.Command1.click(); });
+  binder_.run([this] {
+    form_.Command1.click();
+    form_.Combo13.visible = false;
+  });
   ui_->ListView1->setFocus();
 }
 
@@ -117,10 +127,20 @@ void EditorView::dropTypedDuration() {
   });
 }
 
+// What lies over the list lets the wheel through, and Escape ends it, whatever has the keyboard.
 bool EditorView::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
-    return QObject::eventFilter(watched, event);
+  if (event->type() == QEvent::Wheel && watched != &page_) {
+    const auto* wheel = static_cast<const QWheelEvent*>(event);
+    QWidget* list = ui_->ListView1->viewport();
+    QWheelEvent onList(list->mapFromGlobal(wheel->globalPosition()), wheel->globalPosition(),
+                       wheel->pixelDelta(), wheel->angleDelta(), wheel->buttons(), wheel->modifiers(),
+                       wheel->phase(), wheel->inverted());
+    QCoreApplication::sendEvent(list, &onList);
+    return true;
   }
+  const bool escape =
+      event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+  if (!escape || !editing()) return QObject::eventFilter(watched, event);
   dropTypedDuration();
   leaveCellEditor();
   return true;
@@ -148,8 +168,7 @@ void EditorView::refresh() {
   setLook(*ui_->Label4, refusal ? QStringLiteral("badge") : QStringLiteral("tip"));
   placeFloating();
   // A cell editor that has gone hands the keyboard back to the list.
-  const bool editing = form_.Combo1.visible || form_.Picture2.visible || form_.Combo13.visible;
-  if (std::exchange(editing_, editing) && !editing && page_.hasFocus()) ui_->ListView1->setFocus();
+  if (std::exchange(editing_, editing()) && !editing_ && page_.hasFocus()) ui_->ListView1->setFocus();
 }
 
 // A narrow box in the header, with a list as wide as its titles.
@@ -159,12 +178,19 @@ void EditorView::refreshFilms() {
   titles.setMinimumWidth(titles.sizeHintForColumn(0) + dp(&titles, 24));
 }
 
+// By the form's word: the keys and the pointer of the list may be elsewhere by now.
+int EditorView::columnUnder(const platform::Control& over) const {
+  int column = form_.ListView1.columnCount();
+  while (column > 1 && form_.ListView1.columnLeft(column) > over.left) --column;
+  return column;
+}
+
 void EditorView::placeFloating() {
   const GridTable& table = *ui_->ListView1;
   const QSize room = table.viewport()->size();
   const QPoint corner = table.viewport()->mapTo(ui_->MyFrame2, QPoint(0, 0));
   const int row = form_.ListView1.selectedRow();
-  const QRect cell = table.cellRect(row, table.pressedColumn());
+  const QRect cell = table.cellRect(row, columnUnder(form_.Combo1));
   const auto put = [&](QWidget& widget, const QRect& over, int least) {
     QSize size(std::max(over.width(), least), std::max(over.height(), widget.minimumSizeHint().height()));
     QRect place(QPoint(0, 0), size);
@@ -178,7 +204,7 @@ void EditorView::placeFloating() {
   if (!duration.isNull()) put(*ui_->Picture2, duration, ui_->Picture2->sizeHint().width());
   const QRect method = table.cellRect(1, model::column::heartRate);
   if (!method.isNull()) put(*ui_->Combo13, method, dp(&table, 240));
-  const QRect badge = table.cellRect(table.pressedRow(), table.pressedColumn());
+  const QRect badge = table.cellRect(table.pressedRow(), columnUnder(form_.Picture1));
   if (!badge.isNull()) put(*ui_->Picture1, badge, ui_->Picture1->sizeHint().width());
   const QRect pointed = table.cellRect(form_.ListView1.pointedRow(), form_.ListView1.pointedColumn());
   if (!pointed.isNull()) ui_->Navette->setGeometry(pointed.adjusted(1, 1, -1, -1).translated(corner));

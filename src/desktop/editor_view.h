@@ -36,7 +36,9 @@ class EditorView final : public QObject {
  private:
   void focusCellEditor();
   void dropTypedDuration();
+  [[nodiscard]] bool editing() const;
   void leaveCellEditor();
+  [[nodiscard]] int columnUnder(const platform::Control& over) const;
   void placeFloating();
   void refreshFilms();
   void refreshProfile();

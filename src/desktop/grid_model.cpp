@@ -27,7 +27,8 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int wanted) const {
-  if (wanted == Qt::DisplayRole) return toQt(grid_.text(index.row() + 1, index.column() + 1));
+  // A session file fills its announcements up with blanks.
+  if (wanted == Qt::DisplayRole) return toQt(grid_.text(index.row() + 1, index.column() + 1)).trimmed();
   return {};
 }
 

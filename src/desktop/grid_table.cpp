@@ -33,7 +33,7 @@ class CellPainter final : public QStyledItemDelegate {
     const QPalette palette = QGuiApplication::palette();
     paintCellGround(*painter, option.rect, *table_, row, column);
 
-    const std::string& cell = grid.text(row, column);
+    const std::string cell = fromQt(index.data().toString());
     // A cell without a colour of its own goes with its row.
     platform::CellLook look = grid.look(row, column);
     if (look.colour.automatic) look = grid.look(row, model::column::sessionName);
@@ -192,11 +192,21 @@ void GridTable::mousePressEvent(QMouseEvent* event) {
         event->button() == Qt::RightButton ? platform::MouseButton::Right : platform::MouseButton::Left);
 }
 
-void GridTable::mouseMoveEvent(QMouseEvent* event) {
+void GridTable::point(const QPoint& at) {
   if (grid_ == nullptr) return;
-  const Cell cell = cellAt(event->position().toPoint());
+  const Cell cell = cellAt(at);
   run_([this, cell] { grid_->pointAt(cell.row, cell.column); });
   emit layoutMoved();
+}
+
+void GridTable::mouseMoveEvent(QMouseEvent* event) {
+  point(event->position().toPoint());
+}
+
+// Other cells come under a pointer at rest.
+void GridTable::wheelEvent(QWheelEvent* event) {
+  QTableView::wheelEvent(event);
+  point(event->position().toPoint());
 }
 
 void GridTable::keyPressEvent(QKeyEvent* event) {

@@ -41,6 +41,7 @@ class GridTable : public QTableView {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent*) override {}
+  void wheelEvent(QWheelEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -61,6 +62,7 @@ class GridTable : public QTableView {
 
  private:
   void press(int row, int column, platform::MouseButton button);
+  void point(const QPoint& at);
   void layColumns();
   void tellVisibleRows();
   void refreshRow(int row);

@@ -41,7 +41,9 @@ int wrapFlags(Qt::Alignment place) {
 }
 
 // The largest font in which the text fits its cell; in the smallest one, what is too long is cut.
-void paintText(const Paper& paper, const QRectF& cell, QString text, Qt::Alignment place, bool bold) {
+void paintText(const Paper& paper, const QRectF& cell, const QString& cellText, Qt::Alignment place,
+               bool bold) {
+  QString text = cellText.trimmed();  // a session file fills its announcements up with blanks
   const QRectF inside = cell.adjusted(40 * paper.unit, 10 * paper.unit, -40 * paper.unit, -25 * paper.unit);
   QFont font;
   bool fits = false;

@@ -49,14 +49,12 @@ QMessageBox::Icon iconOf(platform::MessageKind kind) {
   return QMessageBox::NoIcon;
 }
 
-// "words|*.a;*.b|words|*.c" as Qt writes it; `extension` is the first pattern's.
-QStringList nameFilters(const std::string& filter, QString& extension) {
+// "words|*.a;*.b|words|*.c" as Qt writes it.
+QStringList nameFilters(const std::string& filter) {
   QStringList filters;
   const std::vector<std::string> parts = platform::split(filter, '|');
   for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
     const QString patterns = toQt(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
-    if (extension.isEmpty())
-      extension = patterns.section(QLatin1Char(' '), 0, 0).section(QLatin1Char('.'), -1);
     filters << toQt(parts[i]) + QStringLiteral(" (") + patterns + QLatin1Char(')');
   }
   return filters;
@@ -64,12 +62,10 @@ QStringList nameFilters(const std::string& filter, QString& extension) {
 
 // Qt takes quotes for marks around several names. Where a file is saved there is one name, which may hold
 // them.
-QString typedPath(const QFileDialog& dialog, const QString& extension) {
+QString typedPath(const QFileDialog& dialog) {
   const auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-  if (edit == nullptr || !edit->text().contains(QLatin1Char('"'))) return dialog.selectedFiles().value(0);
-  const QString name = edit->text();
-  return dialog.directory().absoluteFilePath(
-      name.contains(QLatin1Char('.')) ? name : name + QLatin1Char('.') + extension);
+  const bool quoted = edit != nullptr && edit->text().contains(QLatin1Char('"'));
+  return quoted ? dialog.directory().absoluteFilePath(edit->text()) : dialog.selectedFiles().value(0);
 }
 
 }  // namespace
@@ -102,8 +98,7 @@ std::vector<std::string> QtDialogs::chooseFiles(const platform::FileRequest& req
   QFileDialog dialog(parent_(), toQt(request.title), toQt(request.folder));
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  QString extension;
-  const QStringList filters = nameFilters(request.filter, extension);
+  const QStringList filters = nameFilters(request.filter);
   if (!filters.isEmpty()) dialog.setNameFilters(filters);
   switch (request.purpose) {
     case platform::FilePurpose::Open:
@@ -119,14 +114,16 @@ std::vector<std::string> QtDialogs::chooseFiles(const platform::FileRequest& req
     case platform::FilePurpose::Save:
       dialog.setAcceptMode(QFileDialog::AcceptSave);
       dialog.setFileMode(QFileDialog::AnyFile);
-      dialog.setDefaultSuffix(extension);
+      dialog.setDefaultSuffix(toQt(platform::suffixOf(request.filter)));
       dialog.selectFile(toQt(request.proposedName));
       break;
   }
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annuler"));
   if (QWidget* parent = parent_()) dialog.resize(parent->size() * 3 / 4);
   if (dialog.exec() != QDialog::Accepted) return {};
-  if (request.purpose == platform::FilePurpose::Save) return {fromQt(typedPath(dialog, extension))};
+  if (request.purpose == platform::FilePurpose::Save) {
+    return {platform::withSuffix(fromQt(typedPath(dialog)), request.filter)};
+  }
   std::vector<std::string> paths;
   for (const QString& path : dialog.selectedFiles()) paths.push_back(fromQt(path));
   return paths;

@@ -1,5 +1,6 @@
 #include "desktop/windows.h"
 
+#include <QApplication>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QToolButton>
@@ -70,6 +71,8 @@ Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice cho
   addShortcuts(program, binder_, window_, *mainPage_, *editorPage_);
   makeDraggable();
   offerAppearance();
+  inboxOpens_.setInterval(20);
+  connect(&inboxOpens_, &QTimer::timeout, this, &Windows::takeSessions);
   refresh();
 }
 
@@ -131,6 +134,27 @@ void Windows::setTheme(ThemeMode mode) {
   for (FormWindow* window : {&volumeWindow_, &printWindow_, &filmsWindow_}) window->setTheme(mode);
   binder_.recolour();
   refresh();
+}
+
+void Windows::addSession(const std::string& path) {
+  inbox_.push_back(path);
+  inboxOpens_.start();
+  takeSessions();
+}
+
+void Windows::takeSessions() {
+  while (!inbox_.empty() && !program_.loop().blocked() && QApplication::activeModalWidget() == nullptr) {
+    const std::string path = inbox_.front();
+    inbox_.pop_front();
+    binder_.run([this, &path] {
+      forms::Screens& screens = program_.screens();
+      const forms::MainForm& main = screens.main;
+      const bool riding = main.Timer1.enabled || main.Timer2.enabled || main.Command7.caption != "Pause";
+      if (main.visible && !riding) main.MyButton5.click();
+      screens.editor.sessionHandedIn(path);
+    });
+  }
+  if (inbox_.empty()) inboxOpens_.stop();
 }
 
 void Windows::makeDraggable() {

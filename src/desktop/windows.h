@@ -3,7 +3,10 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
+#include <deque>
 #include <memory>
+#include <string>
 
 #include "app/program.h"
 #include "desktop/announce_view.h"
@@ -36,6 +39,9 @@ class Windows final : public QObject {
   void speak(const QString& text);
   // What writes the recorder's take to a file, so that its form can be drawn.
   void onTake(std::function<void(const std::string& path)> save) { announceView_->onTake(std::move(save)); }
+  // A session file opened in the file manager: goes to the editor's list, once no dialog and no sound is in
+  // the way. A ride under way goes on.
+  void addSession(const std::string& path);
   // Brings what is drawn up to date at once.
   void refresh();
 
@@ -43,6 +49,7 @@ class Windows final : public QObject {
   void followForm(platform::Form& form, QWidget& page);
   void showWhatIsLeft();
   void openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way);
+  void takeSessions();
   void makeDraggable();
   void offerAppearance();
   void setTheme(ThemeMode mode);
@@ -63,6 +70,8 @@ class Windows final : public QObject {
   FormWindow filmsWindow_;
   std::unique_ptr<VolumeView> volumeView_;
   std::unique_ptr<PrintView> printView_;
+  QTimer inboxOpens_;
+  std::deque<std::string> inbox_;  // session files that wait
 };
 
 }  // namespace desktop

@@ -114,8 +114,11 @@ void CellEditor::chargerListeCellule() {
 }
 
 // The entry that equals the cell; a value that the list lacks shows as typed. A text from code is no pick.
+// A session file fills an announcement up with blanks, which are no part of its file's name.
 void CellEditor::selectPresentText() {
-  form_.Combo1.text = grid_.text(grid_.selectedRow(), colonneEdit_);
+  const std::string& cell = grid_.text(grid_.selectedRow(), colonneEdit_);
+  const bool padded = colonneEdit_ == column::announcement && cell != model::emptyCell;
+  form_.Combo1.text = padded ? platform::trim(cell) : cell;
 }
 
 void CellEditor::placerEditeur() {

@@ -175,9 +175,10 @@ void Lines::ajouterSequenceVariante() {
 // A row is inserted by moving what stands behind it, and the place comes from the number in the first column,
 // which deletions leave behind the rows' real places. Nothing is renumbered.
 void Lines::insererLigne() {
-  if (grid_.selectedRow() == 0) return;
+  const int selected = grid_.selectedRow();
+  if (selected == 0) return;
   const int pointed = grid_.pointedRow();
-  const int place = model::lenientInteger(grid_.text(grid_.selectedRow(), column::number)) + 1;
+  const int place = model::lenientInteger(grid_.text(selected, column::number)) + 1;
   const int before = grid_.rowCount();
   ajouterSequence();
   if (grid_.rowCount() == pointed + 1) return;
@@ -187,6 +188,12 @@ void Lines::insererLigne() {
     grid_.addRow(std::move(cells));
   }
   for (int moved = place; moved <= before; ++moved) grid_.removeRow(place);
+  // The rows behind a refused one were moved, too, the selected one perhaps among them.
+  if (grid_.rowCount() == before) {
+    grid_.select(selected);
+  } else {
+    grid_.reveal(grid_.selectedRow());  // the view is still at the end, where the row was made
+  }
 }
 
 void Lines::supprimerLigne() {
@@ -196,13 +203,17 @@ void Lines::supprimerLigne() {
     refuseUnfinished("La Première ligne ne peut pas être Supprimée...!", "Suppression de Ligne...");
     return;
   }
-  grid_.removeRow(grid_.selectedRow());
+  const int row = grid_.selectedRow();
+  grid_.removeRow(row);
   --compteLignes_;
   if (grid_.text(grid_.rowCount(), column::sessionName).starts_with(model::noMeaning)) {
     grid_.removeRow(grid_.rowCount());
     --compteLignes_;
   }
   compteLignes_ = std::max(compteLignes_, 0);
+  grid_.select(std::min(row, grid_.rowCount()));
+  grid_.reveal(grid_.selectedRow());
+  grid_.focus();
 }
 
 void Lines::basculerCycle() {

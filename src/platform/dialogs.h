@@ -27,13 +27,18 @@ struct FileRequest {
   std::string proposedName;  // for Save
 };
 
+// ".tq2" of "words|*.tq2;*.b|words|*.c"; empty where the first pattern fits any ending.
+[[nodiscard]] std::string suffixOf(const std::string& filter);
+// The name under which a save dialog saves: with the filter's suffix, also behind a dot of the rider's own.
+[[nodiscard]] std::string withSuffix(std::string name, const std::string& filter);
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
   // Closing the box counts as Cancel where there is one, else as Ok.
   virtual Answer message(const Message& message) = 0;
-  // The chosen absolute paths; none when the rider cancelled. Save gives one path, with the filter's
-  // extension added where the rider typed none; asking before overwriting is the caller's business.
+  // The chosen absolute paths; none when the rider cancelled. Save gives one path, which ends in the filter's
+  // suffix; asking before overwriting is the caller's business.
   virtual std::vector<std::string> chooseFiles(const FileRequest& request) = 0;
 };
 

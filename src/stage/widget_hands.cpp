@@ -86,7 +86,13 @@ QWidget* WidgetHands::touchable(const platform::Component& component) const {
   QWidget* page = windows_->page(component.form());
   if (page == nullptr) return nullptr;
   auto* widget = page->findChild<QWidget*>(toQt(component.name()));
-  return widget != nullptr && widget->isVisible() ? widget : nullptr;
+  if (widget == nullptr || !widget->isVisible()) return nullptr;
+  // A platform without a screen gives the keyboard back to nobody when a list closes.
+  if (QApplication::focusWidget() == nullptr) {
+    widget->activateWindow();
+    settle();
+  }
+  return widget;
 }
 
 void WidgetHands::press(platform::Component& target) {

@@ -72,6 +72,7 @@ TEST_F(Library, ARowTakenOutCountsAsTickedAndAMissingFileIsTold) {
       "press EnrUneAnnonce.Command8\ntick EnrUneAnnonce.Check1 1\ncheckrow EnrUneAnnonce.ListView1 1 0\n"
       "cell EnrUneAnnonce.ListView1 1 2 right\npress EnrUneAnnonce.mnsupprim");
   EXPECT_EQ(form.MyButton12.caption, "Démarrer la Liste des (1) Musiques Sélectionnées");
+  EXPECT_EQ(form.ListView1.selectedRow(), 1);
   program.memory.files.erase("/d/ambiances/c.mp3");
   EXPECT_THAT(
       program.run("cell EnrUneAnnonce.ListView1 2 1 right\npress EnrUneAnnonce.mnEcouter\njournal dialog"),
