@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "desktop/free_ground.h"
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
@@ -88,6 +89,11 @@ void EditorView::whenBound() {
   for (QComboBox* box : {ui_->Combo2, ui_->Combo3, ui_->Combo4}) {
     connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::enterDuration);
   }
+  page_.installEventFilter(this);
+  const auto* ground = new FreeGround(*ui_->Picture8, [this](const QWidget& widget) {
+    return &widget == ui_->helpPlace || binder_.shows(widget);
+  });
+  connect(ground, &FreeGround::crossed, this, &EditorView::leaveHelp);
   ui_->Combo6->lineEdit()->setPlaceholderText(ui_->Combo6->accessibleName());
 }
 
@@ -115,10 +121,19 @@ void EditorView::leaveCellEditor() {
   ui_->ListView1->setFocus();
 }
 
+// The calculator's picture comes back in place of a help text; false where there is none.
+bool EditorView::leaveHelp() {
+  if (!form_.Picture8.visible || form_.Image11.visible) return false;
+  binder_.run([this] { form_.Picture8.hover(); });
+  return true;
+}
+
 bool EditorView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
     return QObject::eventFilter(watched, event);
   }
+  // What no widget wanted comes to the page.
+  if (watched == &page_) return leaveHelp();
   leaveCellEditor();
   return true;
 }
@@ -200,8 +215,8 @@ void EditorView::refreshCalculator() {
     QWidget* row;
     const platform::Control* control;
   };
-  for (const Row& input : {Row{ui_->ageRow, &form_.Combo7}, Row{ui_->sexRow, &form_.Combo10},
-                           Row{ui_->maxRow, &form_.Combo11}, Row{ui_->restRow, &form_.Combo12}}) {
+  // The rows of the two rates stay: their help does.
+  for (const Row& input : {Row{ui_->ageRow, &form_.Combo7}, Row{ui_->sexRow, &form_.Combo10}}) {
     input.row->setVisible(input.control->visible);
   }
   struct Band {

@@ -37,6 +37,7 @@ class EditorView final : public QObject {
   void focusCellEditor();
   void enterDuration();
   void leaveCellEditor();
+  bool leaveHelp();
   void placeFloating();
   void refreshFilms();
   void refreshProfile();
