@@ -18,6 +18,12 @@ Countdown::Countdown(const voice::Toolbox& tools, Advance& advance)
     main_.MyButton4.enabled = true;
   });
   main_.Combo5.click.handle([this] { chooseLength(); });
+  // A length that was typed; a countdown that runs is not begun anew by leaving the box.
+  for (auto* typed : {&main_.Combo5.enter, &main_.Combo5.validate}) {
+    typed->handle([this] {
+      if (!main_.Timer2.enabled) chooseLength();
+    });
+  }
   for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) {
     box->click.handle([this] { chooseManualTime(); });
   }

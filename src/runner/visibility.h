@@ -31,6 +31,11 @@ inline void hideTimeBoxesUnderSettings(forms::MainForm& main) {
   if (main.Picture1.visible) hide({&main.Combo1, &main.Combo2, &main.Combo3});
 }
 
+// The countdown's number at rest is the length that is chosen for it.
+inline void showCountdownLength(forms::MainForm& main) {
+  if (!main.Timer2.enabled) main.Label9.caption = main.Combo5.text;
+}
+
 // A large message in the place of the heart-rate target.
 inline void showMessage(forms::MainForm& main, const char* text) {
   main.Label44.visible = false;
