@@ -40,11 +40,11 @@ class Drawn final : public QAccessibleWidget {
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
     const QString shown = widget()->property("text").toString();
+    if (kind != QAccessible::Name || shown.isEmpty()) return QAccessibleWidget::text(kind);
     const QString name = QAccessibleWidget::text(QAccessible::Name);
-    if (kind == QAccessible::Name && !shown.isEmpty()) {
-      return name.isEmpty() ? shown : name + QStringLiteral(" : ") + shown;
-    }
-    return QAccessibleWidget::text(kind);
+    const QString unit = widget()->property("unit").toString();
+    return (name.isEmpty() ? shown : name + QStringLiteral(" : ") + shown) +
+           (unit.isEmpty() ? unit : QLatin1Char(' ') + unit);
   }
 };
 
@@ -85,6 +85,11 @@ QAccessibleInterface* makeFace(const QString& name, QObject* object) {
 
 void installAccessibleFaces() {
   QAccessible::installFactory(makeFace);
+}
+
+void tellNewText(QWidget& drawn) {
+  QAccessibleEvent event(&drawn, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace desktop

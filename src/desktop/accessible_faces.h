@@ -2,9 +2,13 @@
 // stands there.
 #pragma once
 
+class QWidget;
+
 namespace desktop {
 
 // For the whole application; asking again changes nothing.
 void installAccessibleFaces();
+// What is drawn there is another text now.
+void tellNewText(QWidget& drawn);
 
 }  // namespace desktop

@@ -95,14 +95,14 @@ QString plain(QString text, const QWidget& widget) {
 }
 
 void showCaption(QWidget& widget, const QString& text) {
-  if (auto* elsewhere = widget.findChild<QLabel*>(widget.objectName() + QStringLiteral("Caption"))) {
-    elsewhere->setText(text);
-  } else if (widget.metaObject()->indexOfProperty("text") >= 0 &&
-             !widget.property("captionElsewhere").toBool()) {
-    widget.setProperty("text", plain(text, widget));
-  }
-  const QString name = text.trimmed();
-  if (qobject_cast<QLabel*>(&widget) == nullptr && !name.isEmpty()) widget.setAccessibleName(name);
+  auto* elsewhere = widget.findChild<QLabel*>(widget.objectName() + QStringLiteral("Caption"));
+  const bool isTextShown = elsewhere == nullptr && widget.metaObject()->indexOfProperty("text") >= 0 &&
+                           !widget.property("captionElsewhere").toBool();
+  if (elsewhere != nullptr) elsewhere->setText(text);
+  if (isTextShown) widget.setProperty("text", plain(text, widget));
+  // What only shows a text is called by it anyway; its name says what the text is about.
+  const bool onlyShows = isTextShown && qobject_cast<QAbstractButton*>(&widget) == nullptr;
+  if (!onlyShows && !text.trimmed().isEmpty()) widget.setAccessibleName(text.trimmed());
 }
 
 void showLook(QWidget& widget, const Control& control) {
@@ -241,6 +241,7 @@ void Binder::tieComboBox(platform::ComboBox& box, QComboBox& widget) {
   widget.setInsertPolicy(QComboBox::NoInsert);
   widget.setCompleter(nullptr);
   widget.setFocusPolicy(Qt::StrongFocus);  // a wheel that passes over takes nothing
+  widget.lineEdit()->setAccessibleName(widget.accessibleName());
   showCombo(box, widget, true);
   connect(&widget, &QComboBox::activated, this,
           [this, &box](int line) { run([&box, line] { box.pick(line); }); });

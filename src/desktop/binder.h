@@ -36,6 +36,8 @@ class Binder final : public QObject {
 
   // Throws std::logic_error with the page's faults.
   void bind(platform::Form& form, QWidget& page);
+  // Whether the widget is a control's.
+  [[nodiscard]] bool shows(const QWidget& widget) const { return controls_.contains(&widget); }
   // Shows the colours anew, after a change of theme.
   void recolour();
   // Runs what the rider caused: at once, or, while a sound blocks the loop, behind it.

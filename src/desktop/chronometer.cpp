@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/accessible_faces.h"
 #include "desktop/theme.h"
 
 namespace desktop {
@@ -26,7 +27,7 @@ ChronoDigits::ChronoDigits(QWidget* parent) : QWidget(parent) {
 void ChronoDigits::setText(const QString& text) {
   if (text_ == text) return;
   text_ = text;
-  setAccessibleDescription(text);
+  tellNewText(*this);
   update();
 }
 
@@ -69,7 +70,7 @@ CountdownRing::CountdownRing(QWidget* parent) : QWidget(parent) {
 void CountdownRing::setText(const QString& text) {
   if (text_ == text) return;
   text_ = text;
-  setAccessibleDescription(text);
+  tellNewText(*this);
   update();
 }
 

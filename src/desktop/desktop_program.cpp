@@ -38,7 +38,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
 }
 
 bool DesktopProgram::start() {
-  windows_.window().show();
+  windows_.window().showFitting();
   // Painted before the first prompt holds everything up.
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   if (!program_.start()) return false;

@@ -10,6 +10,7 @@
 #include <array>
 #include <utility>
 
+#include "desktop/free_ground.h"
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
@@ -92,6 +93,10 @@ void EditorView::whenBound() {
   for (QComboBox* box : {ui_->Combo2, ui_->Combo3, ui_->Combo4}) {
     connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::leaveCellEditor);
   }
+  const auto* ground = new FreeGround(*ui_->Picture8, [this](const QWidget& widget) {
+    return &widget == ui_->helpPlace || binder_.shows(widget);
+  });
+  connect(ground, &FreeGround::crossed, this, &EditorView::leaveHelp);
   ui_->Combo6->lineEdit()->setPlaceholderText(ui_->Combo6->accessibleName());
 }
 
@@ -127,6 +132,13 @@ void EditorView::dropTypedDuration() {
   });
 }
 
+// The calculator's picture comes back in place of a help text; false where there is none.
+bool EditorView::leaveHelp() {
+  if (!form_.Picture8.visible || form_.Image11.visible) return false;
+  binder_.run([this] { form_.Picture8.hover(); });
+  return true;
+}
+
 // What lies over the list lets the wheel through, and Escape ends it, whatever has the keyboard.
 bool EditorView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel && watched != &page_) {
@@ -140,7 +152,9 @@ bool EditorView::eventFilter(QObject* watched, QEvent* event) {
   }
   const bool escape =
       event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
-  if (!escape || !editing()) return QObject::eventFilter(watched, event);
+  if (!escape) return QObject::eventFilter(watched, event);
+  // What no widget wanted comes to the page.
+  if (!editing()) return watched == &page_ && leaveHelp();
   dropTypedDuration();
   leaveCellEditor();
   return true;
@@ -229,8 +243,8 @@ void EditorView::refreshCalculator() {
     QWidget* row;
     const platform::Control* control;
   };
-  for (const Row& input : {Row{ui_->ageRow, &form_.Combo7}, Row{ui_->sexRow, &form_.Combo10},
-                           Row{ui_->maxRow, &form_.Combo11}, Row{ui_->restRow, &form_.Combo12}}) {
+  // The rows of the two rates stay: their help does.
+  for (const Row& input : {Row{ui_->ageRow, &form_.Combo7}, Row{ui_->sexRow, &form_.Combo10}}) {
     input.row->setVisible(input.control->visible);
   }
   struct Band {

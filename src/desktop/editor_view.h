@@ -39,6 +39,7 @@ class EditorView final : public QObject {
   [[nodiscard]] bool editing() const;
   void leaveCellEditor();
   [[nodiscard]] int columnUnder(const platform::Control& over) const;
+  bool leaveHelp();
   void placeFloating();
   void refreshFilms();
   void refreshProfile();

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/accessible_faces.h"
 #include "desktop/theme.h"
 
 namespace desktop {
@@ -25,7 +26,7 @@ FitLabel::FitLabel(QWidget* parent) : QWidget(parent) {
 void FitLabel::setText(const QString& text) {
   if (text_ == text) return;
   text_ = text;
-  setAccessibleDescription(unit_.isEmpty() ? text : text + QLatin1Char(' ') + unit_);
+  tellNewText(*this);
   updateGeometry();
   update();
 }

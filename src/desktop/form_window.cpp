@@ -18,7 +18,7 @@ FormWindow::FormWindow(platform::Form& form, const QSize& design, ThemeMode mode
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(page_);
-  setMinimumSize(design / 2);
+  setMinimumSize(design * smallestScale);
   resize(design);
 }
 

@@ -1,6 +1,8 @@
 #include "desktop/main_window.h"
 
 #include <QCloseEvent>
+#include <QScreen>
+#include <QWindow>
 
 #include "desktop/window_scale.h"
 
@@ -14,7 +16,7 @@ constexpr QSize design(1280, 800);
 MainWindow::MainWindow(ThemeMode mode) : mode_(mode) {
   setProperty("scale", 1.0);
   setCentralWidget(&pages_);
-  setMinimumSize(design / 2);  // a small screen at 200 %
+  setMinimumSize(design * smallestScale);
   setWindowIcon(QIcon(QStringLiteral(":/ventoria/icons/ventoria.svg")));
   resize(design);
 }
@@ -34,6 +36,30 @@ void MainWindow::setTheme(ThemeMode mode) {
   mode_ = mode;
   scale_ = 0;
   restyle();
+}
+
+void MainWindow::showFitting() {
+  fitScreen();
+  show();
+  windowHandle()->installEventFilter(this);
+}
+
+void MainWindow::fitScreen() {
+  const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
+  const QRect room = screen()->availableGeometry();
+  const QSize largest = room.marginsRemoved(frame).size();
+  if (width() <= largest.width() && height() <= largest.height()) return;
+  resize(size().boundedTo(largest));
+  move(room.topLeft());
+}
+
+// How much the frame takes is known only once the window manager has put it around the window.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == windowHandle() && event->type() == QEvent::Expose) {
+    watched->removeEventFilter(this);
+    fitScreen();
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::restyle() {

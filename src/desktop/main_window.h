@@ -17,6 +17,8 @@ class MainWindow final : public QMainWindow {
   void addPage(QWidget* page);
   void showPage(QWidget* page);
   void setTheme(ThemeMode mode);
+  // Shows the window no larger than the screen leaves room, its frame included.
+  void showFitting();
   // The rider wants to close the window; it closes by itself only where nobody is asked.
   void onClose(std::function<void()> asked) { closeAsked_ = std::move(asked); }
 
@@ -26,9 +28,11 @@ class MainWindow final : public QMainWindow {
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void restyle();
+  void fitScreen();
 
   QStackedWidget pages_;
   ThemeMode mode_;

@@ -9,7 +9,6 @@ namespace desktop {
 namespace {
 
 constexpr double step = 0.05;  // a new style sheet for every pixel of a drag would stutter
-constexpr double smallest = 0.5;
 
 // The fixed spaces of a layout, remembered like its margins.
 void scaleSpacers(QLayout& layout, double scale) {
@@ -63,7 +62,7 @@ void scaleLayout(QLayout& layout, double scale) {
 double fittingScale(const QSize& size, const QSize& design) {
   const double fitting = std::min(size.width() / static_cast<double>(design.width()),
                                   size.height() / static_cast<double>(design.height()));
-  return std::max(smallest, std::floor(fitting / step + 1e-9) * step);
+  return std::max(smallestScale, std::floor(fitting / step + 1e-9) * step);
 }
 
 void scaleWindow(QWidget& window, QWidget& contents, ThemeMode mode, double scale) {

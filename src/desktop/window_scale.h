@@ -8,6 +8,9 @@
 
 namespace desktop {
 
+// A screen of 1280 x 800 at 200 %, less the frame of the window.
+constexpr double smallestScale = 0.45;
+
 // How much larger than its design a window is, in steps that keep a drag from stuttering.
 [[nodiscard]] double fittingScale(const QSize& size, const QSize& design);
 // Shows all of `contents` at that scale, under the style sheet of its window.

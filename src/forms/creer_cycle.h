@@ -24,7 +24,7 @@ using platform::Timer;
 struct CreerCycle : platform::Form {
   CreerCycle() : Form("CreerCycle", "Ventoria") {}
 
-  // A session file that comes from outside: opened in the file manager, dropped on the window.
+  // A session file that comes from outside: opened in the file manager.
   platform::Event<std::string> sessionHandedIn;
 
   // Containers.

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "heartrate/formulas.h"
+#include "heartrate/help_texts.h"
 #include "heartrate/input_checks.h"
 #include "model/numbers.h"
 #include "platform/each_on_its_own.h"
@@ -74,9 +75,7 @@ void CalculatorScreen::ouvrirCalculateur() {
   form_.Command1.click();
   form_.Combo1.visible = false;
   form_.Combo13.visible = false;
-  form_.Image11.visible = true;
-  form_.Label47.visible = false;
-  form_.Shape2.visible = false;
+  hideHelp(form_);
   platform::Frame& panel = form_.Picture8;
   const platform::Frame& window = form_.MyFrame2;  // takes the form's size when that is maximised
   panel.left = form_.maximised ? std::max(0, (window.width - panel.width) / 2) : 0;
@@ -109,14 +108,16 @@ void CalculatorScreen::calculerFrequences() {
 }
 
 void CalculatorScreen::choisirMethode() {
-  if (figures_.loading() || !hasItsFigures(tools_.outside.dialogs, form_)) return;
+  if (figures_.loading()) return;
   const int methode = form_.Combo8.index;
+  // Before the check: what it finds missing is entered in the boxes of the method that was picked.
+  showBoxesOf(methode);
+  if (!hasItsFigures(tools_.outside.dialogs, form_)) return;
   if (methode < 0 && isBlank(form_.Combo7)) {
     form_.MyButton41.click();
     return;
   }
   figures_.methodeFC = methode;
-  showBoxesOf(methode);
   if (!isBlank(form_.Combo7)) calculerFrequences();
 }
 

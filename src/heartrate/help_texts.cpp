@@ -81,28 +81,31 @@ constexpr std::array<HelpText, 2> hoverTexts{{
      "sur une période donnée."},
 }};
 
+// The text or, where it is empty, the picture in its place: never both.
+void showHelp(CreerCycle& form, const char* text) {
+  const bool helps = *text != '\0';
+  form.Image11.visible = !helps;
+  form.Label47.visible = helps;
+  form.Shape2.visible = helps;
+  form.Label44.caption = text;
+}
+
 }  // namespace
+
+void hideHelp(CreerCycle& form) {
+  showHelp(form, "");
+}
 
 void attachHelp(CreerCycle& form) {
   for (const HelpText& help : texts) {
-    (form.*help.button).click.handle([&form, text = help.text] {
-      form.Image11.visible = false;
-      form.Label47.visible = true;
-      form.Shape2.visible = true;
-      form.Label44.caption = text;
-    });
+    (form.*help.button).click.handle([&form, text = help.text] { showHelp(form, text); });
   }
   for (const HelpText& help : hoverTexts) {
     (form.*help.button).hover.handle([&form, text = help.text] { form.Label44.caption = text; });
   }
-  form.Image10.hover.handle([&form] {
-    if (!form.Image11.visible) {
-      form.Image11.visible = true;
-      form.Label47.visible = false;
-      form.Shape2.visible = false;
-    }
-    form.Label44.caption = "";
-  });
+  for (platform::Control* ground : std::initializer_list<platform::Control*>{&form.Image10, &form.Picture8}) {
+    ground->hover.handle([&form] { hideHelp(form); });
+  }
 }
 
 }  // namespace heartrate

@@ -6,5 +6,7 @@
 namespace heartrate {
 
 void attachHelp(forms::CreerCycle& form);
+// The picture takes the place of the text again.
+void hideHelp(forms::CreerCycle& form);
 
 }  // namespace heartrate

@@ -73,6 +73,7 @@ void HandOver::settleOtherForms() {
   if (tools_.screens.volume.visible) tools_.screens.volume.unload();
   if (state_.dureeChrono.empty()) state_.dureeChrono = "16";
   main_.Combo5.text = state_.dureeChrono;
+  showCountdownLength(main_);
 }
 
 void HandOver::resetRide() {

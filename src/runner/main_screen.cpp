@@ -64,6 +64,7 @@ void MainScreen::connectMenus() {
 
 void MainScreen::openEditor() {
   main_.hide();
+  showCountdownLength(main_);
   if (main_.Command7.caption == "Pause") main_.MyFrame2.visible = true;
   tools_.screens.editor.show();
 }

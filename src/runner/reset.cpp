@@ -54,6 +54,7 @@ void Reset::boutonStart() {
     main_.MyButton1.caption = "Stop";
     hide({&main_.Combo1, &main_.Combo2, &main_.Combo3, &main_.Combo4});
     clearMessage(main_);
+    showCountdownLength(main_);
     main_.MyFrame2.visible = true;
     main_.MyButton3.enabled = true;
   } else if (main_.MyButton1.caption == "Stop") {

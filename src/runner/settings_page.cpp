@@ -90,6 +90,7 @@ void SettingsPage::lireParametres() {
   const int countdown = model::lenientInteger(settings->countdown);
   main_.Combo5.text = countdown == 0 ? "16" : std::to_string(countdown);
   state_.dureeChrono = main_.Combo5.text;
+  showCountdownLength(main_);
   if (countdown > longestCountdown) state_.dureeChrono = std::to_string(longestCountdown);
 }
 

@@ -44,6 +44,11 @@ inline void tellNothingToRide(forms::MainForm& main) {
   hideTimeBoxesUnderSettings(main);
 }
 
+// The countdown's number at rest is the length that is chosen for it.
+inline void showCountdownLength(forms::MainForm& main) {
+  if (!main.Timer2.enabled) main.Label9.caption = main.Combo5.text;
+}
+
 // A large message in the place of the heart-rate target.
 inline void showMessage(forms::MainForm& main, const char* text) {
   main.Label44.visible = false;

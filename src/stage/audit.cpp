@@ -71,6 +71,10 @@ class Audit {
   void walk(QAccessibleInterface* face) {
     if (face == nullptr || face->state().invisible) return;
     if (face->object() != nullptr) told_.insert(face->object());
+    const auto* field = qobject_cast<const QLineEdit*>(face->object());
+    if (field != nullptr && face->text(QAccessible::Name).trimmed().isEmpty()) {
+      fault(*field->parentWidget(), QStringLiteral("has a field without a name"));
+    }
     // The cells of a list are its texts.
     if (face->role() == QAccessible::Table || face->role() == QAccessible::List) return;
     for (int i = 0; i < face->childCount(); ++i) walk(face->child(i));
@@ -182,6 +186,13 @@ class Audit {
         qobject_cast<const QLabel*>(&widget) != nullptr || face->role() == QAccessible::Graphic;
     if (!silent && face->text(QAccessible::Name).trimmed().isEmpty()) {
       fault(widget, QStringLiteral("has no accessible name"));
+    }
+    const QString text = widget.property("text").toString();
+    const bool drawn =
+        qobject_cast<const QLabel*>(&widget) == nullptr && face->role() == QAccessible::StaticText;
+    const QString told = face->text(QAccessible::Name) + face->text(QAccessible::Description);
+    if (drawn && !text.isEmpty() && told.count(text) != 1) {
+      fault(widget, QStringLiteral("is not told once: ") + told);
     }
   }
 

@@ -126,7 +126,9 @@ void WidgetHands::hover(platform::Control& target) {
     direct_.hover(target);
     return;
   }
-  mouse(*widget, QEvent::MouseMove, spot(*widget), Qt::NoButton, Qt::NoButton);
+  // A container is met at its edge, where nothing lies on it.
+  const bool holds = target.kind() == platform::ControlKind::Frame;
+  mouse(*widget, QEvent::MouseMove, holds ? QPoint(2, 2) : spot(*widget), Qt::NoButton, Qt::NoButton);
   settle();
 }
 

@@ -84,6 +84,8 @@ clsAfMasterVolume& VolumeGeneral::master() {
 }
 
 void VolumeGeneral::load() {
+  // Anew, also where the bar was written while the dialog was closed: the default device may be another one.
+  master_.reset();
   const bool volume = master().VolumeEnabled();
   const bool mute = master().MuteEnabled();
   form_.Lbl_OS.caption =

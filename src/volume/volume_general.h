@@ -25,7 +25,7 @@ class VolumeGeneral {
   voice::Toolbox tools_;
   forms::VolumeGeneral& form_;
   forms::MainForm& main_;
-  std::optional<clsAfMasterVolume> master_;  // made at first use, dropped at unload
+  std::optional<clsAfMasterVolume> master_;  // made at first use, dropped at load and unload
   int etatMuet_ = 0;
   std::string volumeAffiche_;
   bool noticed_ = false;

@@ -4,10 +4,13 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <functional>
 
+#include "desktop/accessible_faces.h"
+#include "desktop/chronometer.h"
 #include "desktop/theme.h"
 #include "platform/controls.h"
 
@@ -26,6 +29,7 @@ struct Page : platform::Form {
 class AuditTest : public testing::Test {
  protected:
   AuditTest() {
+    desktop::installAccessibleFaces();
     window_.resize(400, 200);
     window_.setStyleSheet(
         QStringLiteral("QWidget { background: #000000; color: #ffffff; font-size: 32px; }"));
@@ -69,6 +73,25 @@ TEST_F(AuditTest, EachFaultIsNamed) {
          picture->show();
        },
        "Page.picture is out of the keyboard's reach"},
+      {[&] {
+         auto* box = new QComboBox(&window_);
+         box->setObjectName(QStringLiteral("box"));
+         box->setAccessibleName(QStringLiteral("Heures"));
+         box->setEditable(true);
+         box->setGeometry(place);
+         box->show();
+       },
+       "Page.box has a field without a name"},
+      {[&] {
+         auto* drawn = new desktop::CountdownRing(&window_);
+         drawn->setObjectName(QStringLiteral("ring"));
+         drawn->setText(QStringLiteral("16"));
+         drawn->setAccessibleName(drawn->text());
+         drawn->setStyleSheet(QStringLiteral("font-size: 9px;"));
+         drawn->setGeometry(place);
+         drawn->show();
+       },
+       "Page.ring is not told once: 16 : 16"},
   };
   for (const auto& [make, wanted] : table) {
     make();

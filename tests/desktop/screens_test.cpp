@@ -184,6 +184,48 @@ TEST_F(ScreensTest, TheHelpIsPulledOutOfItsRowAndPutBack) {
   EXPECT_EQ(panel.parentWidget(), row);
 }
 
+TEST_F(ScreensTest, TheCalculatorsHelpGoesAtItsFreeGroundAndByEscape) {
+  forms::CreerCycle& form = screens_.editor;
+  screens_.main.MyButton5.click();
+  form.MyButton25.click();
+  settle();
+  auto& mark = widget<QPushButton>(form, "MyButton26");
+  QWidget& strip = *mark.parentWidget()->parentWidget();
+  const auto move = [&](QWidget& over, const QPoint& at) {
+    for (const QPoint& step : {QPoint(1, 0), QPoint(0, 0)}) QTest::mouseMove(&over, at + step);
+    settle();
+    return form.Image11.visible.get();
+  };
+  const std::tuple<const char*, QWidget*, QPoint, bool> places[] = {
+      {"the button", &mark, mark.rect().center(), false},
+      {"a box", &widget<QWidget>(form, "Combo8"), {9, 9}, false},
+      {"the text", &widget<QWidget>(form, "Label44"), {9, 9}, false},
+      {"the panel", &widget<QWidget>(form, "Picture8"), {9, 9}, true},
+      {"a strip on it", &strip, {5, 5}, true},
+      {"a row's words", mark.parentWidget()->findChild<QLabel*>(), {5, 5}, true}};
+  for (const auto& [what, over, at, goes] : places) {
+    mark.click();
+    EXPECT_EQ(move(*over, at), goes) << what;
+  }
+  // The marks of the two rates stay while their boxes go.
+  form.Combo8.index = 1;
+  settle();
+  EXPECT_TRUE(mark.isVisible() && !widget<QWidget>(form, "Combo11").isVisible());
+  mark.click();
+  mark.setFocus();
+  QTest::keyClick(&mark, Qt::Key_Escape);
+  EXPECT_TRUE(form.Image11.visible && form.Picture8.visible);
+}
+
+TEST(FirstWindow, FitsItsScreenWithItsFrame) {
+  desktop::MainWindow window(desktop::ThemeMode::Dark);
+  window.showFitting();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+  const QRect room = window.screen()->availableGeometry();
+  EXPECT_LT(room.width(), 1280);
+  EXPECT_TRUE(room.contains(window.frameGeometry()));
+}
+
 TEST_F(ScreensTest, OptionsAndSlidersFollowTheirFormAndMoveIt) {
   forms::ImprimerTQ1& print = screens_.print;
   print.show();

@@ -249,6 +249,8 @@ TEST_F(HeartRate, AsksForWhatTheMethodNeeds) {
       form.Picture8.visible = false;
       byMethod ? form.Combo8.pick(row.methode) : form.MyButton38.click();
       EXPECT_EQ(form.Picture8.visible, row.asked != nullptr);
+      // Also after a failed check: what is missing has its box.
+      EXPECT_EQ(form.Combo12.visible, row.methode >= 4) << row.methode;
       ASSERT_EQ(dialogs.messages.size(), row.asked != nullptr ? 1U : 0U) << row.methode << row.age;
       if (row.asked == nullptr) continue;
       EXPECT_THAT(dialogs.messages.front().text, HasSubstr(row.asked));
@@ -390,8 +392,22 @@ TEST_F(HeartRate, OffersToSaveOnlyWhatDiffersOnTheLastMethod) {
   EXPECT_EQ(offered(), std::pair(false, false));
 }
 
-TEST_F(HeartRate, HelpsUnderThePointer) {
+TEST_F(HeartRate, ShowsAHelpTextOrThePictureNeverBoth) {
   load();
+  const std::pair<const char*, std::function<void()>> waysBack[] = {
+      {"ground", [this] { form.Picture8.hover(); }},
+      {"picture", [this] { form.Image10.hover(); }},
+      {"reopened", [this] { form.Command2.click(), form.MyButton25.click(); }},
+      {"failed check", [this] { form.MyButton38.click(); }}};
+  form.MyButton25.click();
+  for (const auto& [way, back] : waysBack) {
+    form.MyButton26.click();
+    EXPECT_TRUE(form.Label47.visible && form.Shape2.visible && !form.Image11.visible) << way;
+    EXPECT_THAT(form.Label44.caption.get(), HasSubstr("FCMax"));
+    back();
+    EXPECT_TRUE(form.Image11.visible && !form.Label47.visible && !form.Shape2.visible) << way;
+    EXPECT_EQ(form.Label44.caption, "") << way;
+  }
   form.MyButton29.hover();
   EXPECT_THAT(form.Label44.caption.get(), HasSubstr("moyenne (bpm)"));
 }

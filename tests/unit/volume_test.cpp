@@ -78,6 +78,16 @@ TEST_F(Dialog, AdvisesByTheLevel) {
   EXPECT_EQ(screens.editor.Image2.picture.get(), form.Image4.picture.get());
 }
 
+TEST_F(Dialog, LooksForTheDeviceAnewThoughTheBarWasWrittenMeanwhile) {
+  volume.present = false;
+  form.load();
+  form.unload();
+  form.VScroll1.value = 30;
+  volume.present = true;
+  form.load();
+  EXPECT_TRUE(form.VScroll1.enabled);
+}
+
 TEST_F(Dialog, TellsOnceAtTheStartWhatWouldNotBeHeard) {
   struct Case {
     double level;
