@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Ride{"Spoken", support::settingsOn, SoundMode::Instant, "0", 0, false},
                     Ride{"Timed", support::settingsOn, SoundMode::Timed, "0", 0, false},
                     Ride{"SecondPass", support::settingsOn, SoundMode::Instant, "2", 140, false},
-                    Ride{"Music", yielding, SoundMode::Timed, "2", 0, true}),
+                    Ride{"Music", yielding, SoundMode::Timed, "0", 0, true}),
     [](const auto& ride) { return ride.param.name; });
 
 }  // namespace
