@@ -73,6 +73,7 @@ TEST_F(BinderTest, EveryControlStandsOnceOnItsPage) {
 }
 
 TEST_F(BinderTest, WhatThePersonDoesReachesTheControl) {
+  screens_.main.Command7.enabled = true;
   forms::MainForm& form = screens_.main;
   std::vector<std::string> heard;
   const auto hear = [&](auto& event, const char* what) {
@@ -136,6 +137,7 @@ TEST_F(BinderTest, AWriteFromCodeShowsAndComesBackAsNothing) {
 
 TEST_F(BinderTest, InputDuringABlockingSoundIsHandledBehindIt) {
   int presses = 0;
+  screens_.main.Command7.enabled = true;
   screens_.main.Command7.click.handle([&presses] { ++presses; });
   binder_.bind(screens_.main, main_);
   {

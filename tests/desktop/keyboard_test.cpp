@@ -113,6 +113,22 @@ TEST_F(KeyboardTest, EnterOpensAMenuOnItsFirstEntry) {
   key(Qt::Key_Escape);
 }
 
+TEST_F(KeyboardTest, AButtonThatIsClosedInUseTakesTheKeyboardBack) {
+  forms::MainForm& main = screens_.main;
+  main.Command7.enabled = true;
+  main.MyButton4.enabled = true;
+  for (const bool touched : {false, true}) {
+    widget<QWidget>(main, "Command7").setFocus();
+    main.Command7.enabled = false;
+    settle();
+    EXPECT_EQ(QApplication::focusWidget(), windows_->page(main)) << "none that a key would press";
+    if (touched) widget<QWidget>(main, "MyButton4").setFocus();
+    main.Command7.enabled = true;
+    settle();
+    EXPECT_EQ(focused(), touched ? "MyButton4" : "Command7");
+  }
+}
+
 TEST_F(KeyboardTest, DeleteAsksBeforeItTakesALineAway) {
   tabTo("MyButton5");
   key(Qt::Key_Space);

@@ -98,6 +98,24 @@ TEST_F(InterpreterTest, APopUpIsOpenUntilTheNextCommandOnSomethingElse) {
   EXPECT_EQ(run("press MainForm.mnVolume"), "refused: disabled\n");
 }
 
+TEST_F(InterpreterTest, APostponedCommandComesInsideAWaitAndBehindASound) {
+  using namespace std::chrono_literals;
+  main_.MyButton1.click.handle([&] { loop_.runUntil(clock_.now() + 2000ms); });
+  main_.Command2.click.handle([&] {
+    const platform::EventLoop::Blocking sound(loop_);
+    clock_.sleepUntil(clock_.now() + 2000ms);
+  });
+  EXPECT_EQ(run("at 1 echo in the wait\nat 0.5 echo first\nat 1 press MainForm.MyButton3\n"
+                "press MainForm.MyButton1\necho behind the wait\nat 1 echo behind the sound\n"
+                "press MainForm.Command2\nadvance 0\nat 9 echo never"),
+            "0.500\tfirst\n1.000\tin the wait\n1.000\trefused: hidden\nbehind the wait\n"
+            "4.000\tbehind the sound\n");
+  EXPECT_EQ(status_, 0);
+  for (const char* unfit : {"at 1 advance 1", "at 1 at 1 echo", "at -1 echo", "at 1", "at x echo"}) {
+    EXPECT_THAT(run(unfit), StartsWith("error: ")) << unfit;
+  }
+}
+
 TEST_F(InterpreterTest, TheHandsRaiseWhatARidersWouldRaise) {
   std::string heard;
   const auto note = [&](const char* what) { return [&heard, what] { heard += std::string(what) + " "; }; };

@@ -169,6 +169,8 @@ TEST(SettingsFile, KnowsDamageByTheCharacter) {
     EXPECT_EQ(read(bytes).has_value(), c.valid) << c.at << c.byte;
   }
   for (std::size_t size = 0; size < good.size(); ++size) EXPECT_TRUE(read(good.substr(0, size))) << size;
+  EXPECT_THAT(files.calls, testing::Each(testing::StartsWith("read ")))
+      << "protected settings are settings, too";
 }
 
 TEST(SettingsFile, WritesThirtyBytes) {

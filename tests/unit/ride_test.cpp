@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 
 #include "model/grid_rows.h"
+#include "runner/boundary_sounds.h"
 #include "support/simulated_program.h"
+#include "voice/sound_bank.h"
 
 namespace {
 
@@ -56,6 +58,13 @@ TEST(Settings, AFullDiskKeepsTheBoxesAndTheLengthOfTheCountdown) {
   EXPECT_EQ(program.screens().main.Check4.value, 1);
 }
 
+TEST(Rides, PassesBeyondTheNumberedOnesHaveAPromptOfTheirOwn) {
+  for (const auto& [pass, name] : {std::pair{1, "seance1.wav"}, {20, "seance20.wav"}, {21, "nvseance.wav"}}) {
+    EXPECT_EQ(runner::passSound(pass), name);
+    EXPECT_TRUE(voice::soundNumber(name)) << name;
+  }
+}
+
 // A wait of n seconds ends n seconds after the nearest whole second, midnight or not.
 TEST(Waits, LastUntilAWholeSecondOfTheClock) {
   const struct {
@@ -72,63 +81,16 @@ TEST(Waits, LastUntilAWholeSecondOfTheClock) {
   }
 }
 
-class WaitingRide : public testing::Test {
- protected:
-  WaitingRide() {
-    EXPECT_TRUE(program_.start());
-    program_.run(composeTwoRows);
-    program_.run(openCountdown);
-  }
-  // The rider gives the commands as soon as the chrono's condition holds, be it in the midst of a wait.
-  void when(std::function<bool()> condition, const std::string& commands) {
-    program_.loop().onInput([this, condition = std::move(condition), commands] {
-      if (!condition()) return;
-      SimulatedProgram& program = program_;  // what the handler holds goes with the handler
-      const std::string now = commands;
-      program.loop().onInput({});
-      program.run(now);
-    });
-  }
-  forms::MainForm& main() { return program_.screens().main; }
-
-  SimulatedProgram program_{support::settingsOn};
-};
-
-TEST_F(WaitingRide, ACancelInABoundarysWaitEndsTheBoundary) {
-  when([this] { return program_.state().sequenceCourante == 2; }, "call MainForm.MyButton4");
-  program_.run("advance 60");
-  const std::string said = program_.run("journal prompt");
-  EXPECT_THAT(said, HasSubstr("seanceAnnule.wav"));
-  EXPECT_THAT(said, Not(HasSubstr("seq2.wav")));
-  EXPECT_FALSE(main().Timer1.enabled);
-  EXPECT_FALSE(main().Label16.visible);
-  EXPECT_TRUE(main().Label18.visible);
-  EXPECT_EQ(program_.state().sequenceCourante, 0);
-}
-
-TEST_F(WaitingRide, ACancelWhileTheZeroStandsKeepsTheNextRowAway) {
-  when([this] { return main().Label40.caption == "00:00:20" && main().Label6.caption == "00"; },
-       "press MainForm.MyButton4");
-  program_.run("advance 60");
-  EXPECT_THAT(program_.run("journal prompt"), Not(HasSubstr("seq2.wav")));
-  EXPECT_FALSE(main().Timer1.enabled);
-}
-
-TEST_F(WaitingRide, APauseInABoundarysWaitHoldsTheNewRow) {
-  when([this] { return program_.state().sequenceCourante == 2; }, "press MainForm.Command7");
-  program_.run("advance 60");
-  EXPECT_EQ(main().Command7.caption, "REPRENDRE");
-  EXPECT_EQ(main().Label16.caption, "2/2");
-  EXPECT_EQ(main().Label40.caption, "00:00:20");
-  program_.run("press MainForm.Command7\nadvance 2");
-  EXPECT_EQ(main().Label40.caption, "00:00:18");
-}
-
-TEST_F(WaitingRide, QuittingInAWaitLeavesNothingRunning) {
-  when([this] { return program_.state().sequenceCourante == 2; }, "press MainForm.Command4");
-  program_.run("advance 60");
-  EXPECT_TRUE(program_.loop().quitting());
-  EXPECT_THAT(program_.run("journal prompt"), Not(HasSubstr("seq2.wav")));
+TEST(Rides, QuittingInAWaitLeavesNothingRunning) {
+  SimulatedProgram program(support::settingsOn);
+  ASSERT_TRUE(program.start());
+  program.run(composeTwoRows);
+  program.run(openCountdown);
+  program.run("at 3 press MainForm.Command4\nadvance 60");
+  EXPECT_TRUE(program.loop().quitting());
+  EXPECT_EQ(program.state().sequenceCourante, 1);
+  EXPECT_THAT(program.run("journal prompt"),
+              testing::AllOf(HasSubstr("seance1.wav"), Not(HasSubstr("seq1.wav"))));
 }
 
 TEST(Rides, AFaultInATickIsToldOnceAndTheProgramGoesOn) {

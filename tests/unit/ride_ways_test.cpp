@@ -18,7 +18,6 @@ struct Ride {
   bool music;
 };
 
-const std::string voiceOff = "0000000010011 0               ";
 const std::string yielding = "0111111111102 1               ";
 
 class Ways : public testing::TestWithParam<Ride> {
@@ -118,7 +117,7 @@ TEST_P(Ways, LeadOnFromEveryPressAtEveryTenth) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rides, Ways,
-    testing::Values(Ride{"VoiceOff", voiceOff, SoundMode::Instant, "0", 0, false},
+    testing::Values(Ride{"VoiceOff", support::settingsOff, SoundMode::Instant, "0", 0, false},
                     Ride{"Spoken", support::settingsOn, SoundMode::Instant, "0", 0, false},
                     Ride{"Timed", support::settingsOn, SoundMode::Timed, "0", 0, false},
                     Ride{"SecondPass", support::settingsOn, SoundMode::Instant, "2", 140, false},
