@@ -86,7 +86,7 @@ TEST(Rides, QuittingInAWaitLeavesNothingRunning) {
   ASSERT_TRUE(program.start());
   program.run(composeTwoRows);
   program.run(openCountdown);
-  program.run("at 3 press MainForm.Command4\nadvance 60");
+  program.run("at 2.5 press MainForm.Command4\nadvance 60");
   EXPECT_TRUE(program.loop().quitting());
   EXPECT_EQ(program.state().sequenceCourante, 1);
   EXPECT_THAT(program.run("journal prompt"),
