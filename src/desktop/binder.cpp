@@ -219,9 +219,9 @@ void Binder::tieButton(Control& control, QAbstractButton& button) {
 }
 
 void Binder::tieCheckBox(platform::CheckBox& box, QCheckBox& widget) {
-  connect(&widget, &QCheckBox::clicked, this, [this, &box, &widget](bool on) {
+  connect(&widget, &QCheckBox::clicked, this, [this, &box, &widget] {
     widget.setTristate(false);
-    run([&box, on] { box.value = on ? 1 : 0; });
+    run([&box] { box.toggle(); });
   });
 }
 
@@ -276,6 +276,9 @@ void Binder::show(const Component& component, Prop prop, QWidget& widget) {
       break;
     case Prop::Enabled:
       widget.setEnabled(control.enabled);
+      break;
+    case Prop::Focus:
+      widget.setFocus();
       break;
     case Prop::ToolTip:
       widget.setToolTip(plainTip(toQt(control.toolTip.get())));
