@@ -6,7 +6,6 @@ Ambience::Ambience(const voice::Toolbox& tools, Selection& selection)
     : tools_(tools), main_(tools.screens.main), form_(tools.screens.announcements), selection_(selection) {
   connectMainScreen();
   form_.MyButton9.click.handle([this] { leaveLibrary(); });
-  form_.MyButton7.click.handle([this] { leaveRecording(); });
   form_.Timer12.tick.handle([this] {
     form_.Timer12.enabled = false;
     form_.MyButton12.click();
@@ -75,14 +74,6 @@ void Ambience::leaveLibrary() {
   }
   main_.show();
   form_.unload();
-}
-
-void Ambience::leaveRecording() {
-  form_.VScroll1.value = 7;
-  tools_.outside.media.send("stop capture");
-  tools_.outside.media.send("close all");
-  form_.hide();
-  main_.show();
 }
 
 }  // namespace capture

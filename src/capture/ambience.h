@@ -16,7 +16,6 @@ class Ambience {
   void openLibrary();
   void startWholeLibrary();
   void leaveLibrary();
-  void leaveRecording();
 
   voice::Toolbox tools_;
   forms::MainForm& main_;

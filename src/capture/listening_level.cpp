@@ -5,8 +5,6 @@
 namespace capture {
 namespace {
 
-constexpr int usualLevel = 7;
-
 // By level from 1 and by balance from -2: the left channel in the low half, the right one in the high half.
 constexpr std::array<std::array<std::uint32_t, 5>, 7> levels{{
     {0x00000000, 0x00000000, 0x00000000, 0x00000000, 0x00000000},
@@ -46,7 +44,7 @@ ListeningLevel::ListeningLevel(const voice::Toolbox& tools)
 
 void ListeningLevel::makeReady() {
   movedByHand();
-  form_.VScroll1.value = usualLevel;
+  form_.VScroll1.value = usualListeningLevel;
 }
 
 // Above the table the last level stays.

@@ -5,6 +5,8 @@
 
 namespace capture {
 
+inline constexpr int usualListeningLevel = 7;
+
 class ListeningLevel {
  public:
   explicit ListeningLevel(const voice::Toolbox& tools);

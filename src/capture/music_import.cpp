@@ -22,16 +22,12 @@ void MusicImport::importer() {
        "Fichiers (Musiques) mp3|*.mp3|Musiques wma|*.wma", ""});
   if (chosen.empty()) return;
   form_.MyButton4.enabled = false;  // events are served while it copies
-  try {
-    copyAll(chosen);
-  } catch (const platform::Fault&) {
-    rebuild();
-    throw;
-  }
+  failed_.clear();
+  copyAll(chosen);
   rebuild();
+  if (!failed_.empty()) throw platform::Fault("Musiques non copiées : " + failed_ + ".\n\n" + why_);
 }
 
-// What was copied is there, whatever became of the others.
 void MusicImport::rebuild() {
   form_.MyFrame6.visible = false;
   form_.MyButton4.enabled = true;
@@ -48,7 +44,12 @@ void MusicImport::copyAll(const std::vector<std::string>& chosen) {
     const std::string name = from.substr(from.rfind('/') + 1);
     const std::string to = list_.pathOf(name);
     if (!tools_.outside.files.exists(to)) {
-      copyOne(from, to, name);
+      try {
+        copyOne(from, to, name);
+      } catch (const platform::Fault& fault) {  // the others may go well
+        if (failed_.empty()) why_ = fault.what();
+        failed_ += (failed_.empty() ? "" : ", ") + name;
+      }
       continue;
     }
     tools_.outside.dialogs.message(

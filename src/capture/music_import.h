@@ -27,6 +27,8 @@ class MusicImport {
   std::size_t copied_ = 0;  // files of the batch that are done
   std::size_t nbFichiersChoisis_ = 0;
   bool givenUp_ = false;
+  std::string failed_;  // names of what could not be copied
+  std::string why_;     // the first of them
 };
 
 }  // namespace capture

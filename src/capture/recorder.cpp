@@ -1,5 +1,6 @@
 #include "capture/recorder.h"
 
+#include "capture/listening_level.h"
 #include "capture/selection.h"
 
 namespace capture {
@@ -39,6 +40,7 @@ Recorder::Recorder(const voice::Toolbox& tools) : tools_(tools), form_(tools.scr
   form_.MyButton10.click.handle([this] { recordOverMusic(); });
   form_.Command3.click.handle([this] { stop(); });
   form_.Command4.click.handle([this] { listen(); });
+  form_.MyButton7.click.handle([this] { leave(); });
   form_.Timer1.tick.handle([this] { watch(); });
   form_.Timer3.tick.handle([this] { keepLimit(); });
   form_.Timer7.tick.handle([this] { ++secondesEnregistrees_; });
@@ -46,20 +48,41 @@ Recorder::Recorder(const voice::Toolbox& tools) : tools_(tools), form_(tools.scr
 }
 
 void Recorder::makeReady() {
+  rest();
+  form_.Command2.enabled = true;
+  form_.MyButton10.enabled = true;
+  send("close all");
+  send("open new type waveaudio alias capture");
+}
+
+// No take is left to listen to or to save, whatever was under way.
+void Recorder::rest() {
+  ++take_;
   form_.Command2.caption = recordCaption;
   form_.Command3.caption = stopCaption;
   form_.Command4.caption = listenCaption;
-  for (platform::Button* button : {&form_.Command2, &form_.MyButton10}) button->enabled = true;
   for (platform::Button* button : {&form_.Command3, &form_.Command4, &form_.Command1})
     button->enabled = false;
   for (platform::Timer* timer : {&form_.Timer1, &form_.Timer3, &form_.Timer7, &form_.Timer8}) {
     timer->enabled = false;
   }
   ecouteApresArret_ = "";
+  secondesEcoutees_ = 0;
   form_.Label1.caption = readyStatus;
   form_.Label14.caption = "30 secondes d'Enregistrement au Maximum par Annonce.";
+  form_.Label8.caption = "";
+  form_.Label3.caption = "";
+}
+
+void Recorder::leave() {
+  form_.VScroll1.value = usualListeningLevel;
+  send("stop capture");
   send("close all");
-  send("open new type waveaudio alias capture");
+  if (!form_.Command2.enabled) form_.MyButton10.enabled = true;  // a take was under way
+  form_.Command2.enabled = true;
+  rest();
+  form_.hide();
+  tools_.screens.main.show();
 }
 
 void Recorder::recordVoice() {
@@ -81,6 +104,7 @@ void Recorder::recordOverMusic() {
 }
 
 void Recorder::demarrerCapture() {
+  ++take_;
   form_.Timer1.enabled = true;
   form_.Command2.enabled = false;
   form_.Command4.enabled = false;
@@ -95,10 +119,7 @@ void Recorder::demarrerCapture() {
 void Recorder::watch() {
   etatCapture_ = statusOf(send("status capture mode"));
   form_.Label1.caption = " " + etatCapture_;
-  if (etatCapture_ == takeEnded) {
-    stop();
-    form_.Timer1.enabled = false;
-  }
+  if (etatCapture_ == takeEnded && stop()) form_.Timer1.enabled = false;
   form_.Command5.click();
 }
 
@@ -108,16 +129,21 @@ void Recorder::keepLimit() {
   form_.Label14.caption = "Durée de l'Annonce (" + (n == 0 ? "" : std::to_string(n)) + " secondes)";
   if (n < longestTake) return;
   form_.Label14.caption = "30 secondes au Maximum pour chaque Annonce.";
-  stop();
-  playBackOnce();
+  if (stop()) playBackOnce();
 }
 
-void Recorder::stop() {
+bool Recorder::takeOutlastsWait() {
+  const unsigned take = take_;
+  tools_.voice.attendre(1);
+  return take == take_;
+}
+
+bool Recorder::stop() {
   form_.Command2.caption = recordCaption;
   form_.Timer7.enabled = false;
   send("stop capture");
   form_.Timer3.enabled = false;
-  tools_.voice.attendre(1);
+  if (!takeOutlastsWait()) return false;
   form_.Label1.caption = readyStatus;
   form_.Command1.enabled = true;
   form_.Command4.enabled = true;
@@ -125,16 +151,17 @@ void Recorder::stop() {
   form_.MyButton10.enabled = !listening();
   form_.Command2.enabled = !listening();
   form_.Command3.enabled = false;
-  if (form_.Command3.caption != stopCaption) return;
+  if (form_.Command3.caption != stopCaption) return true;
   form_.Command3.caption = stoppedCaption;
-  playBackOnce();
+  return playBackOnce();
 }
 
-void Recorder::playBackOnce() {
-  tools_.voice.attendre(1);
-  if (ecouteApresArret_ != "oui") return;
+bool Recorder::playBackOnce() {
+  if (!takeOutlastsWait()) return false;
+  if (ecouteApresArret_ != "oui") return true;
   form_.Command4.click();
   ecouteApresArret_ = "";
+  return true;
 }
 
 bool Recorder::listening() const {

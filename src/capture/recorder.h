@@ -21,8 +21,12 @@ class Recorder {
   void demarrerCapture();
   void watch();
   void keepLimit();
-  void stop();
-  void playBackOnce();
+  void rest();
+  void leave();
+  // These wait. False: meanwhile another take was begun or the device closed, and the rest is not to be done.
+  bool takeOutlastsWait();
+  bool stop();
+  bool playBackOnce();
   void listen();
   void countListening();
   [[nodiscard]] bool listening() const;
@@ -35,6 +39,7 @@ class Recorder {
   std::string ecouteApresArret_;  // "oui" until the first stop has played the take back
   std::string etatCapture_;       // last status word
   platform::Instant heureDebut_{0};
+  unsigned take_ = 0;  // another one for each take, and for none
 };
 
 }  // namespace capture

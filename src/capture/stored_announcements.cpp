@@ -60,22 +60,42 @@ void StoredAnnouncements::ouvrir() {
   if (tools_.outside.files.exists(path)) {
     send("stop " + alias);
     send("close " + alias);
-    lireAnnonce();
+    if (!lireAnnonce()) tellWhyNot(path);
   }
+  form_.VScroll1.focus();
   form_.Command7.enabled = false;
   enable({&form_.Command14, &form_.MyButton8}, true);
 }
 
-void StoredAnnouncements::lireAnnonce() {
+// The player does not say what it misses: the disk does, or else it is the file's own fault.
+void StoredAnnouncements::tellWhyNot(const std::string& path) {
+  std::string title = "ERR #75";
+  std::string text;
+  try {
+    tools_.outside.files.open(path, platform::OpenMode::Read);
+    title = "Erreur de Format ou Fichier Endommagé...";
+    text = platform::FileFault("de lire", path, "ce n'est pas un son connu").what() +
+           std::string(
+               "\n\n\tCe fichier semble être endommagé, ou ne correspond pas aux Types de Fichiers que ce "
+               "programme peut Lire...!");
+  } catch (const platform::Fault& fault) {
+    text = fault.what();
+  }
+  tools_.outside.dialogs.message(
+      {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, title, text});
+}
+
+bool StoredAnnouncements::lireAnnonce() {
   send("open MPEGVideo!" + form_.Label15.caption.get() + " alias " + alias + " parent 0 Style 1073741824");
   tools_.loop.serveEvents();
   send("play " + alias + " from 0");
   send("set " + alias + " time format milliseconds");
-  const double length = model::lenientNumber(send("status " + alias + " length"));
+  const std::string length = send("status " + alias + " length");
   form_.Label16.visible = true;
   form_.Label17.visible = true;
-  form_.Label16.caption = formatTemps(length);
+  form_.Label16.caption = formatTemps(model::lenientNumber(length));
   form_.Timer9.enabled = true;
+  return !length.empty();
 }
 
 // Positions are compared as texts of one width.
@@ -94,6 +114,7 @@ void StoredAnnouncements::play() {
   form_.Command7.enabled = false;
   enable({&form_.Command15, &form_.Command14, &form_.MyButton5, &form_.MyButton6}, true);
   send("play " + alias);
+  form_.VScroll1.focus();
 }
 
 void StoredAnnouncements::pause() {

@@ -19,7 +19,8 @@ class StoredAnnouncements {
 
  private:
   void ouvrir();
-  void lireAnnonce();
+  bool lireAnnonce();  // false: it does not open
+  void tellWhyNot(const std::string& path);
   void follow();
   void play();
   void pause();

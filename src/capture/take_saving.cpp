@@ -56,13 +56,27 @@ std::optional<std::string> TakeSaving::askName() {
   }
 }
 
+// The recorder does not tell whether it saved: its scratch file does, once the one before is out of the way.
+bool TakeSaving::write(const std::string& name) {
+  const std::string& folder = tools_.state.dossierAnnonces;
+  platform::FileSystem& files = tools_.outside.files;
+  bool written = false;
+  platform::eachOnItsOwn([&] {
+    if (files.exists(folder + "tma")) files.remove(folder + "tma");
+    tools_.outside.media.workIn(folder);
+    tools_.outside.media.send("save capture tma");
+    written = platform::copyFile(files, folder + "tma", pathOf(name));
+  });
+  return written;
+}
+
 void TakeSaving::save() {
   const std::optional<std::string> name = askName();
   if (!name) return;
-  const std::string& folder = tools_.state.dossierAnnonces;
-  tools_.outside.media.workIn(folder);
-  tools_.outside.media.send("save capture tma");
-  platform::eachOnItsOwn([&] { platform::copyFile(tools_.outside.files, folder + "tma", pathOf(*name)); });
+  if (!write(*name)) {
+    form_.Label14.caption = "(" + *name + ") n'a pas pu être écrite sur le Disque";
+    return;
+  }
   for (platform::Button* button : {&form_.Command2, &form_.MyButton10, &form_.Command4})
     button->enabled = true;
   form_.Command3.enabled = false;

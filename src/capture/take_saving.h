@@ -14,6 +14,8 @@ class TakeSaving {
 
  private:
   void save();
+  // Whether the take now stands there under that name.
+  bool write(const std::string& name);
   // The announcement's name without its extension; none where the rider gave up or the name is refused.
   std::optional<std::string> askName();
   [[nodiscard]] std::string proposedName() const;

@@ -12,7 +12,7 @@ void DirectHands::press(platform::Component& target) {
   if (auto* entry = dynamic_cast<platform::MenuItem*>(&target)) {
     entry->click();
   } else if (auto* box = dynamic_cast<CheckBox*>(&target)) {
-    box->value = box->value == 0 ? 1 : 0;
+    box->toggle();
   } else if (auto* option = dynamic_cast<Option*>(&target)) {
     option->value = true;
   } else if (auto* control = dynamic_cast<platform::Control*>(&target)) {

@@ -135,6 +135,9 @@ void AnnounceView::drawTake() {
   } else if (!file.empty() && file != takeShown_) {
     takeShown_ = file;
     ui_->takeWave->setPeaks(peaksOf(file, Waveform::parts));
+  } else if (form_.Label3.caption.get().empty()) {  // no take, or none any more
+    takeShown_.clear();
+    ui_->takeWave->setPeaks({});
   }
 }
 

@@ -221,9 +221,9 @@ void Binder::tieButton(Control& control, QAbstractButton& button) {
 }
 
 void Binder::tieCheckBox(platform::CheckBox& box, QCheckBox& widget) {
-  connect(&widget, &QCheckBox::clicked, this, [this, &box, &widget](bool on) {
+  connect(&widget, &QCheckBox::clicked, this, [this, &box, &widget] {
     widget.setTristate(false);
-    run([&box, on] { box.value = on ? 1 : 0; });
+    run([&box] { box.toggle(); });
   });
 }
 
@@ -289,6 +289,9 @@ void Binder::show(const Component& component, Prop prop, QWidget& widget) {
       if (!control.enabled && leaveKeyboard(widget)) closedInUse_ = &widget;
       widget.setEnabled(control.enabled);
       if (control.enabled && closedInUse_ == &widget) takeKeyboardBack(*std::exchange(closedInUse_, nullptr));
+      break;
+    case Prop::Focus:
+      widget.setFocus();
       break;
     case Prop::ToolTip:
       widget.setToolTip(plainTip(toQt(control.toolTip.get())));

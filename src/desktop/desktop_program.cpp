@@ -11,14 +11,15 @@ namespace desktop {
 
 DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appearance::Choice choice)
     : connection_("Ventoria"),
-      sound_(connection_, {.whileBlocking = [this] { repaint(); },
-                           .giveUp = [this] { return program_.loop().quitting(); },
-                           .onSpeaking =
-                               [this](const platform::SoundClip* clip) {
-                                 windows_.speak(clip != nullptr ? toQt(clip->spoken) : QString());
-                               }}),
-      dialogs_([this]() -> QWidget* { return &windows_.window(); }),
       level_(connection_),
+      sound_(connection_, level_,
+             {.whileBlocking = [this] { repaint(); },
+              .giveUp = [this] { return program_.loop().quitting(); },
+              .onSpeaking =
+                  [this](const platform::SoundClip* clip) {
+                    windows_.speak(clip != nullptr ? toQt(clip->spoken) : QString());
+                  }}),
+      dialogs_([this]() -> QWidget* { return &windows_.window(); }),
       shell_(dialogs_),
       volume_(connection_),
       printer_(dialogs_, [this] { repaintBlocking(); }),

@@ -45,13 +45,13 @@ class DesktopProgram final : public QObject {
 
   QtClock clock_;
   PulseConnection connection_;
+  PulseOutputLevel level_;
   PulseSoundOutput sound_;
   QtDialogs dialogs_;
   platform::DiskFileSystem files_;
   DbusScreenSaver screenSaver_;
-  MpvMedia mpv_{connection_, files_};
+  MpvMedia mpv_{connection_, level_, files_};
   platform::ParsedMediaCommands media_{mpv_};
-  PulseOutputLevel level_;
   QtShell shell_;
   PulseEndpointVolume volume_;
   QtPrinter printer_;

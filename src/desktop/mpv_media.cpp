@@ -59,14 +59,26 @@ void MpvMedia::keepHeard(MpvPlayer& player) {
   const auto now = std::chrono::steady_clock::now();
   if (now - lookedAt_ < lookAgain || player.mode() != MpvPlayer::Mode::Playing) return;
   lookedAt_ = now;
-  if (player.unheard() && connection_.hasLoudspeaker()) player.reopenOutput();
+  if (!player.unheard() || !connection_.hasLoudspeaker()) return level_.keep();
+  player.stop();
+  player.reopenOutput();
+  sound(player);
+}
+
+void MpvMedia::sound(MpvPlayer& player) {
+  player.awaitOutput();
+  level_.settle();
+  player.play();
 }
 
 void MpvMedia::openFile(const std::string& alias, const std::string& path) {
   if (devices_.contains(alias)) return;
   Device device;
   device.player = std::make_unique<MpvPlayer>(path);
-  if (device.player->opened()) devices_.emplace(alias, std::move(device));
+  if (!device.player->opened()) return;
+  if (const auto volume = volumes_.find(alias); volume != volumes_.end())
+    device.player->setVolume(volume->second / 1000.0);
+  devices_.emplace(alias, std::move(device));
 }
 
 void MpvMedia::openRecorder(const std::string& alias) {
@@ -75,7 +87,7 @@ void MpvMedia::openRecorder(const std::string& alias) {
 }
 
 void MpvMedia::play(const std::string& alias) {
-  if (MpvPlayer* player = playerOf(alias)) player->play();
+  if (MpvPlayer* player = playerOf(alias)) sound(*player);
 }
 
 void MpvMedia::playFrom(const std::string& alias, std::int64_t position) {
@@ -135,7 +147,8 @@ void MpvMedia::setSpeed(const std::string& alias, int thousandths) {
 }
 
 void MpvMedia::setVolume(const std::string& alias, int thousandths) {
-  if (MpvPlayer* player = playerOf(alias)) player->setVolume(thousandths / 10.0);
+  volumes_[alias] = thousandths;
+  if (MpvPlayer* player = playerOf(alias)) player->setVolume(thousandths / 1000.0);
 }
 
 void MpvMedia::setAudible(const std::string& alias, bool audible) {

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "desktop/mpv_player.h"
+#include "desktop/pulse_output_level.h"
 #include "desktop/pulse_recorder.h"
 #include "platform/file_system.h"
 #include "platform/media_backend.h"
@@ -15,8 +16,8 @@ namespace desktop {
 
 class MpvMedia final : public platform::MediaBackend {
  public:
-  MpvMedia(PulseConnection& connection, platform::FileSystem& files)
-      : connection_(connection), files_(files) {}
+  MpvMedia(PulseConnection& connection, PulseOutputLevel& level, platform::FileSystem& files)
+      : connection_(connection), level_(level), files_(files) {}
 
   void openFile(const std::string& alias, const std::string& path) override;
   void openRecorder(const std::string& alias) override;
@@ -52,11 +53,15 @@ class MpvMedia final : public platform::MediaBackend {
   Device* find(const std::string& alias);
   // What plays the file or the take; null where there is nothing to play.
   MpvPlayer* playerOf(const std::string& alias);
+  // Lets it play, at the program's level from its first sample.
+  void sound(MpvPlayer& player);
   void keepHeard(MpvPlayer& player);
 
   PulseConnection& connection_;
+  PulseOutputLevel& level_;
   platform::FileSystem& files_;
   std::map<std::string, Device> devices_;
+  std::map<std::string, int> volumes_;                // by name, for what is opened under it next, too
   std::chrono::steady_clock::time_point lookedAt_{};  // for a server that has come back
 };
 

@@ -144,7 +144,9 @@ void MpvPlayer::setSpeed(double factor) {
   mpv_set_property(handle_.get(), "speed", MPV_FORMAT_DOUBLE, &factor);
 }
 
-void MpvPlayer::setVolume(double percent) {
+// The library takes the third power of what it is told.
+void MpvPlayer::setVolume(double amplitude) {
+  double percent = 100 * std::cbrt(amplitude);
   mpv_set_property(handle_.get(), "volume", MPV_FORMAT_DOUBLE, &percent);
 }
 
@@ -157,6 +159,19 @@ bool MpvPlayer::unheard() {
   const bool unheard = output != nullptr && std::string_view(output) == kNowhere;
   mpv_free(output);
   return unheard;
+}
+
+void MpvPlayer::awaitOutput() {
+  const auto patienceEnds = std::chrono::steady_clock::now() + kPatience;
+  while (!ended_ && std::chrono::steady_clock::now() < patienceEnds) {
+    char* output = mpv_get_property_string(handle_.get(), "current-ao");
+    if (output == nullptr) {
+      take(*mpv_wait_event(handle_.get(), 0.005));
+      continue;
+    }
+    mpv_free(output);
+    return;
+  }
 }
 
 void MpvPlayer::reopenOutput() {

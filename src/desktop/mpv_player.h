@@ -23,10 +23,12 @@ class MpvPlayer {
   void pause();
   void seek(std::int64_t milliseconds);  // leaves it stopped
   void setSpeed(double factor);
-  void setVolume(double percent);
+  void setVolume(double amplitude);  // 1 is the piece's own
   void setAudible(bool audible);
   // Whether what is played goes nowhere, since no sound server took it.
   [[nodiscard]] bool unheard();
+  // Waits until the stream of sound is open, at the server or to nowhere; nothing of it has sounded yet.
+  void awaitOutput();
   // Looks for a sound server anew; what it had been given already is not played again.
   void reopenOutput();
 

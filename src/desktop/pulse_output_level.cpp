@@ -4,12 +4,14 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace desktop {
 namespace {
 
 // A stream may open long after its level was chosen: how often to look for new ones.
 constexpr std::chrono::milliseconds lookAgain{1000};
+constexpr std::chrono::milliseconds patience{500};
 
 constexpr pa_channel_position_mask_t leftSide =
     PA_CHANNEL_POSITION_MASK(PA_CHANNEL_POSITION_FRONT_LEFT) |
@@ -22,10 +24,6 @@ constexpr pa_channel_position_mask_t rightSide =
     PA_CHANNEL_POSITION_MASK(PA_CHANNEL_POSITION_SIDE_RIGHT) |
     PA_CHANNEL_POSITION_MASK(PA_CHANNEL_POSITION_FRONT_RIGHT_OF_CENTER);
 
-pa_volume_t volumeOf(std::uint16_t level) {
-  return pa_sw_volume_from_linear(level / 65535.0);
-}
-
 bool isOwn(const pa_sink_input_info& input) {
   const char* process = pa_proplist_gets(input.proplist, PA_PROP_APPLICATION_PROCESS_ID);
   return process != nullptr && process == std::to_string(getpid());
@@ -35,9 +33,20 @@ bool isOwn(const pa_sink_input_info& input) {
 
 PulseOutputLevel::~PulseOutputLevel() {
   const PulseConnection::Lock lock(connection_);
-  if (asking_ == nullptr) return;
-  pa_operation_cancel(asking_);
-  pa_operation_unref(asking_);
+  for (pa_operation* request : {asking_, setting_}) {
+    if (request == nullptr) continue;
+    pa_operation_cancel(request);
+    pa_operation_unref(request);
+  }
+}
+
+pa_operation* PulseOutputLevel::ask() {
+  return pa_context_get_sink_input_info_list(
+      connection_.context(),
+      [](pa_context*, const pa_sink_input_info* input, int end, void* self) {
+        if (end == 0 && input != nullptr) static_cast<PulseOutputLevel*>(self)->found(*input);
+      },
+      this);
 }
 
 bool PulseOutputLevel::idle() {
@@ -59,27 +68,43 @@ void PulseOutputLevel::set(std::uint16_t left, std::uint16_t right) {
   right_ = right;
   known_ = idle();  // an answer that is under way may have passed some streams already
   if (!known_) return;
-  asking_ = pa_context_get_sink_input_info_list(
-      connection_.context(),
-      [](pa_context*, const pa_sink_input_info* input, int end, void* self) {
-        if (end == 0 && input != nullptr) static_cast<PulseOutputLevel*>(self)->found(*input);
-      },
-      this);
+  asking_ = ask();
+}
+
+void PulseOutputLevel::settle() {
+  if (!connection_.ready()) return;
+  pa_operation* request = nullptr;
+  {
+    const PulseConnection::Lock lock(connection_);
+    request = ask();
+  }
+  connection_.finish(request, patience);
+  {
+    const PulseConnection::Lock lock(connection_);
+    request = std::exchange(setting_, nullptr);
+  }
+  connection_.finish(request, patience);
+}
+
+pa_cvolume PulseOutputLevel::volumeOf(const pa_channel_map& channels) const {
+  pa_cvolume volume;
+  volume.channels = channels.channels;
+  for (std::uint8_t i = 0; i < channels.channels; ++i) {
+    const auto side = PA_CHANNEL_POSITION_MASK(channels.map[i]);
+    const bool left = (side & leftSide) != 0;
+    const bool right = (side & rightSide) != 0;
+    const std::uint16_t level = left ? left_ : right ? right_ : std::max(left_, right_);
+    volume.values[i] = pa_sw_volume_from_linear(level / 65535.0);
+  }
+  return volume;
 }
 
 void PulseOutputLevel::found(const pa_sink_input_info& input) {
   if (!isOwn(input) || input.has_volume == 0 || input.volume_writable == 0) return;
-  pa_cvolume wanted = input.volume;
-  for (std::uint8_t i = 0; i < wanted.channels; ++i) {
-    const auto side = PA_CHANNEL_POSITION_MASK(input.channel_map.map[i]);
-    const bool left = (side & leftSide) != 0;
-    const bool right = (side & rightSide) != 0;
-    wanted.values[i] = volumeOf(left ? left_ : right ? right_ : std::max(left_, right_));
-  }
+  const pa_cvolume wanted = volumeOf(input.channel_map);
   if (pa_cvolume_equal(&wanted, &input.volume) != 0) return;
-  pa_operation* setting =
-      pa_context_set_sink_input_volume(connection_.context(), input.index, &wanted, nullptr, nullptr);
-  if (setting != nullptr) pa_operation_unref(setting);
+  if (setting_ != nullptr) pa_operation_unref(setting_);
+  setting_ = pa_context_set_sink_input_volume(connection_.context(), input.index, &wanted, nullptr, nullptr);
 }
 
 }  // namespace desktop

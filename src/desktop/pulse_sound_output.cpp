@@ -32,8 +32,11 @@ std::vector<std::int16_t> makeBeep() {
 
 }  // namespace
 
-PulseSoundOutput::PulseSoundOutput(PulseConnection& connection, SoundHooks hooks)
-    : connection_(connection), hooks_(std::move(hooks)), stream_(connection, [this] { return goOn(); }) {}
+PulseSoundOutput::PulseSoundOutput(PulseConnection& connection, const PulseOutputLevel& level,
+                                   SoundHooks hooks)
+    : connection_(connection),
+      hooks_(std::move(hooks)),
+      stream_(connection, level, [this] { return goOn(); }) {}
 
 bool PulseSoundOutput::goOn() {
   const auto now = std::chrono::steady_clock::now();
@@ -48,28 +51,38 @@ bool PulseSoundOutput::hasDevice() {
   return connection_.hasLoudspeaker();
 }
 
-const PulseSoundOutput::Samples& PulseSoundOutput::converted(const platform::SoundClip& clip) {
-  const auto known = converted_.find(clip.wav.data());
-  if (known != converted_.end()) return known->second;
-  return converted_.emplace(clip.wav.data(), decodeWav(clip.wav)).first->second;
+std::size_t PulseSoundOutput::Prompt::read(std::size_t from, std::span<std::int16_t> piece) {
+  if (from == samples.size() && decoder) {
+    const std::size_t count = decoder->read(piece);
+    samples.insert(samples.end(), piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(count));
+    if (count == 0) decoder.reset();
+    return count;
+  }
+  const std::size_t count = std::min(piece.size(), samples.size() - from);
+  std::copy_n(samples.begin() + static_cast<std::ptrdiff_t>(from), count, piece.begin());
+  return count;
 }
 
-void PulseSoundOutput::playSamples(const Samples& samples) {
-  std::size_t at = 0;
-  stream_.play([&](std::span<std::int16_t> piece) {
-    const std::size_t count = std::min(piece.size(), samples.size() - at);
-    std::copy_n(samples.begin() + static_cast<std::ptrdiff_t>(at), count, piece.begin());
-    at += count;
+void PulseSoundOutput::beep() {
+  std::vector<std::int16_t> samples = makeBeep();
+  stream_.play([&samples](std::span<std::int16_t> piece) {
+    const std::size_t count = std::min(piece.size(), samples.size());
+    std::copy_n(samples.begin(), count, piece.begin());
+    samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(count));
     return count;
   });
 }
 
 void PulseSoundOutput::play(const platform::SoundClip& clip) {
   if (!hasDevice()) return;
-  const Samples& samples = converted(clip);
-  if (samples.empty()) return;
+  Prompt& prompt = prompts_.try_emplace(clip.wav.data(), clip.wav).first->second;
+  if (prompt.decoder && !prompt.decoder->opened()) return;
   if (hooks_.onSpeaking) hooks_.onSpeaking(&clip);
-  playSamples(samples);
+  stream_.play([&prompt, at = std::size_t{0}](std::span<std::int16_t> piece) mutable {
+    const std::size_t count = prompt.read(at, piece);
+    at += count;
+    return count;
+  });
   if (hooks_.onSpeaking) hooks_.onSpeaking(nullptr);
 }
 
@@ -79,7 +92,7 @@ void PulseSoundOutput::playFile(const std::string& path) {
   if (decoder.opened()) {
     stream_.play([&decoder](std::span<std::int16_t> piece) { return decoder.read(piece); });
   } else {
-    playSamples(makeBeep());
+    beep();
   }
 }
 

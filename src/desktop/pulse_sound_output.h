@@ -4,11 +4,15 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <memory>
+#include <span>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "desktop/pulse_connection.h"
 #include "desktop/pulse_voice_stream.h"
+#include "desktop/wav_decoder.h"
 #include "platform/sound_output.h"
 
 namespace desktop {
@@ -22,7 +26,7 @@ struct SoundHooks {
 
 class PulseSoundOutput final : public platform::SoundOutput {
  public:
-  PulseSoundOutput(PulseConnection& connection, SoundHooks hooks);
+  PulseSoundOutput(PulseConnection& connection, const PulseOutputLevel& level, SoundHooks hooks);
 
   bool hasDevice() override;
   void play(const platform::SoundClip& clip) override;
@@ -31,16 +35,22 @@ class PulseSoundOutput final : public platform::SoundOutput {
   void settle() { stream_.settle(); }
 
  private:
-  using Samples = std::vector<std::int16_t>;
+  // A prompt, converted as far as it was ever played: its first words need not wait for its last.
+  struct Prompt {
+    explicit Prompt(std::span<const unsigned char> wav) : decoder(std::make_unique<WavDecoder>(wav)) {}
+    std::size_t read(std::size_t from, std::span<std::int16_t> piece);
 
-  const Samples& converted(const platform::SoundClip& clip);
-  void playSamples(const Samples& samples);
+    std::unique_ptr<WavDecoder> decoder;  // null once all is converted
+    std::vector<std::int16_t> samples;
+  };
+
+  void beep();
   bool goOn();
 
   PulseConnection& connection_;
   SoundHooks hooks_;
   std::chrono::steady_clock::time_point repaintedAt_{};
-  std::unordered_map<const unsigned char*, Samples> converted_;  // by where the bank keeps the clip
+  std::unordered_map<const unsigned char*, Prompt> prompts_;  // by where the bank keeps the clip
   PulseVoiceStream stream_;
 };
 

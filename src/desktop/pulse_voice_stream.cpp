@@ -32,8 +32,9 @@ void PulseVoiceStream::FreeStream::operator()(pa_stream* stream) const {
   pa_stream_unref(stream);
 }
 
-PulseVoiceStream::PulseVoiceStream(PulseConnection& connection, std::function<bool()> goOn)
-    : connection_(connection), goOn_(std::move(goOn)) {}
+PulseVoiceStream::PulseVoiceStream(PulseConnection& connection, const PulseOutputLevel& level,
+                                   std::function<bool()> goOn)
+    : connection_(connection), level_(level), goOn_(std::move(goOn)) {}
 
 PulseVoiceStream::~PulseVoiceStream() {
   settle();
@@ -66,7 +67,8 @@ bool PulseVoiceStream::open() {
         &connection_);
     constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
     const pa_buffer_attr buffer{kServersChoice, kBuffer, 0, kServersChoice, kServersChoice};
-    pa_stream_connect_playback(stream_.get(), nullptr, &buffer, PA_STREAM_ADJUST_LATENCY, nullptr, nullptr);
+    const pa_cvolume volume = level_.volumeOf(*pa_stream_get_channel_map(stream_.get()));
+    pa_stream_connect_playback(stream_.get(), nullptr, &buffer, PA_STREAM_ADJUST_LATENCY, &volume, nullptr);
   }
   const auto isOpen = [this] { return pa_stream_get_state(stream_.get()) == PA_STREAM_READY; };
   bool opened = false;

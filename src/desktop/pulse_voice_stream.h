@@ -10,6 +10,7 @@
 #include <span>
 
 #include "desktop/pulse_connection.h"
+#include "desktop/pulse_output_level.h"
 
 namespace desktop {
 
@@ -19,7 +20,7 @@ class PulseVoiceStream {
   using Source = std::function<std::size_t(std::span<std::int16_t>)>;
 
   // `goOn` is asked about every 10 ms while a play waits; false ends the play and silences it.
-  PulseVoiceStream(PulseConnection& connection, std::function<bool()> goOn);
+  PulseVoiceStream(PulseConnection& connection, const PulseOutputLevel& level, std::function<bool()> goOn);
   // Lets the tail sound to its end.
   ~PulseVoiceStream();
   PulseVoiceStream(const PulseVoiceStream&) = delete;
@@ -49,6 +50,7 @@ class PulseVoiceStream {
   bool playTo(const Source& source, std::int64_t lead, const std::function<bool()>& goOn);
 
   PulseConnection& connection_;
+  const PulseOutputLevel& level_;
   std::function<bool()> goOn_;
   std::unique_ptr<pa_stream, FreeStream> stream_;
 };

@@ -67,7 +67,7 @@ void WavDecoder::prepare() {
   if (src_is_valid_ratio(static_cast<double>(kRate) / info_.samplerate) != 0) {
     converter_.reset(src_callback_new(
         [](void* self, float** data) { return static_cast<WavDecoder*>(self)->fill(data, kInputFrames); },
-        SRC_SINC_FASTEST, channels_, &error, this));
+        SRC_SINC_MEDIUM_QUALITY, channels_, &error, this));
   }
   if (!converter_) file_.reset();
 }
@@ -105,16 +105,6 @@ std::size_t WavDecoder::read(std::span<std::int16_t> samples) {
     samples[frame * 2 + 1] = toSample(at[step]);
   }
   return count * kChannels;
-}
-
-std::vector<std::int16_t> decodeWav(std::span<const unsigned char> wav) {
-  WavDecoder decoder(wav);
-  std::vector<std::int16_t> samples;
-  std::vector<std::int16_t> piece(kInputFrames * WavDecoder::kChannels);
-  while (const std::size_t count = decoder.read(piece)) {
-    samples.insert(samples.end(), piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(count));
-  }
-  return samples;
 }
 
 }  // namespace desktop

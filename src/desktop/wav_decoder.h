@@ -54,7 +54,4 @@ class WavDecoder {
   std::vector<float> output_;
 };
 
-// All of a WAV file in memory; empty if it cannot be played.
-[[nodiscard]] std::vector<std::int16_t> decodeWav(std::span<const unsigned char> wav);
-
 }  // namespace desktop

@@ -52,6 +52,8 @@ class CheckBox final : public Control {
         caption(*this, Prop::Caption, std::move(caption_)) {}
   Property<std::string> caption;
   Property<int> value{*this, Prop::Value, 0};
+
+  void toggle() { value = value == 1 ? 0 : 1; }  // the rider clicks it
 };
 
 class Option final : public Control {
@@ -114,6 +116,7 @@ class ScrollBar final : public Control {
   Event<> scroll;
 
   void scrollTo(int wanted);  // the rider moves it; kept within the bounds
+  void focus() { tellWatchers(Prop::Focus); }
   [[nodiscard]] const Event<>* event(EventId id) const override {
     return id == EventId::Change ? &change : nullptr;
   }

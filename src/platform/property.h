@@ -31,6 +31,7 @@ enum class Prop : std::uint8_t {
   Interval,  // ms
   Lines,     // the entries of a list; told to watchers, not readable as one text
   Picture,   // which picture an image shows
+  Focus,     // the logic hands the keyboard over; told to watchers, nothing to read
 };
 
 [[nodiscard]] std::string_view propertyName(Prop prop);

@@ -70,6 +70,7 @@ void HandOver::settleOtherForms() {
   editor_.Command1.click();
   if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
   main_.MyButton19.visible = !tools_.screens.announcements.File1.lines().empty();
+  main_.MyButton21.visible = false;
   if (tools_.screens.volume.visible) tools_.screens.volume.unload();
   if (state_.dureeChrono.empty()) state_.dureeChrono = "16";
   main_.Combo5.text = state_.dureeChrono;

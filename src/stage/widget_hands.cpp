@@ -141,8 +141,12 @@ void WidgetHands::tick(platform::Control& box, int value) {
   }
   const auto* check = qobject_cast<QCheckBox*>(widget);
   const Qt::CheckState wanted = value == 1 ? Qt::Checked : Qt::Unchecked;
-  if (check == nullptr || check->checkState() != wanted) click(*widget, spot(*widget));
-  settle();
+  // From grey it takes a second click to put a box out.
+  const int clicks = check != nullptr && check->checkState() == Qt::PartiallyChecked ? 2 : 1;
+  for (int i = 0; i < clicks && (check == nullptr || check->checkState() != wanted); ++i) {
+    click(*widget, spot(*widget));
+    settle();
+  }
 }
 
 void WidgetHands::pick(platform::Control& list, int line) {

@@ -129,6 +129,14 @@ TEST_F(KeyboardTest, AButtonThatIsClosedInUseTakesTheKeyboardBack) {
   }
 }
 
+TEST_F(KeyboardTest, ThePlayButtonOfAnAnnouncementHandsOnToTheListeningLevel) {
+  program_.run("press MainForm.mnEnrAnnVocale");
+  settle();
+  tabTo("Command7");
+  key(Qt::Key_Space);
+  EXPECT_EQ(focused(), "VScroll1");
+}
+
 TEST_F(KeyboardTest, DeleteAsksBeforeItTakesALineAway) {
   tabTo("MyButton5");
   key(Qt::Key_Space);

@@ -34,7 +34,8 @@ struct MpvMediaTest : testing::Test {
   const std::string piece = folder + "/un \"air\" alias b parent 1 🎵.wav";
   platform::DiskFileSystem files;
   PulseConnection connection{"Ventoria"};
-  MpvMedia media{connection, files};
+  PulseOutputLevel level{connection};
+  MpvMedia media{connection, level, files};
   platform::ParsedMediaCommands commands{media};
 
   MpvMediaTest() {
@@ -89,6 +90,22 @@ TEST_F(MpvMediaTest, HoldsWhereItIsAndGoesOn) {
   EXPECT_EQ(send("status m mode"), "");
 }
 
+// The piece's own volume and the program's level are amplitudes, and nothing of a piece sounds without them.
+TEST_F(MpvMediaTest, ANewPieceHasItsVolumeAndTheLevelFromItsFirstSample) {
+  send("setaudio m volume to 500");
+  level.set(0x8000, 0x8000);
+  support::Recording recording;
+  open();
+  send("play m from 0");
+  EXPECT_TRUE(comes([&] { return position() > 400; }));
+  const support::Samples heard = recording.samples();
+  const auto begin =
+      std::find_if(heard.begin(), heard.end(), [](int value) { return value > 60 * 256 / 40; });
+  ASSERT_GT(heard.end() - begin, 2 * 882);
+  for (const auto end : {begin + 2 * 882, heard.end()})  // the first 20 ms, and all
+    EXPECT_NEAR(*std::max_element(begin, end), 60 * 256 / 4, 120);
+}
+
 TEST_F(MpvMediaTest, OpensNothingThatDoesNotSound) {
   platform::saveWhole(files, folder + "/text.mp3", std::string("Ceci n'est pas de la musique."));
   send("open MPEGVideo!" + folder + "/text.mp3 alias m parent 0 Style 1073741824");
@@ -141,7 +158,8 @@ TEST_F(MpvMediaTest, RunsWithoutAServer) {
   const std::string server = std::getenv("PULSE_SERVER");
   setenv("PULSE_SERVER", "unix:/nonexistent", 1);
   PulseConnection nowhere("Ventoria");
-  MpvMedia silent(nowhere, files);
+  PulseOutputLevel unheard(nowhere);
+  MpvMedia silent(nowhere, unheard, files);
   silent.openFile("m", piece);
   silent.play("m");
   EXPECT_TRUE(comes([&] { return silent.figure("m", platform::MediaFigure::Position) == 1000; }));

@@ -10,13 +10,14 @@
 #include <string>
 #include <thread>
 
+#include "desktop/decode_wav.h"
 #include "desktop/loudspeaker.h"
 #include "desktop/pulse_sound_output.h"
-#include "desktop/wav_decoder.h"
 
 namespace desktop {
 namespace {
 
+using support::decodeWav;
 using support::kPerMs;
 using support::Recording;
 using support::Samples;
@@ -66,8 +67,10 @@ class PulseSound : public testing::Test {
   bool quitting_ = false;
   int repaints_ = 0;
   std::function<void()> meanwhile_;
+  PulseOutputLevel level_{connection_};
   PulseSoundOutput output_{
       connection_,
+      level_,
       {[this] {
          ++repaints_;
          if (meanwhile_) meanwhile_();
@@ -129,7 +132,7 @@ TEST_F(PulseSound, TheTailSoundsWhenTheProgramEnds) {
   Bytes wav = bank("101");
   wav.resize(wav.size() / 2);  // ends within a word, not in silence
   {
-    PulseSoundOutput brief(connection_, {});
+    PulseSoundOutput brief(connection_, level_, {});
     brief.play({101, "", "", wav});
   }
   EXPECT_TRUE(holds(recording.samples(), decodeWav(wav)));
@@ -142,6 +145,25 @@ TEST_F(PulseSound, QuittingCutsAPrompt) {
   const Samples heard = recording.samples();
   EXPECT_LT(core(heard).size(), core(decodeWav(bank("101"))).size() / 2);
   EXPECT_EQ(spoken_.back(), "-");
+  meanwhile_ = {};
+  quitting_ = false;
+  output_.play({0, "", "101", kept_.back()});  // converted half way only
+  EXPECT_TRUE(holds(recording.samples(), decodeWav(bank("101"))));
+}
+
+TEST_F(PulseSound, ANewStreamHasTheListeningLevel) {
+  Recording recording;
+  level_.set(0x8000, 0x4000);
+  play("101");
+  const Samples heard = recording.samples();
+  const Samples whole = decodeWav(bank("101"));
+  const auto peak = [](const Samples& samples, std::size_t channel) {
+    int highest = 0;
+    for (std::size_t i = channel; i < samples.size(); i += 2) highest = std::max<int>(highest, samples[i]);
+    return double(highest);
+  };
+  EXPECT_NEAR(peak(heard, 0) / peak(whole, 0), 0.5, 0.01);
+  EXPECT_NEAR(peak(heard, 1) / peak(whole, 1), 0.25, 0.01);
 }
 
 TEST_F(PulseSound, WithoutAServerThereIsNoDeviceUntilOneComes) {

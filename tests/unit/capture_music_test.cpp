@@ -55,6 +55,8 @@ TEST_F(Library, TicksDriveTheStartButtonAndTheTwoBoxes) {
                {"tick EnrUneAnnonce.Check2 0", "010", 2, 2, 1},
                {"tick EnrUneAnnonce.Check1 1", "111", 1, 2, 3},
                {"checkrow EnrUneAnnonce.ListView1 1 0", "011", 2, 2, 2},
+               {"press EnrUneAnnonce.Check1", "111", 1, 2, 3},
+               {"checkrow EnrUneAnnonce.ListView1 1 0", "011", 2, 2, 2},
                {"press EnrUneAnnonce.MyButton11\npress EnrUneAnnonce.Command8", "011", 2, 2, 2},
                {"tick EnrUneAnnonce.Check1 0", "000", 0, 0, 0}};
   for (const auto& [hands, ticks, all, repeat, selected] : steps) {
@@ -112,9 +114,9 @@ TEST_F(Library, ImportCopiesWhatIsNewAndTellsOfTheRest) {
 TEST_F(Library, AnImportThatFailsOrIsGivenUpLeavesNoHalfFile) {
   const std::string big(3 * 1024 * 1024, 'm');
   for (const char* name : {"d.mp3", "e.mp3", "f.mp3"}) program.memory.put(std::string("/m/") + name, big);
-  program.disk.failFrom(FaultyFileSystem::Call::Write, 5);  // in the second file
-  program.run("journal\nanswer /m/d.mp3|/m/e.mp3\npress EnrUneAnnonce.MyButton4");
-  EXPECT_THAT(program.run("journal fault"), HasSubstr("espace disque insuffisant"));
+  program.disk.failFrom(FaultyFileSystem::Call::Write, 5);  // in the third file; the first cannot be read
+  program.run("journal\nanswer /m/gone.mp3|/m/d.mp3|/m/e.mp3\npress EnrUneAnnonce.MyButton4");
+  EXPECT_THAT(program.run("journal fault"), HasSubstr("Musiques non copiées : gone.mp3, e.mp3."));
   EXPECT_THAT(program.memory.list("/d/ambiances"), ElementsAre("a.mp3", "b.mp3", "c.mp3", "d.mp3"));
   EXPECT_EQ(form.ListView1.rowCount(), 4);
   EXPECT_TRUE(form.MyButton4.enabled);
@@ -187,9 +189,17 @@ TEST_F(MusicRide, PlaysOnUnderTheVoiceInTheOtherMode) {
   // The start countdown alone silences it; behind each boundary it is told to go on, and "stop open play" is
   // its end.
   EXPECT_EQ(heard(), "v stop v open play v play stop open play v stop open play ");
+  const forms::MainForm& main = program.screens().main;
+  EXPECT_FALSE(main.MyButton19.visible);
+  program.run("press MainForm.MyButton5\npress CreerCycle.MyButton5\nadvance 0.1");
+  EXPECT_THAT(heard(), testing::EndsWith("stop "));
+  EXPECT_TRUE(main.MyButton19.visible);
+  EXPECT_FALSE(main.MyButton21.visible);
+  program.run("press MainForm.MyButton19\nadvance 3");
+  EXPECT_TRUE(main.MyButton21.visible);
   program.run("press MainForm.MyButton21\nadvance 0.1");
-  EXPECT_EQ(heard(), "stop ");
-  EXPECT_TRUE(program.screens().main.MyButton19.visible);
+  EXPECT_THAT(heard(), testing::EndsWith("stop "));
+  EXPECT_TRUE(main.MyButton19.visible);
 }
 
 TEST_F(Library, LeavingItWithAnEmptyListUnloadsThePage) {

@@ -50,6 +50,48 @@ TEST_F(RecordingPage, AsksBeforeReplacingAndPassesOverAFullDisk) {
   EXPECT_EQ(saved("Bravo.wav"), "old");
   EXPECT_EQ(program.run("journal fault"), "");
   EXPECT_EQ(program.disk.list("/d/annonces").size(), 2U);  // and the scratch file, nothing half copied
+  EXPECT_EQ(form.Label14.caption, "(Bravo) n'a pas pu être écrite sur le Disque");
+  program.disk.heal();
+  program.run("answer Autre\npress EnrUneAnnonce.Command1");
+  EXPECT_EQ(form.Label14.caption, "(Autre)Enregistrée");
+  EXPECT_EQ(saved("Autre.wav").size(), 45 + 11025U);  // padded to an even length
+  // Where not even the scratch file is written, the one before is not taken for it.
+  program.run("press EnrUneAnnonce.MyButton7\nanswer Rien\ncall EnrUneAnnonce.Command1");
+  EXPECT_EQ(saved("Rien.wav"), "");
+}
+
+TEST_F(RecordingPage, TellsWhyAnAnnouncementDoesNotOpen) {
+  program.memory.put("/d/annonces/Bravo.wav", "damaged");
+  const char* open = "answer Bravo.wav\npress EnrUneAnnonce.Command6\njournal dialog";
+  EXPECT_THAT(program.run(open), testing::HasSubstr("Erreur de Format ou Fichier Endommagé..."));
+  program.disk.failFrom(FaultyFileSystem::Call::Open, 1);
+  EXPECT_THAT(program.run(open), testing::HasSubstr("ERR #75\tImpossible d'ouvrir"));
+}
+
+// What waited for a take that is gone changes nothing: left at any moment there is nothing to save, and a new
+// take begun at any moment runs on.
+TEST_F(RecordingPage, LeavingOrATakeAnewMayComeAtAnyMoment) {
+  for (int tenths = 1; tenths < 90; ++tenths) {
+    for (const platform::Button* button : {&form.MyButton7, &form.Command2}) {
+      SCOPED_TRACE(button->name() + " " + std::to_string(tenths));
+      program.run("press EnrUneAnnonce.Command2");
+      const auto due = program.loop().clock().now() + std::chrono::milliseconds(100 * tenths);
+      program.loop().onInput([&, pressed = false]() mutable {
+        if (pressed || program.loop().clock().now() < due || !button->enabled) return;
+        pressed = true;
+        button->click();
+      });
+      program.run("advance 2\npress EnrUneAnnonce.Command3\nadvance 10");
+      program.loop().onInput({});
+      const bool left = button == &form.MyButton7;
+      EXPECT_EQ(form.Timer3.enabled, !left);
+      EXPECT_EQ(form.Command2.enabled, left);
+      EXPECT_EQ(form.Command4.caption, "Ecouter l'Annonce Enregistrée");
+      for (const auto* closed : {&form.Command1, &form.Command4}) EXPECT_FALSE(closed->enabled);
+      if (!left) program.run("press EnrUneAnnonce.MyButton7");
+      program.run("press MainForm.mnEnrAnnVocale");
+    }
+  }
 }
 
 TEST_F(RecordingPage, TheLevelFollowsItsTable) {
