@@ -8,6 +8,7 @@ install(FILES ${packaging}/ventoria-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR
 install(FILES ${packaging}/example.ventoria.Ventoria.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${PROJECT_SOURCE_DIR}/src/desktop/icons/ventoria.svg
   DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${packaging}/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ventoria)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/assets/sessions/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ventoria/sessions
   FILES_MATCHING PATTERN "*.tq2")
 
