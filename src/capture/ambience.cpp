@@ -1,5 +1,7 @@
 #include "capture/ambience.h"
 
+#include "forms/music_buttons.h"
+
 namespace capture {
 
 Ambience::Ambience(const voice::Toolbox& tools, Selection& selection)
@@ -27,18 +29,17 @@ void Ambience::connectMainScreen() {
   main_.MyButton19.click.handle([this] {
     form_.load();  // leaving an empty list unloaded it
     form_.Timer13.enabled = true;
-    main_.MyButton21.visible = true;
-    main_.MyButton19.visible = false;
+    forms::showMusicPlaying(main_);
   });
   main_.MyButton21.click.handle([this] {
     tools_.screens.player.Timer3.enabled = true;
-    main_.MyButton21.visible = false;
-    main_.MyButton19.visible = true;
+    forms::showMusicStopped(main_);
   });
 }
 
 void Ambience::openRecording() {
   tools_.screens.player.Timer3.enabled = true;
+  forms::showMusicStopped(main_);
   form_.MyFrame1.visible = false;
   main_.hide();
   form_.show();

@@ -1,6 +1,7 @@
 #include "capture/transport.h"
 
 #include "capture/selection.h"
+#include "forms/music_buttons.h"
 #include "model/numbers.h"
 
 namespace capture {
@@ -12,8 +13,9 @@ Transport::Transport(const voice::Toolbox& tools)
     form_.Command9.enabled = false;
     player_.Timer4.enabled = true;
   });
-  form_.Command11.click.handle([this] {
+  form_.Command11.click.handle([this, &main = tools.screens.main] {
     player_.Timer3.enabled = true;
+    forms::showMusicStopped(main);
     form_.Command9.enabled = false;
     form_.Command12.click();
   });

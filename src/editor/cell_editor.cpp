@@ -6,6 +6,7 @@
 #include "editor/cell_texts.h"
 #include "editor/layout.h"
 #include "editor/row_rules.h"
+#include "forms/music_buttons.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/time_value.h"
@@ -63,6 +64,7 @@ void CellEditor::cliquerCellule() {
   form_.Timer3.enabled = false;
   form_.Timer4.enabled = false;
   if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
+  forms::showMusicStopped(tools_.screens.main);
   if (tools_.screens.volume.visible) tools_.screens.volume.unload();
   colonneEdit_ = colonneCliquee_;
   const int row = grid_.selectedRow();

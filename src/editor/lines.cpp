@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editor/layout.h"
+#include "forms/music_buttons.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/vocabulary.h"
@@ -29,6 +30,7 @@ void Lines::preambule() {
   form_.Command1.click();
   dernierClic_ = "onclic";
   if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
+  forms::showMusicStopped(tools_.screens.main);
   if (tools_.screens.volume.visible) tools_.screens.volume.unload();
 }
 
