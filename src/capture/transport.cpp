@@ -1,7 +1,6 @@
 #include "capture/transport.h"
 
 #include "capture/selection.h"
-#include "forms/music_buttons.h"
 #include "model/numbers.h"
 
 namespace capture {
@@ -13,9 +12,8 @@ Transport::Transport(const voice::Toolbox& tools)
     form_.Command9.enabled = false;
     player_.Timer4.enabled = true;
   });
-  form_.Command11.click.handle([this, &main = tools.screens.main] {
+  form_.Command11.click.handle([this] {
     player_.Timer3.enabled = true;
-    forms::showMusicStopped(main);
     form_.Command9.enabled = false;
     form_.Command12.click();
   });
