@@ -1,14 +1,11 @@
 // What the windows wear, and what they take from the desktop while they run.
 #include <gmock/gmock.h>
 
-#include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusVirtualObject>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
-#include <QThread>
 
+#include "desktop/private_bus.h"
 #include "desktop/system_look.h"
 #include "desktop/windows.h"
 #include "support/simulated_program.h"
@@ -18,37 +15,16 @@ namespace {
 
 using Settings = QMap<QString, QVariantMap>;
 
-// A desktop's settings portal, on a bus of its own.
-class FakePortal final : public QDBusVirtualObject {
- public:
-  explicit FakePortal(Settings settings) : settings_(std::move(settings)) {}
-  QString introspect(const QString&) const override { return {}; }
-  bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
-    return bus.send(message.createReply(QVariant::fromValue(settings_)));
-  }
-
- private:
-  Settings settings_;
-};
-
-constexpr auto service = "org.freedesktop.portal.Desktop";
 constexpr auto path = "/org/freedesktop/portal/desktop";
 
 TEST(SystemLook, IsReadAtTheStartAndFollowed) {
-  QProcess daemon;
-  daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-  ASSERT_TRUE(daemon.waitForReadyRead());
-  const QString address = QString::fromUtf8(daemon.readLine()).trimmed();
   qDBusRegisterMetaType<Settings>();
-  FakePortal portal({{"org.freedesktop.appearance", {{"color-scheme", 2U}}},
-                     {"org.gnome.desktop.interface", {{"enable-animations", false}}}});
-  QThread answering;
-  portal.moveToThread(&answering);
-  answering.start();
-  QDBusConnection bus = QDBusConnection::connectToBus(address, "portal");
-  ASSERT_TRUE(bus.registerVirtualObject(path, &portal) && bus.registerService(service));
+  const Settings settings{{"org.freedesktop.appearance", {{"color-scheme", 2U}}},
+                          {"org.gnome.desktop.interface", {{"enable-animations", false}}}};
+  PrivateBus own([&](const QDBusMessage&) { return QVariantList{QVariant::fromValue(settings)}; });
+  const QDBusConnection portal = own.startService("org.freedesktop.portal.Desktop", path);
 
-  const SystemLook look(QDBusConnection::connectToBus(address, "rider"));
+  const SystemLook look(own.rider());
   EXPECT_EQ(look.colours(), ThemeMode::Light);
   EXPECT_FALSE(look.animations());
 
@@ -56,15 +32,9 @@ TEST(SystemLook, IsReadAtTheStartAndFollowed) {
   QDBusMessage signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
   signal << "org.freedesktop.appearance"
          << "color-scheme" << QVariant::fromValue(QDBusVariant(1U));
-  bus.send(signal);
+  portal.send(signal);
   EXPECT_TRUE(changed.wait(5000));
   EXPECT_EQ(look.colours(), ThemeMode::Dark);
-
-  answering.quit();
-  answering.wait();
-  for (const char* name : {"portal", "rider"}) QDBusConnection::disconnectFromBus(name);
-  daemon.kill();
-  daemon.waitForFinished();
 }
 
 TEST(SystemLook, AsksNothingWithoutAPortal) {

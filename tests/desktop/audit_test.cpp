@@ -52,11 +52,6 @@ class AuditTest : public testing::Test {
   int made_ = 0;
 };
 
-TEST_F(AuditTest, AButtonInItsPlaceIsRight) {
-  button(QRect(20, 20, 200, 60));
-  EXPECT_THAT(faults(), IsEmpty());
-}
-
 TEST_F(AuditTest, EachFaultIsNamed) {
   const QRect place(20, 20, 200, 60);
   const std::pair<std::function<void()>, const char*> table[] = {
@@ -103,6 +98,7 @@ TEST_F(AuditTest, EachFaultIsNamed) {
 
 TEST_F(AuditTest, AControlThatLiesOverAnotherIsNamedButNotAPageThatCoversIt) {
   button(QRect(20, 20, 200, 60));
+  EXPECT_THAT(faults(), IsEmpty());
   QPushButton& over = button(QRect(120, 20, 200, 60));
   EXPECT_THAT(faults(), ElementsAre(QStringLiteral("Page.b1 lies under b2")));
   over.setGeometry(0, 0, 400, 200);

@@ -72,40 +72,28 @@ TEST_F(BinderTest, EveryControlStandsOnceOnItsPage) {
   }
 }
 
-TEST_F(BinderTest, WhatThePersonDoesReachesTheControl) {
-  screens_.main.Command7.enabled = true;
+// Clicks, picks and typed texts go through every scenario on the stage.
+TEST_F(BinderTest, TheRightButtonAndTheKeysReachTheControlAPointerAtRestDoesNot) {
   forms::MainForm& form = screens_.main;
   std::vector<std::string> heard;
   const auto hear = [&](auto& event, const char* what) {
     event.handle([&heard, what] { heard.emplace_back(what); });
   };
-  hear(form.Command7.click, "pause");
   hear(form.MyButton19.alternate, "other button");
   hear(form.Picture6.hover, "hover");
-  hear(form.Check8.click, "check");
   hear(form.Combo5.click, "pick");
-  hear(form.Combo5.enter, "enter");
   form.Combo5.setLines({"1", "2", "3"});
   binder_.bind(form, main_);
   main_.show();
 
-  QTest::mouseClick(&widget<QPushButton>(main_, "Command7"), Qt::LeftButton);
   QTest::mouseClick(&widget<QPushButton>(main_, "MyButton19"), Qt::RightButton);
-  QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(50, 50), Qt::NoButton, Qt::NoButton,
-                   Qt::NoModifier);
-  QApplication::sendEvent(&widget<QWidget>(main_, "Picture6"), &move);
-  QApplication::sendEvent(&widget<QWidget>(main_, "Picture6"), &move);  // at rest: no movement
-  widget<QCheckBox>(main_, "Check8").click();
-  auto& combo = widget<QComboBox>(main_, "Combo5");
-  QTest::keyClick(&combo, Qt::Key_Down);
-  combo.lineEdit()->selectAll();
-  QTest::keyClicks(&combo, "97");
-  QTest::keyClick(&combo, Qt::Key_Return);
-
-  EXPECT_THAT(heard, ElementsAre("pause", "other button", "hover", "check", "pick", "enter"));
-  EXPECT_EQ(form.Check8.value.get(), 1);
-  EXPECT_EQ(form.Combo5.text.get(), "97");
-  EXPECT_EQ(form.Combo5.index.get(), -1);
+  for (int twice = 0; twice < 2; ++twice) {
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(50, 50), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&widget<QWidget>(main_, "Picture6"), &move);
+  }
+  QTest::keyClick(&widget<QComboBox>(main_, "Combo5"), Qt::Key_Down);
+  EXPECT_THAT(heard, ElementsAre("other button", "hover", "pick"));
 }
 
 TEST_F(BinderTest, AWriteFromCodeShowsAndComesBackAsNothing) {

@@ -7,17 +7,12 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
-#include <QTemporaryFile>
 #include <QTest>
 
 #include "desktop/check_list.h"
-#include "desktop/take_views.h"
 #include "desktop/windows_test_base.h"
-#include "platform/recording.h"
 
 namespace {
-
-using testing::ElementsAre;
 
 class ScreensTest : public WindowsTestBase {};
 
@@ -243,19 +238,6 @@ TEST_F(ScreensTest, OptionsAndSlidersFollowTheirFormAndMoveIt) {
   EXPECT_EQ(level.sliderPosition(), 11);
   level.triggerAction(QAbstractSlider::SliderToMinimum);
   EXPECT_EQ(screens_.announcements.VScroll1.value, 1);
-}
-
-TEST(Waveform, HasTheLoudestOfEachPartOfAFile) {
-  std::vector<unsigned char> samples(800, 128);
-  samples[150] = 0;    // all the way down
-  samples[750] = 192;  // half way up
-  QTemporaryFile file;
-  ASSERT_TRUE(file.open());
-  const std::vector<char> wav = platform::wavFile({}, samples);
-  file.write(wav.data(), static_cast<qint64>(wav.size()));
-  file.close();
-  EXPECT_THAT(desktop::peaksOf(file.fileName().toStdString(), 8), ElementsAre(0, 1, 0, 0, 0, 0, 0, 0.5F));
-  EXPECT_THAT(desktop::peaksOf("/nowhere.wav", 8), testing::IsEmpty());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
@@ -8,6 +8,8 @@
 #include <numbers>
 
 #include "desktop/decode_wav.h"
+#include "desktop/take_views.h"
+#include "platform/recording.h"
 
 namespace desktop {
 namespace {
@@ -90,6 +92,17 @@ TEST(WavDecoder, RefusesWhatIsNoSound) {
   for (const Bytes& bytes : {Bytes{}, noise, cut}) EXPECT_TRUE(support::decodeWav(bytes).empty());
   EXPECT_FALSE(WavDecoder(std::string("/nonexistent.wav")).opened());
   EXPECT_FALSE(WavDecoder(std::string("/dev/zero")).opened());
+}
+
+TEST(Waveform, HasTheLoudestOfEachPartOfAFile) {
+  Bytes samples(800, 128);
+  samples[150] = 0;    // all the way down
+  samples[750] = 192;  // half way up
+  const std::string path = testing::TempDir() + "/peaks.wav";
+  const std::vector<char> wav = platform::wavFile({}, samples);
+  std::ofstream(path, std::ios::binary).write(wav.data(), static_cast<std::streamsize>(wav.size()));
+  EXPECT_THAT(peaksOf(path, 8), testing::ElementsAre(0, 1, 0, 0, 0, 0, 0, 0.5F));
+  EXPECT_THAT(peaksOf("/nowhere.wav", 8), testing::IsEmpty());
 }
 
 }  // namespace
