@@ -3,30 +3,31 @@
 // what he is told.
 #include <algorithm>
 #include <array>
+#include <functional>
 
 #include "fuzz/check.h"
 #include "model/grid_rows.h"
 #include "model/vocabulary.h"
 #include "model/windows1252.h"
 #include "platform/text.h"
+#include "support/session_bytes.h"
 #include "support/simulated_program.h"
 
 namespace {
 
 namespace column = model::column;
 
-constexpr std::array typed{
-    "97",
-    "",
-    " ",
-    "-----",
-    "séance",
-    "Annonce Vocale",
-    "00:00:99",
-    "Oui",
-    "3",
-    "x",
-    "une valeur bien plus longue que la place qu'elle trouve dans le fichier de séance"};
+constexpr std::array typed{"97",
+                           "",
+                           " ",
+                           "-----",
+                           "séance",
+                           "Annonce Vocale",
+                           "00:00:99",
+                           "Oui",
+                           "3",
+                           "x",
+                           "une valeur bien plus longue que la place qu'elle trouve"};
 constexpr std::array buttons{"mnsupprim", "mnsupprim", "mnAjouterLigne", "mnUndo",
                              "mnUndo",    "mnRedo",    "MyButton1",      "MyButton1",
                              "MyButton7", "MyButton3", "MyButton2",      "Command4"};
@@ -42,37 +43,19 @@ class Rider {
   }
 
   void act(std::uint8_t what, std::uint8_t a, std::uint8_t b, std::uint8_t c) {
-    switch (std::array{0, 0, 0, 0, 0, 1, 1, 1, 1, 2, 3, 4, 5, 6, 7, 8}.at(what % 16)) {
-      case 0:
-        click(a, b, c % 8 == 0);
-        break;
-      case 1:
-        pick("Combo1", a + 256 * b);
-        break;
-      case 2:
-        pick(std::array{"Combo2", "Combo3", "Combo4"}.at(a % 3), b);
-        break;
-      case 3:
-        run("type CreerCycle.Combo1 \"" + std::string(typed.at(a % typed.size())) + "\"");
-        break;
-      case 4:
-        run("advance " + std::string(waits.at(a % waits.size())));
-        break;
-      case 5:
-        if (a % 2 == 0)
-          save(b % 3);
-        else
-          load(b % 3, c % 2 == 0);
-        break;
-      case 6:
-        handOver(a % 2 == 0);
-        break;
-      case 7:
-        finishLastRow(a, b, c);
-        break;
-      default:
-        press(buttons.at(a % buttons.size()));
-    }
+    const std::function<void()> acts[]{
+        [&] { click(a, b, c % 8 == 0); },
+        [&] { pick("Combo1", a + 256 * b); },
+        [&] {
+          pick(std::array{"Combo2", "Combo3", "Combo4"}.at(a % 3), b);
+        },
+        [&] { run("type CreerCycle.Combo1 \"" + std::string(typed.at(a % typed.size())) + "\""); },
+        [&] { run("advance " + std::string(waits.at(a % waits.size()))); },
+        [&] { a % 2 == 0 ? save(b % 3) : load(b % 3, c % 2 == 0); },
+        [&] { handOver(a % 2 == 0); },
+        [&] { finishLastRow(a, b, c); },
+        [&] { press(buttons.at(a % buttons.size())); }};
+    acts[std::array{0, 0, 0, 0, 0, 1, 1, 1, 1, 2, 3, 4, 5, 6, 7, 8}.at(what % 16)]();
     checkList();
   }
 
@@ -115,18 +98,7 @@ class Rider {
   }
 
   // Two sequences ridden twice.
-  static std::string repeatedSession() {
-    std::string bytes(450, ' ');
-    const auto put = [&](std::size_t at, std::string_view text) { bytes.replace(at, text.size(), text); };
-    put(0, "3");
-    put(71, "Oui2");
-    put(84, "ver2");
-    for (const std::size_t record : {150, 300}) {
-      put(record + 15, "Plat");
-      put(record + 76, "00:01:00-----");
-    }
-    return bytes;
-  }
+  static std::string repeatedSession() { return support::session(2, 2).replace(71, 4, "Oui2"); }
   static std::string path(int number) { return "/d/chronodat/Séance " + std::to_string(number) + ".tq2"; }
 
   void save(int number) {

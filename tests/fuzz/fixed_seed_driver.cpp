@@ -39,18 +39,13 @@ class InputMaker {
   void mutate(Bytes& input) {
     const auto at = static_cast<std::ptrdiff_t>(below(input.size() + 1));
     const auto place = input.begin() + at;
-    switch (below(4)) {
-      case 0:
-        input.insert(place, byte());
-        break;
-      case 1:
-        if (place != input.end()) input.erase(place);
-        break;
-      case 2:
-        input.erase(place, input.end());
-        break;
-      default:
-        if (place != input.end()) *place = byte();
+    const std::size_t change = below(4);
+    if (change == 0) {
+      input.insert(place, byte());
+    } else if (change == 1) {
+      input.erase(place, input.end());
+    } else if (place != input.end()) {
+      change == 2 ? static_cast<void>(input.erase(place)) : static_cast<void>(*place = byte());
     }
   }
 

@@ -1,4 +1,5 @@
-// A master volume and a printer that keep what was asked of them; the printer can run out of memory or paper.
+// A master volume, a desktop and a printer that keep what was asked of them; the printer can run out of
+// memory or paper.
 #pragma once
 
 #include <functional>
@@ -7,6 +8,7 @@
 
 #include "platform/endpoint_volume.h"
 #include "platform/printer.h"
+#include "platform/shell.h"
 
 namespace support {
 
@@ -24,6 +26,15 @@ struct RecordedVolume final : platform::EndpointVolume {
   void setLevel(double level) override { loudness = level, ++writes; }
   int channels() override { return 2; }
   std::string deviceName() override { return name; }
+};
+
+struct RecordedShell final : platform::Shell {
+  std::vector<std::string> opened;
+  bool network = true;
+  void openFile(const std::string& path) override { opened.push_back(path); }
+  void openAddress(const std::string& url) override { opened.push_back(url); }
+  void openSoundSettings() override { opened.emplace_back("sound settings"); }
+  bool connected() override { return network; }
 };
 
 struct RecordedPrinter final : platform::Printer {

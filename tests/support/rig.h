@@ -7,8 +7,6 @@
 #include "support/faulty_file_system.h"
 #include "support/memory_file_system.h"
 #include "support/recorded_devices.h"
-#include "support/recorded_media.h"
-#include "support/recorded_outputs.h"
 #include "voice/toolbox.h"
 
 namespace support {
@@ -49,8 +47,13 @@ struct Rig {
   MemoryFileSystem memory;
   FaultyFileSystem disk{memory};
   RecordedDialogs dialogs;
-  RecordedMedia media;
-  RecordedLevel level;
+  struct : platform::MediaCommands {
+    std::string send(const std::string&) override { return {}; }
+    void workIn(const std::string&) override {}
+  } media;
+  struct : platform::OutputLevel {
+    void set(std::uint16_t, std::uint16_t) override {}
+  } level;
   RecordedShell shell;
   RecordedVolume volume;
   RecordedPrinter printer;

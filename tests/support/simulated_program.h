@@ -14,6 +14,17 @@ namespace support {
 inline const std::string settingsOff = "000000000000 10               ";
 inline const std::string settingsOn = "0111111111012 1               ";
 
+// What a rider does for a list of two rows, each of so many seconds, from the main screen on.
+inline std::string composeTwoRows(const std::string& kind, const std::string& seconds,
+                                  const std::string& nextKind, const std::string& nextSeconds) {
+  const auto row = [](const std::string& number, const std::string& what, const std::string& lasts) {
+    return "cell CreerCycle.ListView1 " + number + " 4\npick CreerCycle.Combo1 " + what +
+           "\ncell CreerCycle.ListView1 " + number + " 10\npick CreerCycle.Combo4 " + lasts + "\n";
+  };
+  return "press MainForm.mnCreat\n" + row("2", kind, seconds) + "press CreerCycle.MyButton1\n" +
+         row("3", nextKind, nextSeconds);
+}
+
 class SimulatedProgram {
  public:
   explicit SimulatedProgram(const std::string& settings = settingsOff,

@@ -3,7 +3,6 @@
 #include "console/arguments.h"
 #include "console/escaping.h"
 #include "console/options.h"
-#include "console/wav_length.h"
 #include "platform/text.h"
 
 namespace {
@@ -14,17 +13,14 @@ using console::CommandError;
 using console::SoundMode;
 
 TEST(ConsoleTextTest, TakesTheLastTextToTheEndOfTheLine) {
-  const struct {
-    const char* written;
-    const char* text;
-  } cases[]{{"  two  words \r", "two  words"},
-            {"\"  kept \"", "  kept "},
-            {"\"\"", ""},
-            {"\"", "\""},
-            {"say \"hi\"", "say \"hi\""},
-            {R"(a\tb\nc\\n)", "a\tb\nc\\n"},
-            {R"(C:\dir\)", R"(C:\dir\)"},
-            {"", ""}};
+  const std::pair<const char*, const char*> cases[]{{"  two  words \r", "two  words"},
+                                                    {"\"  kept \"", "  kept "},
+                                                    {"\"\"", ""},
+                                                    {"\"", "\""},
+                                                    {"say \"hi\"", "say \"hi\""},
+                                                    {R"(a\tb\nc\\n)", "a\tb\nc\\n"},
+                                                    {R"(C:\dir\)", R"(C:\dir\)"},
+                                                    {"", ""}};
   for (const auto& [written, text] : cases) {
     EXPECT_EQ(Arguments(written).text(), text) << written;
     EXPECT_EQ(console::unescaped(console::escaped(text)), text);
@@ -65,37 +61,6 @@ TEST(ConsoleOptionsTest, UnderstandsTheCommandLine) {
     EXPECT_THROW(static_cast<void>(console::parseOptions(platform::split(bad, '|'))), console::UsageError)
         << bad;
   }
-}
-
-TEST(WavLengthTest, CountsFramesByCoding) {
-  const auto word = [](unsigned value, int size) {
-    std::string bytes;
-    for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i) & 0xFF);
-    return bytes;
-  };
-  const auto wav = [&](unsigned coding, unsigned channels, unsigned rate, unsigned block,
-                       const std::string& between, std::size_t data, unsigned toldData = 0) {
-    const auto size = static_cast<unsigned>(data);
-    const std::string text = "RIFF" + word(0, 4) + "WAVEfmt " + word(16, 4) + word(coding, 2) +
-                             word(channels, 2) + word(rate, 4) + word(0, 4) + word(block, 2) + word(8, 2) +
-                             between + "data" + word(toldData != 0 ? toldData : size, 4) +
-                             std::string(data, 'x');
-    return std::vector<unsigned char>(text.begin(), text.end());
-  };
-  const std::string odd = "LIST" + word(3, 4) + "abc" + word(0, 1);
-  const struct {
-    std::vector<unsigned char> bytes;
-    std::optional<std::chrono::milliseconds> length;
-  } cases[]{{wav(1, 1, 11025, 1, "", 11025), 1000ms},
-            {wav(1, 2, 22050, 4, odd, 44100), 500ms},
-            {wav(1, 1, 1000, 1, "", 500, 0x7FFFFFFF), 500ms},  // a header that promises too much
-            {wav(2, 1, 1000, 10, "", 26), 16ms},  // two blocks of 8 frames, and too little for a third
-            {wav(2, 1, 1000, 10, "", 29), 22ms},
-            {wav(2, 1, 1000, 10, "fact" + word(4, 4) + word(123, 4), 29), 123ms},
-            {wav(1, 0, 1000, 1, "", 10), std::nullopt},
-            {wav(85, 1, 1000, 1, "", 10), std::nullopt},
-            {{'R', 'I', 'F', 'F'}, std::nullopt}};
-  for (const auto& [bytes, length] : cases) EXPECT_EQ(console::wavLength(bytes), length) << bytes.size();
 }
 
 }  // namespace

@@ -2,23 +2,20 @@
 
 #include "model/grid_rows.h"
 #include "model/session_file.h"
+#include "support/session_bytes.h"
 #include "support/simulated_program.h"
 
 namespace {
 
 namespace column = model::column;
+using support::session;
 using Call = support::FaultyFileSystem::Call;
 
 // Two finished rows, of five and of one seconds.
 struct Editor : testing::Test {
   Editor() {
     EXPECT_TRUE(program.start());
-    program.run("press MainForm.mnCreat\n" + row("2", "Plat", "05") + "press CreerCycle.MyButton1\n" +
-                row("3", "Fond", "01") + "call CreerCycle.Command1");
-  }
-  static std::string row(const std::string& number, const std::string& kind, const std::string& seconds) {
-    return "cell CreerCycle.ListView1 " + number + " 4\npick CreerCycle.Combo1 " + kind +
-           "\ncell CreerCycle.ListView1 " + number + " 10\npick CreerCycle.Combo4 " + seconds + "\n";
+    program.run(support::composeTwoRows("Plat", "05", "Fond", "01") + "call CreerCycle.Command1");
   }
   support::SimulatedProgram program;
   forms::CreerCycle& form = program.screens().editor;
@@ -60,20 +57,18 @@ TEST_F(Editor, AFullDiskAtAnyWriteKeepsTheListAndTellsWhatIsLost) {
 TEST_F(Editor, ADurationTakesEntriesOfItsListsAloneHoweverItsBoxIsLeft) {
   const std::string enter = "key CreerCycle.Combo3 Enter\nadvance 0.2";
   const std::string elsewhere = "cell CreerCycle.ListView1 3 5";
-  struct Case {
+  const std::string second = "pick CreerCycle.Combo4 05\nadvance 0.2";
+  const std::string print = "press CreerCycle.mnImprim";
+  const std::string start = "press CreerCycle.MyButton5";
+  const struct {
     const char* typed;
     std::string leave;
-    const char* duration;
-    const char* total;
-  };
-  for (const Case& c : {Case{"75", enter, "00:00:05", "00:00:06"},
-                        {"7", enter, "00:07:05", "00:07:06"},
-                        {"99", "pick CreerCycle.Combo4 05\nadvance 0.2", "00:07:05", "00:07:06"},
-                        {"abc", elsewhere, "00:07:05", "00:07:06"},
-                        {"", elsewhere, "00:07:05", "00:07:06"},
-                        {" 8", elsewhere, "00:08:05", "00:08:06"},
-                        {"60", "press CreerCycle.mnImprim", "00:08:05", "00:08:06"},
-                        {"9", "press CreerCycle.MyButton5", "00:09:05", "00:09:06"}}) {
+    const char *duration, *total;
+  } cases[]{{"75", enter, "00:00:05", "00:00:06"},   {"7", enter, "00:07:05", "00:07:06"},
+            {"99", second, "00:07:05", "00:07:06"},  {"abc", elsewhere, "00:07:05", "00:07:06"},
+            {"", elsewhere, "00:07:05", "00:07:06"}, {" 8", elsewhere, "00:08:05", "00:08:06"},
+            {"60", print, "00:08:05", "00:08:06"},   {"9", start, "00:09:05", "00:09:06"}};
+  for (const auto& c : cases) {
     program.run("cell CreerCycle.ListView1 2 10\nset CreerCycle.Combo3.text " + std::string(c.typed) + "\n" +
                 c.leave);
     EXPECT_EQ(form.ListView1.text(2, column::duration), c.duration) << c.typed;
@@ -101,15 +96,6 @@ TEST_F(Editor, ATextThatIsNoDurationStaysOutOfThePlan) {
   }
   program.run("press CreerCycle.MyButton5");
   EXPECT_EQ(program.state().nbSequences, 2);
-}
-
-std::string session(int announced, int records) {
-  std::string bytes(static_cast<std::size_t>(150 * (records + 1)), ' ');
-  bytes.replace(0, 1, std::to_string(announced + 1)).replace(84, 4, "ver2");
-  for (std::size_t at = 165; at < bytes.size(); at += 150) {
-    bytes.replace(at, 4, "Plat").replace(at + 61, 8, "00:01:00").replace(at + 69, 5, "-----");
-  }
-  return bytes;
 }
 
 TEST_F(Editor, AFileThatEndsTooEarlyIsToldAndItsBlankRowsAreRed) {

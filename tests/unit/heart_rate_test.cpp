@@ -5,8 +5,6 @@
 #include "heartrate/calculator.h"
 #include "heartrate/formulas.h"
 #include "model/grid_rows.h"
-#include "model/numbers.h"
-#include "platform/each_on_its_own.h"
 #include "support/rig.h"
 
 namespace {
@@ -123,13 +121,6 @@ TEST(Formulas, RoundTheBandsHalfAwayFromZero) {
   EXPECT_EQ(reserveText(180, 0), "180");
   EXPECT_EQ(workRateText(1, 178, 60, 50), "119");
   EXPECT_EQ(workRateText(5, 178, 60, 50), "89");
-}
-
-TEST(EachOnItsOwn, GoesOnBehindAFailure) {
-  std::string done;
-  platform::eachOnItsOwn([&] { done += 'a'; }, [&] { done += model::plainNumber(model::strictNumber("x")); },
-                         [&] { done += 'b'; });
-  EXPECT_EQ(done, "ab");
 }
 
 TEST_F(HeartRate, StartsBlankOnANewDiskAndClosesUntouched) {

@@ -43,22 +43,16 @@ TEST_F(HistoryTest, RandomStepsComeBackExactlyBothWays) {
   std::vector<Texts> states{texts()};
   for (int step = 0; step < 120; ++step) {
     for (int change = pick(1, 4); change > 0; --change) {
-      switch (pick(0, 9)) {
-        case 0:
-          grid_.clearRows();
-          grid_.addRow(model::firstRow());
-          break;
-        case 1:
-        case 2:
-          grid_.removeRow(pick(2, grid_.rowCount() + 1));
-          break;
-        case 3:
-        case 4:
-        case 5:
-          grid_.insertRow(pick(2, grid_.rowCount() + 1), blankRow(step));
-          break;
-        default:
-          grid_.setText(pick(1, grid_.rowCount()), pick(1, 13), "é" + std::to_string(pick(0, 5)));
+      const int kind = pick(0, 9);
+      if (kind == 0) {
+        grid_.clearRows();
+        grid_.addRow(model::firstRow());
+      } else if (kind <= 2) {
+        grid_.removeRow(pick(2, grid_.rowCount() + 1));
+      } else if (kind <= 5) {
+        grid_.insertRow(pick(2, grid_.rowCount() + 1), blankRow(step));
+      } else {
+        grid_.setText(pick(1, grid_.rowCount()), pick(1, 13), "é" + std::to_string(pick(0, 5)));
       }
     }
     grid_.addRow(blankRow(step));  // so that every step changes something
@@ -78,13 +72,9 @@ TEST_F(HistoryTest, RandomStepsComeBackExactlyBothWays) {
 }
 
 TEST_F(HistoryTest, AStepIsWhatOneActionChangesHoweverLongItTakes) {
-  struct Case {
-    const char* what;
-    std::function<void()> action;
-    bool step;
-  };
   const auto put = [&](const char* text) { grid_.setText(2, column::sequence, text); };
-  for (const Case& c :
+  using Case = std::tuple<const char*, std::function<void()>, bool>;
+  for (const auto& [what, action, step] :
        {Case{"a question in its midst", [&] { put("Plat"), advance(500), put("Fond"); }, true},
         {"a refused pick", [&] { put("Sprint"), advance(500), put(" "); }, false},
         {"the same rows anew",
@@ -101,12 +91,12 @@ TEST_F(HistoryTest, AStepIsWhatOneActionChangesHoweverLongItTakes) {
     grid_.addRow(blankRow(2));
     advance(2);
     history_.forget();
-    loop.guard(c.action);
+    loop.guard(action);
     advance(60);
-    EXPECT_EQ(screens.editor.mnUndo.enabled, c.step) << c.what;
+    EXPECT_EQ(screens.editor.mnUndo.enabled, step) << what;
     screens.editor.mnUndo.click();
-    EXPECT_EQ(grid_.text(2, column::sequence), " ") << c.what;
-    EXPECT_EQ(screens.editor.MyButton3.caption, "Créer un Cycle") << c.what;
+    EXPECT_EQ(grid_.text(2, column::sequence), " ") << what;
+    EXPECT_EQ(screens.editor.MyButton3.caption, "Créer un Cycle") << what;
   }
 }
 

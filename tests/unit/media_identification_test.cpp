@@ -115,16 +115,12 @@ TEST(FileInformation, WritesSizesAndAttributes) {
 }
 
 TEST(Placement, FitsIntoTheBox) {
-  struct Row {
-    player::PixelSize native, box, fitted;
-  };
-  const Row rows[] = {{{320, 240}, {333, 250}, {333, 249}},
-                      {{100, 400}, {333, 250}, {62, 250}},
-                      {{10, 10}, {30, 60}, {30, 30}}};
-  for (const Row& row : rows) {
-    const player::PixelSize size = player::fitted(row.native, row.box);
-    EXPECT_EQ(size.width, row.fitted.width);
-    EXPECT_EQ(size.height, row.fitted.height);
+  const player::PixelSize rows[][3]{{{320, 240}, {333, 250}, {333, 249}},
+                                    {{100, 400}, {333, 250}, {62, 250}},
+                                    {{10, 10}, {30, 60}, {30, 30}}};
+  for (const auto& [native, box, wanted] : rows) {
+    const player::PixelSize size = player::fitted(native, box);
+    EXPECT_EQ(std::pair(size.width, size.height), std::pair(wanted.width, wanted.height));
   }
 }
 

@@ -97,13 +97,9 @@ TEST_F(PlayerTest, RefusesWhatIsNotThere) {
 
 TEST_F(PlayerTest, PausesByButtonTimersAndTheRidesOrders) {
   program.state().selectionEnCours = "oui";
-  struct Row {
-    std::string act;  // a command, or an order of the ride
-    std::string sent;
-    std::string caption;
-  };
   const std::string start = "set LectMCI.Text1.text /d/ambiances/a & b.mp3\nset LectMCI.Timer2.enabled 1";
-  const Row rows[] = {
+  // A command, or an order of the ride; what is sent; the button's caption.
+  const std::tuple<std::string, std::string, std::string> rows[] = {
       {"call LectMCI.Command5", "", "||"},
       {"oui", "play A\n", "||"},  // nobody asks whether something is open
       {start, "open", "||"},

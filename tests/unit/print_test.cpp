@@ -32,19 +32,15 @@ struct Printing : testing::Test, support::Rig {
 };
 
 TEST_F(Printing, CountsPagesOneWayAndPrintsThemAnother) {
-  struct Case {
-    int rows;
-    const char* announced;
+  const struct {
+    int rows, announced;
     std::vector<std::size_t> pages;  // rows on each
-  };
-  for (const Case& row : {Case{0, "", {}},
-                          {1, "1 page(s) à Imprimer", {1}},
-                          {34, "1 page(s) à Imprimer", {34}},
-                          {35, "1 page(s) à Imprimer", {35, 1}},
-                          {69, "2 page(s) à Imprimer", {35, 34}},
-                          {70, "2 page(s) à Imprimer", {35, 35, 1}}}) {
+  } cases[]{{0, 0, {}},       {1, 1, {1}},       {34, 1, {34}},
+            {35, 1, {35, 1}}, {69, 2, {35, 34}}, {70, 2, {35, 35, 1}}};
+  for (const auto& row : cases) {
     openWith(row.rows);
-    EXPECT_EQ(form.MyFrame1.caption.get(), row.announced) << row.rows;
+    const std::string announced = std::to_string(row.announced) + " page(s) à Imprimer";
+    EXPECT_EQ(form.MyFrame1.caption.get(), row.announced == 0 ? "" : announced) << row.rows;
     form.MyButton1.click();
     std::vector<std::size_t> printed;
     for (const auto& page : printer.pages) printed.push_back(page.rows.size());
@@ -58,22 +54,19 @@ TEST_F(Printing, CountsPagesOneWayAndPrintsThemAnother) {
 }
 
 TEST_F(Printing, TellsOnlyThatMemoryRanOut) {
-  struct Case {
-    std::function<void()> fault;
-    std::size_t messages;
-  };
-  for (const Case& row : {Case{[] { throw platform::OutOfMemory(); }, 1},
-                          {[] { throw std::bad_alloc(); }, 1},
-                          {[] { throw platform::Fault("papier"); }, 0}}) {
+  const std::pair<std::function<void()>, std::size_t> cases[]{{[] { throw platform::OutOfMemory(); }, 1},
+                                                              {[] { throw std::bad_alloc(); }, 1},
+                                                              {[] { throw platform::Fault("papier"); }, 0}};
+  for (const auto& [fault, messages] : cases) {
     dialogs.messages.clear();
     openWith(70);
-    printer.onPicture = row.fault;
+    printer.onPicture = fault;
     form.Command1.click();
-    ASSERT_EQ(dialogs.messages.size(), row.messages);
+    ASSERT_EQ(dialogs.messages.size(), messages);
     EXPECT_EQ(form.Grid.rowCount(), 0);
     EXPECT_THAT(printer.pages, IsEmpty());
     EXPECT_EQ(printer.calls.back(), "kill");
-    if (row.messages == 0) continue;
+    if (messages == 0) continue;
     EXPECT_EQ(dialogs.messages[0].title, "Dépassement de Capacité...");
     EXPECT_EQ(dialogs.messages[0].text,
               "Cette Sélection est trop volumineuse (3 pages) pour l'envoyer à l'Impression...");

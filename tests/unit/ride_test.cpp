@@ -14,20 +14,8 @@ using support::SimulatedProgram;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr const char* composeTwoRows = R"(press MainForm.mnCreat
-cell CreerCycle.ListView1 2 4
-pick CreerCycle.Combo1 Plat
-cell CreerCycle.ListView1 2 10
-pick CreerCycle.Combo4 10
-press CreerCycle.MyButton1
-cell CreerCycle.ListView1 3 4
-pick CreerCycle.Combo1 Sprint
-cell CreerCycle.ListView1 3 10
-pick CreerCycle.Combo4 20
-advance 1
-)";
-
-constexpr const char* openCountdown = R"(press CreerCycle.MyButton5
+const std::string countdownOfTwoRows = support::composeTwoRows("Plat", "10", "Sprint", "20") + R"(advance 1
+press CreerCycle.MyButton5
 advance 0.1
 journal
 press MainForm.MyButton3
@@ -47,17 +35,6 @@ TEST(Start, MakesItsFoldersAndTellsWhereOneCannotBeMade) {
               testing::UnorderedElementsAre("/d", "/d/chronodat", "/d/annonces", "/d/ambiances", "/d/Vid"));
 }
 
-TEST(Settings, AFullDiskKeepsTheBoxesAndTheLengthOfTheCountdown) {
-  SimulatedProgram program;
-  ASSERT_TRUE(program.start());
-  program.disk.failFrom(FaultyFileSystem::Call::Write, 1);
-  const std::string said = program.run(
-      "journal\npress MainForm.mnsons\ntick MainForm.Check4 1\npress MainForm.MyButton7\njournal");
-  EXPECT_THAT(said, HasSubstr("Impossible d'écrire dans « /d/par.tq3 »"));
-  EXPECT_THAT(said, Not(HasSubstr("parPersoenr.wav")));
-  EXPECT_EQ(program.screens().main.Check4.value, 1);
-}
-
 TEST(Rides, PassesBeyondTheNumberedOnesHaveAPromptOfTheirOwn) {
   for (const auto& [pass, name] : {std::pair{1, "seance1.wav"}, {20, "seance20.wav"}, {21, "nvseance.wav"}}) {
     EXPECT_EQ(runner::passSound(pass), name);
@@ -67,16 +44,14 @@ TEST(Rides, PassesBeyondTheNumberedOnesHaveAPromptOfTheirOwn) {
 
 // A wait of n seconds ends n seconds after the nearest whole second, midnight or not.
 TEST(Waits, LastUntilAWholeSecondOfTheClock) {
-  const struct {
-    std::chrono::milliseconds timeOfDay;
-    std::chrono::milliseconds lasts;
-  } waits[] = {{12s + 400ms, 600ms},  {12s + 500ms, 500ms},        {13s + 500ms, 1500ms},
-               {12s + 600ms, 1400ms}, {23h + 59min + 59s, 1000ms}, {24h - 400ms, 1400ms}};
-  for (const auto& wait : waits) {
-    SimulatedProgram program(support::settingsOff, wait.timeOfDay);
+  const std::pair<std::chrono::milliseconds, std::chrono::milliseconds> waits[]{
+      {12s + 400ms, 600ms},  {12s + 500ms, 500ms},        {13s + 500ms, 1500ms},
+      {12s + 600ms, 1400ms}, {23h + 59min + 59s, 1000ms}, {24h - 400ms, 1400ms}};
+  for (const auto& [timeOfDay, lasts] : waits) {
+    SimulatedProgram program(support::settingsOff, timeOfDay);
     ASSERT_TRUE(program.start());
     program.run("press MainForm.Command4");  // waits one second, and quits
-    EXPECT_EQ(program.loop().clock().now(), wait.lasts) << wait.timeOfDay.count();
+    EXPECT_EQ(program.loop().clock().now(), lasts) << timeOfDay.count();
     EXPECT_TRUE(program.loop().quitting());
   }
 }
@@ -84,8 +59,7 @@ TEST(Waits, LastUntilAWholeSecondOfTheClock) {
 TEST(Rides, QuittingInAWaitLeavesNothingRunning) {
   SimulatedProgram program(support::settingsOn);
   ASSERT_TRUE(program.start());
-  program.run(composeTwoRows);
-  program.run(openCountdown);
+  program.run(countdownOfTwoRows);
   program.run("at 2.5 press MainForm.Command4\nadvance 60");
   EXPECT_TRUE(program.loop().quitting());
   EXPECT_EQ(program.state().sequenceCourante, 1);
@@ -96,8 +70,7 @@ TEST(Rides, QuittingInAWaitLeavesNothingRunning) {
 TEST(Rides, AFaultInATickIsToldOnceAndTheProgramGoesOn) {
   SimulatedProgram program;
   ASSERT_TRUE(program.start());
-  program.run(composeTwoRows);
-  program.run(openCountdown);
+  program.run(countdownOfTwoRows);
   program.state().plan.planDuree[2] = "bientôt";
   const std::string said = program.run("advance 30\njournal fault\npress MainForm.MyButton4\nadvance 1");
   EXPECT_THAT(said, HasSubstr("bientôt"));

@@ -54,24 +54,23 @@ struct Dialog : testing::Test, support::Rig {
 };
 
 TEST_F(Dialog, AdvisesByTheLevel) {
+  const platform::Colour black = platform::Colour::rgb(0, 0, 0);
   const platform::Colour red = platform::Colour::rgb(255, 0, 0);
   const platform::Colour blue = platform::Colour::rgb(0, 0, 128);
   const platform::Colour green = platform::Colour::rgb(0, 255, 0);
   form.load();
-  for (const auto& [percent, words, colour] : {std::tuple{0, "insuffisant", red},
-                                               {49, "insuffisant", red},
-                                               {50, "un peu faible", green},
-                                               {74, "un peu faible", green},
-                                               {75, "satisfaisant", blue},
-                                               {85, "satisfaisant", blue},
-                                               {86, "un peu fort", platform::Colour::rgb(0, 0, 0)},
-                                               {100, "un peu fort", platform::Colour::rgb(0, 0, 0)}}) {
-    volume.loudness = percent / 100.0;
-    advance(200);
-    EXPECT_EQ(main.Label36.caption.get(), std::string("Le Volume de votre (Son) semble ") + words + "...");
-    EXPECT_EQ(main.Label36.colour.get(), colour) << percent;
-    EXPECT_EQ(screens.announcements.VScroll2.value.get(), percent);
-    EXPECT_EQ(main.Label38.caption.get(), "Volume Actuel (" + std::to_string(percent) + "%)");
+  for (const auto& [low, high, words, colour] : {std::tuple{0, 49, "insuffisant", red},
+                                                 {50, 74, "un peu faible", green},
+                                                 {75, 85, "satisfaisant", blue},
+                                                 {86, 100, "un peu fort", black}}) {
+    for (const int percent : {low, high}) {
+      volume.loudness = percent / 100.0;
+      advance(200);
+      EXPECT_EQ(main.Label36.caption.get(), std::string("Le Volume de votre (Son) semble ") + words + "...");
+      EXPECT_EQ(main.Label36.colour.get(), colour) << percent;
+      EXPECT_EQ(screens.announcements.VScroll2.value.get(), percent);
+      EXPECT_EQ(main.Label38.caption.get(), "Volume Actuel (" + std::to_string(percent) + "%)");
+    }
   }
   volume.silent = true;
   advance(200);
@@ -89,14 +88,14 @@ TEST_F(Dialog, LooksForTheDeviceAnewThoughTheBarWasWrittenMeanwhile) {
 }
 
 TEST_F(Dialog, TellsOnceAtTheStartWhatWouldNotBeHeard) {
-  struct Case {
+  const struct {
     double level;
     bool mute, present, told;
-  };
-  for (const Case& row : {Case{0.8, false, true, false},
-                          {0.4, false, true, true},
-                          {0.8, true, true, true},
-                          {0.0, false, false, false}}) {
+  } rows[]{{0.8, false, true, false},
+           {0.4, false, true, true},
+           {0.8, true, true, true},
+           {0.0, false, false, false}};
+  for (const auto& row : rows) {
     support::Rig fresh;
     const volume::VolumeGeneral dialog(fresh.tools);
     fresh.volume.loudness = row.level;
