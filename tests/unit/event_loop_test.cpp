@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "platform/each_on_its_own.h"
 #include "platform/timer.h"
 
 namespace {
@@ -121,6 +122,12 @@ TEST_F(Loop, AFaultEndsItsHandlerIsToldOnceAndLaterTicksGoOn) {
   advance(500ms);
   EXPECT_EQ(runs, 5);
   EXPECT_THAT(faults_, ElementsAre("disque plein", "autre"));
+}
+
+TEST(EachOnItsOwn, GoesOnBehindAFailure) {
+  std::string done;
+  platform::eachOnItsOwn([&] { done += 'a'; }, [] { throw platform::Fault("x"); }, [&] { done += 'b'; });
+  EXPECT_EQ(done, "ab");
 }
 
 TEST_F(Loop, AnUnloadedFormIsSilentEvenFromItsOwnTick) {
