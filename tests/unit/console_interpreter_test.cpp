@@ -157,6 +157,16 @@ TEST_F(InterpreterTest, LeavingABoxMayCloseWhatWasToBeTouched) {
   EXPECT_EQ(run("pick MainForm.Combo1 00\npress MainForm.MyButton1"), "refused: hidden\n");
 }
 
+TEST_F(InterpreterTest, ShowsWhatTheRiderSees) {
+  main_.hide();
+  main_.show();
+  EXPECT_EQ(run("forms\nvisible LectMCI\nrows CreerCycle.ListView1\necho  \" a\\tb \"\n# echo x"),
+            "CreerCycle\nMainForm\n1\ta\tb\\tc\n2\t\td\n a\\tb \n");
+  const std::string seen = run("visible MainForm");
+  EXPECT_THAT(seen, HasSubstr("MainForm.MyButton1\tStart\n"));
+  EXPECT_THAT(seen, testing::Not(testing::AnyOf(HasSubstr("MyButton3\t"), HasSubstr("Timer"))));
+}
+
 TEST_F(InterpreterTest, TellsWhatItCannotUnderstandAndGoesOn) {
   const std::pair<const char*, const char*> cases[]{
       {"presss MainForm.MyButton1", "error: no command presss; near: press"},
