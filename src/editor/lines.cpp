@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editor/layout.h"
+#include "forms/lect_mci_words.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/vocabulary.h"
@@ -11,12 +12,12 @@ namespace editor {
 
 namespace column = model::column;
 
-Lines::Lines(const voice::Toolbox& tools)
-    : tools_(tools),
-      form_(tools.screens.editor),
+Lines::Lines(const context::Context& context)
+    : context_(context),
+      form_(context.screens.editor),
       grid_(form_.ListView1),
-      main_(tools.screens.main),
-      state_(tools.state) {
+      main_(context.screens.main),
+      state_(context.state) {
   form_.MyButton2.click.handle([this] { creerSeance(); });
   form_.MyButton3.click.handle([this] { basculerCycle(); });
   form_.MyButton1.click.handle([this] { ajouterSequence(); });
@@ -28,8 +29,8 @@ Lines::Lines(const voice::Toolbox& tools)
 void Lines::preambule() {
   form_.Command1.click();
   dernierClic_ = "onclic";
-  if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
-  if (tools_.screens.volume.visible) tools_.screens.volume.unload();
+  if (forms::musicLoaded(context_.screens.player)) context_.screens.player.Timer3.enabled = true;
+  if (context_.screens.volume.visible) context_.screens.volume.unload();
 }
 
 void Lines::creerSeance() {
@@ -89,7 +90,7 @@ void Lines::viderListe() {
 }
 
 void Lines::refuseUnfinished(const std::string& text, const std::string& title) {
-  tools_.outside.dialogs.message(
+  context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, title, text});
 }
 

@@ -1,5 +1,6 @@
 #include "runner/advance.h"
 
+#include "forms/lect_mci_words.h"
 #include "model/vocabulary.h"
 #include "platform/text.h"
 #include "runner/boundary_sounds.h"
@@ -7,8 +8,8 @@
 
 namespace runner {
 
-Advance::Advance(const voice::Toolbox& tools, RideWaits& waits)
-    : tools_(tools), waits_(waits), main_(tools.screens.main), state_(tools.state) {}
+Advance::Advance(const context::Context& context, voice::Voice& voice, RideWaits& waits)
+    : context_(context), voice_(voice), waits_(waits), main_(context.screens.main), state_(context.state) {}
 
 void Advance::avancerSequence() {
   if (state_.nbSequences == 0) return;
@@ -46,9 +47,9 @@ void Advance::crossBoundary() {
   timeStands_ = false;
   if (main_.Command7.caption == "Pause" || state_.dureeSequence == 0) main_.Timer1.enabled = true;
   sayRow();
-  if (main_.Check7.value == 1 && !state_.sonBraquet.empty()) tools_.voice.dire(state_.sonBraquet);
+  if (main_.Check7.value == 1 && !state_.sonBraquet.empty()) voice_.dire(state_.sonBraquet);
   const bool musicPlaysInRide = main_.Check10.value == 1 || main_.Check11.value == 1;
-  if (main_.Check2.value == 1 && tools_.voice.musiqueChargee() && musicPlaysInRide) {
+  if (main_.Check2.value == 1 && forms::musicLoaded(context_.screens.player) && musicPlaysInRide) {
     waits_.forgetHold();
     state_.musiqueSuit = "oui";
   }
@@ -78,8 +79,8 @@ void Advance::endRun() {
     waits_.hold();
     showMessage(main_, endMessage);
     waits_.pause();
-    tools_.voice.dire("finentrainement.wav");
-    tools_.voice.dire("pensezIdrater.wav");
+    voice_.dire("finentrainement.wav");
+    voice_.dire("pensezIdrater.wav");
     showIdlePicture(main_);
     main_.Label43.caption = "";
     waits_.release();
@@ -104,7 +105,7 @@ void Advance::showRideFields() {
 void Advance::sayPass() {
   if (main_.Check2.value != 1 || main_.Check3.value != 1 || state_.sonSeance.empty()) return;
   waits_.hold();
-  if (state_.sequenceCourante == 1) tools_.voice.dire(state_.sonSeance);
+  if (state_.sequenceCourante == 1) voice_.dire(state_.sonSeance);
   waits_.release();
 }
 
@@ -160,7 +161,7 @@ void Advance::playOwnAnnouncement() {
   const auto row = static_cast<std::size_t>(state_.sequenceCourante);
   if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) return;
   waits_.hold();
-  if (main_.Check9.value == 1) tools_.voice.jouerAnnonce(state_.plan.planAnnonce.at(row));
+  if (main_.Check9.value == 1) voice_.jouerAnnonce(state_.plan.planAnnonce.at(row));
 }
 
 void Advance::saySequenceNumber() {
@@ -172,7 +173,7 @@ void Advance::sayRow() {
   main_.Label16.caption = std::to_string(state_.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   if (main_.Check2.value == 1) {
     sayKind();
-    if (main_.Check5.value == 1 && !state_.sonCadence.empty()) tools_.voice.dire(state_.sonCadence);
+    if (main_.Check5.value == 1 && !state_.sonCadence.empty()) voice_.dire(state_.sonCadence);
     sayChainring();
     waits_.pause();
   }
@@ -183,10 +184,10 @@ void Advance::sayRow() {
 void Advance::sayKind() {
   const bool wanted = main_.Check5.value == 1 || main_.Check13.value == 1;
   if (!wanted || isAnnouncement() || state_.sonSequence.empty()) return;
-  tools_.voice.nommer(state_.sonSequence);
+  voice_.nommer(state_.sonSequence);
   waits_.hold();
   // Named again: who paused during the hold has used the one slot of the sounds.
-  if (main_.Check13.value == 1) tools_.voice.dire(state_.sonSequence);
+  if (main_.Check13.value == 1) voice_.dire(state_.sonSequence);
 }
 
 void Advance::sayChainring() {
@@ -196,7 +197,7 @@ void Advance::sayChainring() {
   main_.Label15.visible = !inOneText;
   main_.Label20.visible = !inOneText;
   main_.Label39.visible = inOneText;
-  tools_.voice.dire(state_.sonPlateau);
+  voice_.dire(state_.sonPlateau);
 }
 
 bool Advance::isAnnouncement() const {

@@ -20,8 +20,12 @@ std::string percentPart(const std::string& target) {
 
 }  // namespace
 
-Chrono::Chrono(const voice::Toolbox& tools, Advance& advance, RideWaits& waits)
-    : tools_(tools), advance_(advance), waits_(waits), main_(tools.screens.main), state_(tools.state) {
+Chrono::Chrono(const context::Context& context, Advance& advance, RideWaits& waits)
+    : context_(context),
+      advance_(advance),
+      waits_(waits),
+      main_(context.screens.main),
+      state_(context.state) {
   main_.Timer1.tick.handle([this] { tickChrono(); });
   main_.Timer3.tick.handle([this] { tickSurveillance(); });
   main_.Timer9.tick.handle([this] { tickEcranVeille(); });
@@ -116,9 +120,9 @@ void Chrono::stepAsidePanel() {
 }
 
 void Chrono::tickEcranVeille() {
-  const bool active = tools_.outside.screenSaver.active();
+  const bool active = context_.outside.screenSaver.active();
   state_.ecranVeilleActif = active ? "oui" : "non";
-  if (active) tools_.outside.screenSaver.setActive(false);
+  if (active) context_.outside.screenSaver.setActive(false);
 }
 
 }  // namespace runner

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/lect_mci_words.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/vocabulary.h"
@@ -10,12 +11,12 @@
 
 namespace runner {
 
-HandOver::HandOver(const voice::Toolbox& tools, RideWaits& waits)
-    : tools_(tools),
+HandOver::HandOver(const context::Context& context, RideWaits& waits)
+    : context_(context),
       waits_(waits),
-      main_(tools.screens.main),
-      editor_(tools.screens.editor),
-      state_(tools.state) {
+      main_(context.screens.main),
+      editor_(context.screens.editor),
+      state_(context.state) {
   editor_.MyButton5.click.handle([this] { validerSeance(); });
 }
 
@@ -57,7 +58,7 @@ bool HandOver::refuseWrongDuration() {
   editor_.Timer6.tick();  // paints it red and takes the start away
   grid.select(row);
   grid.reveal(row);
-  tools_.outside.dialogs.message(
+  context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Durée à Corriger...",
        "La Ligne (" + std::to_string(row) + ") de la Liste, (" +
            platform::trim(grid.text(row, model::column::sequence)) + "), n'a pas de Durée valable : (" +
@@ -68,10 +69,10 @@ bool HandOver::refuseWrongDuration() {
 
 void HandOver::settleOtherForms() {
   editor_.Command1.click();
-  if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
-  main_.MyButton19.visible = !tools_.screens.announcements.File1.lines().empty();
+  if (forms::musicLoaded(context_.screens.player)) context_.screens.player.Timer3.enabled = true;
+  main_.MyButton19.visible = !context_.screens.announcements.File1.lines().empty();
   main_.MyButton21.visible = false;
-  if (tools_.screens.volume.visible) tools_.screens.volume.unload();
+  if (context_.screens.volume.visible) context_.screens.volume.unload();
   if (state_.dureeChrono.empty()) state_.dureeChrono = "16";
   main_.Combo5.text = state_.dureeChrono;
   showCountdownLength(main_);

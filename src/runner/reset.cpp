@@ -7,8 +7,8 @@
 
 namespace runner {
 
-Reset::Reset(const voice::Toolbox& tools, RideWaits& waits)
-    : tools_(tools), waits_(waits), main_(tools.screens.main), state_(tools.state) {
+Reset::Reset(const context::Context& context, voice::Voice& voice, RideWaits& waits)
+    : context_(context), voice_(voice), waits_(waits), main_(context.screens.main), state_(context.state) {
   main_.MyButton4.click.handle([this] { annulerSeance(); });
   main_.MyButton1.click.handle([this] { boutonStart(); });
 }
@@ -19,7 +19,7 @@ void Reset::annulerSeance() {
   main_.Timer10.enabled = false;
   if (state_.etatFin != "terminer" && state_.sequenceCourante > 0) {
     showIdlePicture(main_);
-    tools_.voice.dire("seanceAnnule.wav");
+    voice_.dire("seanceAnnule.wav");
   }
   main_.Command7.caption = "Pause";
   openRideButtons(main_, false);
@@ -40,7 +40,7 @@ void Reset::annulerSeance() {
     field->caption = "";
   }
   for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) box->text = "00";
-  if (state_.ecranVeilleActif == "oui") tools_.outside.screenSaver.setActive(true);
+  if (state_.ecranVeilleActif == "oui") context_.outside.screenSaver.setActive(true);
   waits_.endHold();
 }
 
