@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "console/profile.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace console {

@@ -7,7 +7,7 @@
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "ui_main_form.h"
 
 namespace desktop {

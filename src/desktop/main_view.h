@@ -10,7 +10,7 @@
 
 #include "desktop/effort_views.h"
 #include "forms/main_form.h"
-#include "model/shared_state.h"
+#include "model/training_model.h"
 
 namespace Ui {
 class MainForm;

@@ -10,7 +10,7 @@
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/time_value.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace editor {

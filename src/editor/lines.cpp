@@ -6,7 +6,7 @@
 #include "forms/lect_mci_words.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 
 namespace editor {
 

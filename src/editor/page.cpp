@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "editor/layout.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 
 namespace editor {
 

@@ -4,7 +4,7 @@
 
 #include "heartrate/formulas.h"
 #include "heartrate/help_texts.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace heartrate {

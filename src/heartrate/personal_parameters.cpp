@@ -3,7 +3,7 @@
 #include "heartrate/formulas.h"
 #include "heartrate/input_checks.h"
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace heartrate {

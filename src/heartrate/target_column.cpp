@@ -3,7 +3,7 @@
 #include "heartrate/input_checks.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/each_on_its_own.h"
 #include "platform/text.h"
 

@@ -1,7 +1,7 @@
 #include "runner/advance.h"
 
 #include "forms/lect_mci_words.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 #include "runner/boundary_sounds.h"
 #include "runner/visibility.h"

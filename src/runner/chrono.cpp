@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 #include "runner/visibility.h"
 

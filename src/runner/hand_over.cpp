@@ -5,7 +5,7 @@
 #include "forms/lect_mci_words.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 #include "runner/visibility.h"
 

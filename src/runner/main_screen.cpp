@@ -1,6 +1,6 @@
 #include "runner/main_screen.h"
 
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "runner/visibility.h"
 
 namespace runner {

@@ -6,7 +6,7 @@
 
 #include "fuzz/check.h"
 #include "model/grid_rows.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "model/windows1252.h"
 #include "platform/text.h"
 #include "support/simulated_program.h"
