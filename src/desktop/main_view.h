@@ -33,8 +33,8 @@ class MainView final : public QObject {
   void refreshCards();
   void refreshProfile();
   void refreshCountdown();
-  [[nodiscard]] bool riding() const { return state_.sequenceCourante > 0; }
-  [[nodiscard]] QString describe(int row) const;
+  [[nodiscard]] bool riding() const { return state_.plan.sequenceCourante > 0; }
+  [[nodiscard]] QString describe(int number) const;
   [[nodiscard]] int nextRow() const;
 
   forms::MainForm& form_;

@@ -30,15 +30,14 @@ void Advance::crossBoundary() {
   }
   showRideFields();
   state_.ecouleSequence = 0;
-  ++state_.sequenceCourante;
+  ++state_.plan.sequenceCourante;
   sayPass();
   showRow();
   waits_.pause();
   nameSounds();
   showTarget();
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  main_.Label12.caption = state_.plan.planRemarque.at(row);
-  state_.dureeSequence = model::timeValue(state_.plan.planDuree.at(row));
+  main_.Label12.caption = state_.plan.current().planRemarque;
+  state_.dureeSequence = model::timeValue(state_.plan.current().planDuree);
   playOwnAnnouncement();
   saySequenceNumber();
   // From here on time runs, although the voice that follows still delays the first tick. A ride that was
@@ -57,9 +56,9 @@ void Advance::crossBoundary() {
 
 void Advance::choosePass() {
   if (state_.nbSeances > 1) {
-    if (state_.sequenceCourante != 0 && state_.sequenceCourante != state_.nbSequences) return;
+    if (state_.plan.sequenceCourante != 0 && state_.plan.sequenceCourante != state_.nbSequences) return;
     ++state_.seanceCourante;
-    state_.sequenceCourante = 0;
+    state_.plan.sequenceCourante = 0;
   } else {
     state_.seanceCourante = 1;
   }
@@ -68,14 +67,14 @@ void Advance::choosePass() {
 
 bool Advance::isOver() const {
   if (state_.seanceCourante > state_.nbSeances) return true;
-  return state_.nbSeances == 1 && state_.sequenceCourante == state_.nbSequences;
+  return state_.nbSeances == 1 && state_.plan.sequenceCourante == state_.nbSequences;
 }
 
 void Advance::endRun() {
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
   if (main_.Check2.value == 1) {
-    state_.sequenceCourante = 0;  // so that the cancel below says nothing
+    state_.plan.sequenceCourante = 0;  // so that the cancel below says nothing
     waits_.hold();
     showMessage(main_, endMessage);
     waits_.pause();
@@ -105,23 +104,23 @@ void Advance::showRideFields() {
 void Advance::sayPass() {
   if (main_.Check2.value != 1 || main_.Check3.value != 1 || state_.sonSeance.empty()) return;
   waits_.hold();
-  if (state_.sequenceCourante == 1) voice_.dire(state_.sonSeance);
+  if (state_.plan.sequenceCourante == 1) voice_.dire(state_.sonSeance);
   waits_.release();
 }
 
 void Advance::showRow() {
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  const model::RunPlan& plan = state_.plan;
-  const std::string& duration = plan.planDuree.at(row);
+  const model::PlanRow& row = state_.plan.current();
+  const std::string& duration = row.planDuree;
   main_.Combo1.text = platform::left(duration, 2);
   main_.Combo2.text = platform::mid(duration, 4, 2);
   main_.Combo3.text = platform::right(duration, 2);
-  const bool spoken = plan.planSequence.at(row) == model::vocalAnnouncement;
-  main_.Label10.caption = spoken ? std::string() : plan.planCadence.at(row);
-  main_.Label11.caption = plan.planSequence.at(row);
-  main_.Label15.caption = spoken ? std::string() : plan.planBraquet.at(row);
-  main_.Label20.caption = spoken ? std::string() : plan.planPlateau.at(row);
-  main_.Label16.caption = std::to_string(row) + "/" + std::to_string(state_.nbSequences);
+  const bool spoken = row.planSequence == model::vocalAnnouncement;
+  main_.Label10.caption = spoken ? std::string() : row.planCadence;
+  main_.Label11.caption = row.planSequence;
+  main_.Label15.caption = spoken ? std::string() : row.planBraquet;
+  main_.Label20.caption = spoken ? std::string() : row.planPlateau;
+  main_.Label16.caption =
+      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   if (!spoken) composeGearText();
 }
 
@@ -144,8 +143,7 @@ void Advance::nameSounds() {
 
 void Advance::showTarget() {
   main_.Label44.caption = "";
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  const std::string target = platform::trim(state_.plan.planFreqCard.at(row));
+  const std::string target = platform::trim(state_.plan.current().planFreqCard);
   if (target.empty() || target == "---" || target == model::noTarget) {
     showMessage(main_, "Fréquence de Travail NON Définie\n");
     return;
@@ -158,19 +156,19 @@ void Advance::showTarget() {
 }
 
 void Advance::playOwnAnnouncement() {
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) return;
+  if (state_.plan.current().planSequence != model::vocalAnnouncement) return;
   waits_.hold();
-  if (main_.Check9.value == 1) voice_.jouerAnnonce(state_.plan.planAnnonce.at(row));
+  if (main_.Check9.value == 1) voice_.jouerAnnonce(state_.plan.current().planAnnonce);
 }
 
 void Advance::saySequenceNumber() {
-  state_.sonNumSequence = sequenceNumberSound(state_.sequenceCourante);
+  state_.sonNumSequence = sequenceNumberSound(state_.plan.sequenceCourante);
   if (main_.Check4.value == 1 && !isAnnouncement()) waits_.sayHolding(state_.sonNumSequence);
 }
 
 void Advance::sayRow() {
-  main_.Label16.caption = std::to_string(state_.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
+  main_.Label16.caption =
+      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   if (main_.Check2.value == 1) {
     sayKind();
     if (main_.Check5.value == 1 && !state_.sonCadence.empty()) voice_.dire(state_.sonCadence);

@@ -55,7 +55,7 @@ void Chrono::count() {
 }
 
 void Chrono::showTarget() {
-  const std::string& target = state_.plan.planFreqCard.at(static_cast<std::size_t>(state_.sequenceCourante));
+  const std::string& target = state_.plan.current().planFreqCard;
   const bool inTurn = state_.modeAffichageFC == 3 && state_.alternanceFC != 0;
   if (state_.modeAffichageFC == 1 || (inTurn && state_.alternanceFC == 1)) {
     main_.Label44.caption = platform::left(target, beatsLength);
@@ -68,16 +68,16 @@ void Chrono::showTarget() {
 // The total is kept in the label and read back from it, and so always in whole seconds.
 void Chrono::countTotal() {
   // A ride that comes out of a paused countdown has not ridden a second yet.
-  if (state_.nbSequences != 0 && state_.sequenceCourante == 0) return;
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) {
+  if (state_.nbSequences != 0 && state_.plan.sequenceCourante == 0) return;
+  if (state_.plan.current().planSequence != model::vocalAnnouncement) {
     main_.Label40.caption = model::formatTime(state_.dureeTotale - state_.pasChrono);
   }
   state_.dureeTotale = model::timeValue(main_.Label40.caption.get());
 }
 
 Chrono::Sequence Chrono::countSecond() {
-  main_.Label16.caption = std::to_string(state_.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
+  main_.Label16.caption =
+      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   state_.ecouleSequence += state_.pasChrono;
   // Through the text and back: sums of many seconds drift off the whole ones, and the test below needs them.
   const std::string left = model::formatTime(state_.dureeSequence - state_.ecouleSequence);

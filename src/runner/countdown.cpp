@@ -109,7 +109,7 @@ void Countdown::basculerPause() {
 }
 
 bool Countdown::somethingRuns() const {
-  return main_.Timer1.enabled || main_.Timer2.enabled || state_.sequenceCourante > 0;
+  return main_.Timer1.enabled || main_.Timer2.enabled || state_.plan.sequenceCourante > 0;
 }
 
 void Countdown::leaveFrame() {

@@ -85,7 +85,7 @@ void HandOver::resetRide() {
   main_.Timer1.enabled = false;
   main_.Timer2.enabled = false;
   show({&main_.Label4, &main_.Label5, &main_.Label6, &main_.Image4});
-  state_.sequenceCourante = 0;
+  state_.plan.sequenceCourante = 0;
   state_.seanceCourante = 0;
   state_.nbSequences = 0;
   main_.MyButton1.caption = "Start";
@@ -102,16 +102,15 @@ void HandOver::fillPlan() {
     const std::string& duration = grid.text(row, model::column::duration);
     const std::string& announcement = grid.text(row, model::column::announcement);
     if (!model::isRidden(grid, row)) continue;
-    ++kept;
-    plan.planSequence[kept] = grid.text(row, model::column::sequence);
-    plan.planCadence[kept] = grid.text(row, model::column::cadence);
-    plan.planPlateau[kept] = grid.text(row, model::column::chainring);
-    plan.planBraquet[kept] = grid.text(row, model::column::gear);
-    plan.planAnnonce[kept] = platform::trim(announcement);
-    plan.planFreqCard[kept] = grid.text(row, model::column::heartRate);
-    plan.planRemarque[kept] = "";
-    const bool spoken = plan.planSequence[kept] == model::vocalAnnouncement;
-    plan.planDuree[kept] = spoken ? std::string(model::noDuration) : duration;
+    model::PlanRow& planned = plan.rows.at(++kept);
+    planned.planSequence = grid.text(row, model::column::sequence);
+    planned.planCadence = grid.text(row, model::column::cadence);
+    planned.planPlateau = grid.text(row, model::column::chainring);
+    planned.planBraquet = grid.text(row, model::column::gear);
+    planned.planAnnonce = platform::trim(announcement);
+    planned.planFreqCard = grid.text(row, model::column::heartRate);
+    const bool spoken = planned.planSequence == model::vocalAnnouncement;
+    planned.planDuree = spoken ? std::string(model::noDuration) : duration;
   }
   state_.nbSequences = static_cast<int>(kept);
 }

@@ -17,7 +17,7 @@ void Reset::annulerSeance() {
   waits_.overtake();
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
-  if (state_.etatFin != "terminer" && state_.sequenceCourante > 0) {
+  if (state_.etatFin != "terminer" && state_.plan.sequenceCourante > 0) {
     showIdlePicture(main_);
     voice_.dire("seanceAnnule.wav");
   }
@@ -33,7 +33,7 @@ void Reset::annulerSeance() {
   main_.Timer1.enabled = false;
   main_.Timer2.enabled = false;
   state_.ecouleSequence = 0;
-  state_.sequenceCourante = 0;
+  state_.plan.sequenceCourante = 0;
   state_.dureeSequence = model::timeValue("00:00:00");
   for (auto* digits : {&main_.Label4, &main_.Label5, &main_.Label6}) digits->caption = "00";
   for (auto* field : {&main_.Label10, &main_.Label11, &main_.Label12, &main_.Label15, &main_.Label20}) {
