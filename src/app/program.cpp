@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include "capture/page.h"
+#include "context/context.h"
 #include "editor/page.h"
 #include "help/films.h"
 #include "help/web.h"
@@ -15,35 +16,33 @@
 #include "runner/main_screen.h"
 #include "runner/reset.h"
 #include "runner/settings_page.h"
-#include "voice/toolbox.h"
 #include "volume/volume_general.h"
 
 namespace app {
 
 struct Program::Logic {
   Logic(Program& program, const Setup& setup)
-      : voice(program.state_, program.loop_, program.outside_.sound, program.screens_.main,
-              program.screens_.player),
-        tools{program.screens_, program.state_, program.loop_, program.outside_, voice},
+      : context{program.screens_, program.state_, program.loop_, program.outside_},
+        voice(context),
         waits(voice, program.loop_),
-        reset(tools, waits),
-        advance(tools, waits),
-        chrono(tools, advance, waits),
-        countdown(tools, advance),
-        handOver(tools, waits),
-        settings(tools),
-        mainScreen(tools, settings, setup.folder,
+        reset(context, voice, waits),
+        advance(context, voice, waits),
+        chrono(context, advance, waits),
+        countdown(context, voice, advance),
+        handOver(context, waits),
+        settings(context, voice),
+        mainScreen(context, voice, settings, setup.folder,
                    player::informationFichier(player::programFile(), setup.version).FileVersion),
-        editorPage(tools),
-        player(tools),
-        announcementsPage(tools, setup.documentsFolder),
-        volumeGeneral(tools),
-        printForm(tools),
-        films(tools),
-        web(tools) {}
+        editorPage(context, voice),
+        player(context),
+        announcementsPage(context, voice, setup.documentsFolder),
+        volumeGeneral(context),
+        printForm(context),
+        films(context),
+        web(context) {}
 
+  context::Context context;
   voice::Voice voice;
-  voice::Toolbox tools;
   runner::RideWaits waits;
   runner::Reset reset;
   runner::Advance advance;

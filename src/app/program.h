@@ -7,7 +7,7 @@
 #include <string>
 
 #include "forms/screens.h"
-#include "model/shared_state.h"
+#include "model/training_model.h"
 #include "platform/event_loop.h"
 #include "platform/outside.h"
 

@@ -4,8 +4,12 @@
 
 namespace capture {
 
-Ambience::Ambience(const voice::Toolbox& tools, Selection& selection)
-    : tools_(tools), main_(tools.screens.main), form_(tools.screens.announcements), selection_(selection) {
+Ambience::Ambience(const context::Context& context, voice::Voice& voice, Selection& selection)
+    : context_(context),
+      voice_(voice),
+      main_(context.screens.main),
+      form_(context.screens.announcements),
+      selection_(selection) {
   connectMainScreen();
   form_.MyButton9.click.handle([this] { leaveLibrary(); });
   form_.Timer12.tick.handle([this] {
@@ -32,13 +36,13 @@ void Ambience::connectMainScreen() {
     forms::showMusicPlaying(main_);
   });
   main_.MyButton21.click.handle([this] {
-    tools_.screens.player.Timer3.enabled = true;
+    context_.screens.player.Timer3.enabled = true;
     forms::showMusicStopped(main_);
   });
 }
 
 void Ambience::openRecording() {
-  tools_.screens.player.Timer3.enabled = true;
+  context_.screens.player.Timer3.enabled = true;
   forms::showMusicStopped(main_);
   form_.MyFrame1.visible = false;
   main_.hide();
@@ -61,7 +65,7 @@ void Ambience::startWholeLibrary() {
     form_.Command8.click();
     form_.Check1.value = 1;
     form_.Check2.value = 1;
-    tools_.voice.attendre(1);
+    voice_.attendre(1);
   }
   form_.MyButton12.click();
 }

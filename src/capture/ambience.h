@@ -2,13 +2,14 @@
 #pragma once
 
 #include "capture/selection.h"
-#include "voice/toolbox.h"
+#include "context/context.h"
+#include "voice/voice.h"
 
 namespace capture {
 
 class Ambience {
  public:
-  Ambience(const voice::Toolbox& tools, Selection& selection);
+  Ambience(const context::Context& context, voice::Voice& voice, Selection& selection);
 
  private:
   void connectMainScreen();
@@ -17,7 +18,8 @@ class Ambience {
   void startWholeLibrary();
   void leaveLibrary();
 
-  voice::Toolbox tools_;
+  context::Context context_;
+  voice::Voice& voice_;
   forms::MainForm& main_;
   forms::EnrUneAnnonce& form_;
   Selection& selection_;

@@ -1,13 +1,13 @@
 // Advice for a rider whose microphone does not record.
 #pragma once
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace capture {
 
 class InfoPanel {
  public:
-  explicit InfoPanel(const voice::Toolbox& tools) : form_(tools.screens.announcements) {
+  explicit InfoPanel(const context::Context& context) : form_(context.screens.announcements) {
     for (platform::Image* image : {&form_.Image1, &form_.Image5}) {
       image->click.handle([this] {
         form_.MyFrame4.left = 0;
@@ -15,7 +15,7 @@ class InfoPanel {
       });
     }
     form_.MyButton3.click.handle([this] { form_.MyFrame4.visible = false; });
-    form_.MyButton14.click.handle([&shell = tools.outside.shell] { shell.openSoundSettings(); });
+    form_.MyButton14.click.handle([&shell = context.outside.shell] { shell.openSoundSettings(); });
   }
 
  private:

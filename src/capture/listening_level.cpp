@@ -18,8 +18,8 @@ constexpr std::array<std::array<std::uint32_t, 5>, 7> levels{{
 
 }  // namespace
 
-ListeningLevel::ListeningLevel(const voice::Toolbox& tools)
-    : form_(tools.screens.announcements), output_(tools.outside.level) {
+ListeningLevel::ListeningLevel(const context::Context& context)
+    : form_(context.screens.announcements), output_(context.outside.level) {
   form_.VScroll1.change.handle(
       [this] { form_.MyFrame2.caption = "Volume " + std::to_string(form_.VScroll1.value - 1); });
   form_.VScroll1.scroll.handle([this] { movedByHand(); });

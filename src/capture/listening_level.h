@@ -1,7 +1,7 @@
 // How loud the rider hears the program: the bar, the balance, and the fades.
 #pragma once
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace capture {
 
@@ -9,7 +9,7 @@ inline constexpr int usualListeningLevel = 7;
 
 class ListeningLevel {
  public:
-  explicit ListeningLevel(const voice::Toolbox& tools);
+  explicit ListeningLevel(const context::Context& context);
 
   void makeReady();
 

@@ -4,8 +4,8 @@
 
 namespace capture {
 
-MusicDeletion::MusicDeletion(const voice::Toolbox& tools, SelectionList& list, Selection& selection)
-    : tools_(tools), form_(tools.screens.announcements), list_(list), selection_(selection) {
+MusicDeletion::MusicDeletion(const context::Context& context, SelectionList& list, Selection& selection)
+    : context_(context), form_(context.screens.announcements), list_(list), selection_(selection) {
   form_.mnsupprim.click.handle([this] { removeFromList(); });
   form_.mnsupDef.click.handle([this] { deletePiece(); });
   form_.mnSupTotBiblioth.click.handle([this] { deleteAll(); });
@@ -36,15 +36,15 @@ void MusicDeletion::deletePiece() {
   removeFromList();
   form_.File1.refresh();
   const std::string path = list_.pathOf(nomMusique_);
-  if (!tools_.outside.files.exists(path)) return;
-  tools_.outside.files.remove(path);
+  if (!context_.outside.files.exists(path)) return;
+  context_.outside.files.remove(path);
   list_.readLibrary();
 }
 
 void MusicDeletion::deleteAll() {
   form_.Label6.caption = noMusicChosen;
   form_.File1.refresh();
-  for (const std::string& name : form_.File1.lines()) tools_.outside.files.remove(list_.pathOf(name));
+  for (const std::string& name : form_.File1.lines()) context_.outside.files.remove(list_.pathOf(name));
   form_.ListView1.clearRows();
   list_.readLibrary();
   form_.MyButton11.click();

@@ -9,14 +9,14 @@ namespace capture {
 
 class MusicDeletion {
  public:
-  MusicDeletion(const voice::Toolbox& tools, SelectionList& list, Selection& selection);
+  MusicDeletion(const context::Context& context, SelectionList& list, Selection& selection);
 
  private:
   void removeFromList();
   void deletePiece();
   void deleteAll();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::EnrUneAnnonce& form_;
   SelectionList& list_;
   Selection& selection_;

@@ -4,10 +4,10 @@
 
 namespace capture {
 
-MusicImport::MusicImport(const voice::Toolbox& tools, SelectionList& list, Selection& selection,
+MusicImport::MusicImport(const context::Context& context, SelectionList& list, Selection& selection,
                          std::string documentsFolder)
-    : tools_(tools),
-      form_(tools.screens.announcements),
+    : context_(context),
+      form_(context.screens.announcements),
       list_(list),
       selection_(selection),
       documentsFolder_(std::move(documentsFolder)) {
@@ -17,7 +17,7 @@ MusicImport::MusicImport(const voice::Toolbox& tools, SelectionList& list, Selec
 
 void MusicImport::importer() {
   form_.MyButton13.click();
-  const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+  const std::vector<std::string> chosen = context_.outside.dialogs.chooseFiles(
       {platform::FilePurpose::OpenSeveral, "Importer une Musique", documentsFolder_,
        "Fichiers (Musiques) mp3|*.mp3|Musiques wma|*.wma", ""});
   if (chosen.empty()) return;
@@ -43,7 +43,7 @@ void MusicImport::copyAll(const std::vector<std::string>& chosen) {
     const std::string& from = chosen[copied_];
     const std::string name = from.substr(from.rfind('/') + 1);
     const std::string to = list_.pathOf(name);
-    if (!tools_.outside.files.exists(to)) {
+    if (!context_.outside.files.exists(to)) {
       try {
         copyOne(from, to, name);
       } catch (const platform::Fault& fault) {  // the others may go well
@@ -52,7 +52,7 @@ void MusicImport::copyAll(const std::vector<std::string>& chosen) {
       }
       continue;
     }
-    tools_.outside.dialogs.message(
+    context_.outside.dialogs.message(
         {platform::MessageKind::Information, platform::MessageButtons::Ok, "Impossible de copier...",
          "Cette Musique (" + name + ") est déjà présente dans votre Bibliothèque..."});
   }
@@ -64,10 +64,10 @@ void MusicImport::copyOne(const std::string& from, const std::string& to, const 
   const auto show = [this](std::uint64_t done, std::uint64_t total) {
     const std::uint64_t part = total == 0 ? 100 : done * 100 / total;
     form_.ProgressBar1.value = static_cast<int>((copied_ * 100 + part) / nbFichiersChoisis_);
-    tools_.loop.serveEvents();
-    return !givenUp_ && !tools_.loop.quitting();
+    context_.loop.serveEvents();
+    return !givenUp_ && !context_.loop.quitting();
   };
-  if (show(0, 1)) platform::copyFile(tools_.outside.files, from, to, show);
+  if (show(0, 1)) platform::copyFile(context_.outside.files, from, to, show);
 }
 
 }  // namespace capture

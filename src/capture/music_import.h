@@ -10,7 +10,7 @@ namespace capture {
 
 class MusicImport {
  public:
-  MusicImport(const voice::Toolbox& tools, SelectionList& list, Selection& selection,
+  MusicImport(const context::Context& context, SelectionList& list, Selection& selection,
               std::string documentsFolder);
 
  private:
@@ -19,7 +19,7 @@ class MusicImport {
   void copyOne(const std::string& from, const std::string& to, const std::string& name);
   void rebuild();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::EnrUneAnnonce& form_;
   SelectionList& list_;
   Selection& selection_;

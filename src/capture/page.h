@@ -20,12 +20,12 @@ namespace capture {
 
 class Page {
  public:
-  Page(const voice::Toolbox& tools, std::string documentsFolder);
+  Page(const context::Context& context, voice::Voice& voice, std::string documentsFolder);
 
  private:
   void load();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::EnrUneAnnonce& form_;
   Selection selection_;
   SelectionList list_;

@@ -35,7 +35,8 @@ std::string statusOf(const std::string& mode) {
 
 }  // namespace
 
-Recorder::Recorder(const voice::Toolbox& tools) : tools_(tools), form_(tools.screens.announcements) {
+Recorder::Recorder(const context::Context& context, voice::Voice& voice)
+    : context_(context), voice_(voice), form_(context.screens.announcements) {
   form_.Command2.click.handle([this] { recordVoice(); });
   form_.MyButton10.click.handle([this] { recordOverMusic(); });
   form_.Command3.click.handle([this] { stop(); });
@@ -82,7 +83,7 @@ void Recorder::leave() {
   form_.Command2.enabled = true;
   rest();
   form_.hide();
-  tools_.screens.main.show();
+  context_.screens.main.show();
 }
 
 void Recorder::recordVoice() {
@@ -111,7 +112,7 @@ void Recorder::demarrerCapture() {
   form_.Command1.enabled = false;
   form_.Command3.enabled = true;
   form_.Timer3.enabled = true;
-  heureDebut_ = tools_.loop.clock().now();
+  heureDebut_ = context_.loop.clock().now();
   for (const char* command : startCommands) send(command);
   ecouteApresArret_ = "oui";
 }
@@ -124,7 +125,7 @@ void Recorder::watch() {
 }
 
 void Recorder::keepLimit() {
-  const auto seconds = std::chrono::floor<std::chrono::seconds>(tools_.loop.clock().now() - heureDebut_);
+  const auto seconds = std::chrono::floor<std::chrono::seconds>(context_.loop.clock().now() - heureDebut_);
   const auto n = seconds.count();
   form_.Label14.caption = "Durée de l'Annonce (" + (n == 0 ? "" : std::to_string(n)) + " secondes)";
   if (n < longestTake) return;
@@ -134,7 +135,7 @@ void Recorder::keepLimit() {
 
 bool Recorder::takeOutlastsWait() {
   const unsigned take = take_;
-  tools_.voice.attendre(1);
+  voice_.attendre(1);
   return take == take_;
 }
 

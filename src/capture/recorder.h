@@ -3,14 +3,15 @@
 
 #include <string>
 
+#include "context/context.h"
 #include "platform/clock.h"
-#include "voice/toolbox.h"
+#include "voice/voice.h"
 
 namespace capture {
 
 class Recorder {
  public:
-  explicit Recorder(const voice::Toolbox& tools);
+  Recorder(const context::Context& context, voice::Voice& voice);
 
   // No take, nothing running: as the page is loaded.
   void makeReady();
@@ -30,9 +31,10 @@ class Recorder {
   void listen();
   void countListening();
   [[nodiscard]] bool listening() const;
-  std::string send(const std::string& command) { return tools_.outside.media.send(command); }
+  std::string send(const std::string& command) { return context_.outside.media.send(command); }
 
-  voice::Toolbox tools_;
+  context::Context context_;
+  voice::Voice& voice_;
   forms::EnrUneAnnonce& form_;
   int secondesEnregistrees_ = 0;  // since the last press of Command2
   int secondesEcoutees_ = 0;      // since listening began

@@ -2,8 +2,8 @@
 
 namespace capture {
 
-SelectionList::SelectionList(const voice::Toolbox& tools, Selection& selection)
-    : tools_(tools), form_(tools.screens.announcements), list_(form_.ListView1), selection_(selection) {
+SelectionList::SelectionList(const context::Context& context, Selection& selection)
+    : context_(context), form_(context.screens.announcements), list_(form_.ListView1), selection_(selection) {
   form_.Command8.click.handle([this] { ouvrir(); });
   form_.MyButton11.click.handle([this] { fermer(); });
   form_.MyButton13.click.handle([this] {
@@ -17,7 +17,7 @@ SelectionList::SelectionList(const voice::Toolbox& tools, Selection& selection)
 }
 
 std::string SelectionList::pathOf(const std::string& name) const {
-  return tools_.state.dossierProgramme + "ambiances/" + name;
+  return context_.state.dossierProgramme + "ambiances/" + name;
 }
 
 void SelectionList::readLibrary() {

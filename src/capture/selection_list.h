@@ -4,13 +4,13 @@
 #include <string>
 
 #include "capture/selection.h"
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace capture {
 
 class SelectionList {
  public:
-  SelectionList(const voice::Toolbox& tools, Selection& selection);
+  SelectionList(const context::Context& context, Selection& selection);
 
   // Reads the library's folder again.
   void readLibrary();
@@ -31,7 +31,7 @@ class SelectionList {
   // Counts the ticks into the selection: 0 none, 1 all, 2 some.
   int recount();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::EnrUneAnnonce& form_;
   platform::Grid& list_;
   Selection& selection_;

@@ -24,8 +24,8 @@ void fitName(forms::EnrUneAnnonce& form, const std::string& name) {
   form.Label6.size = form.Label26.size;
 }
 
-SelectionPlayer::SelectionPlayer(const voice::Toolbox& tools, SelectionList& list, Selection& selection)
-    : tools_(tools), form_(tools.screens.announcements), list_(list), selection_(selection) {
+SelectionPlayer::SelectionPlayer(const context::Context& context, SelectionList& list, Selection& selection)
+    : context_(context), form_(context.screens.announcements), list_(list), selection_(selection) {
   form_.Label23.width = nameWidth;
   form_.MyButton12.click.handle([this] { demarrer(); });
   form_.Timer4.tick.handle([this] { watch(); });
@@ -33,14 +33,14 @@ SelectionPlayer::SelectionPlayer(const voice::Toolbox& tools, SelectionList& lis
 }
 
 void SelectionPlayer::demarrer() {
-  tools_.state.selectionEnCours = "oui";
+  context_.state.selectionEnCours = "oui";
   selection_.listeChargee = "";
   selection_.nbMusiquesJouees = 0;
   form_.Timer4.enabled = true;
   selection_.prochaineMusique = 1;
   musiqueSuivante();
-  tools_.screens.main.MyButton19.visible = false;
-  tools_.screens.main.MyButton21.visible = true;
+  context_.screens.main.MyButton19.visible = false;
+  context_.screens.main.MyButton21.visible = true;
 }
 
 int SelectionPlayer::tickedFrom(int row) const {
@@ -67,8 +67,8 @@ void SelectionPlayer::musiqueSuivante() {
 
 // The player does it in an event of its own, once this handler is through.
 void SelectionPlayer::play(const std::string& name) {
-  tools_.screens.player.Text1.text = list_.pathOf(name);
-  tools_.screens.player.Timer2.enabled = true;
+  context_.screens.player.Text1.text = list_.pathOf(name);
+  context_.screens.player.Timer2.enabled = true;
   form_.Label6.caption = name;
   form_.Label23.caption = name;
   fitName(form_, name);
@@ -86,7 +86,7 @@ void SelectionPlayer::watch() {
   if (chosen) {
     form_.Label6.visible = true;
     // The player holds the position at the end of a piece, so that a look each second finds it there.
-    if (form_.Label5.caption == tools_.state.dureeMusique) musiqueSuivante();
+    if (form_.Label5.caption == context_.state.dureeMusique) musiqueSuivante();
   }
   if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) form_.Command13.enabled = false;
 }
@@ -94,11 +94,11 @@ void SelectionPlayer::watch() {
 void SelectionPlayer::ecouter() {
   const int row = form_.ListView1.selectedRow();
   if (row == 0) return;
-  tools_.state.selectionEnCours = "";
+  context_.state.selectionEnCours = "";
   const std::string& name = form_.ListView1.text(row, 1);
-  if (!tools_.outside.files.exists(list_.pathOf(name))) {
-    tools_.outside.dialogs.message({platform::MessageKind::Information, platform::MessageButtons::Ok,
-                                    "Musique Introuvable...", "Cette Musique a été Supprimée..."});
+  if (!context_.outside.files.exists(list_.pathOf(name))) {
+    context_.outside.dialogs.message({platform::MessageKind::Information, platform::MessageButtons::Ok,
+                                      "Musique Introuvable...", "Cette Musique a été Supprimée..."});
     return;
   }
   play(name);

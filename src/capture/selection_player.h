@@ -9,7 +9,7 @@ namespace capture {
 
 class SelectionPlayer {
  public:
-  SelectionPlayer(const voice::Toolbox& tools, SelectionList& list, Selection& selection);
+  SelectionPlayer(const context::Context& context, SelectionList& list, Selection& selection);
 
  private:
   void demarrer();
@@ -19,7 +19,7 @@ class SelectionPlayer {
   void play(const std::string& name);
   [[nodiscard]] int tickedFrom(int row) const;
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::EnrUneAnnonce& form_;
   SelectionList& list_;
   Selection& selection_;

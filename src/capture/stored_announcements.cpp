@@ -29,8 +29,8 @@ const std::string alias = aliasVideo;
 
 }  // namespace
 
-StoredAnnouncements::StoredAnnouncements(const voice::Toolbox& tools)
-    : tools_(tools), form_(tools.screens.announcements) {
+StoredAnnouncements::StoredAnnouncements(const context::Context& context)
+    : context_(context), form_(context.screens.announcements) {
   form_.Command6.click.handle([this] { ouvrir(); });
   form_.Command7.click.handle([this] { play(); });
   form_.Command15.click.handle([this] { pause(); });
@@ -48,16 +48,16 @@ void StoredAnnouncements::makeReady() {
 }
 
 void StoredAnnouncements::ouvrir() {
-  const std::vector<std::string> chosen =
-      tools_.outside.dialogs.chooseFiles({platform::FilePurpose::Open, "Ouvrir", tools_.state.dossierAnnonces,
-                                          "Annonces Enregistrées |*.wav|Musiques mp3|*.mp3", ""});
+  const std::vector<std::string> chosen = context_.outside.dialogs.chooseFiles(
+      {platform::FilePurpose::Open, "Ouvrir", context_.state.dossierAnnonces,
+       "Annonces Enregistrées |*.wav|Musiques mp3|*.mp3", ""});
   if (chosen.empty() || chosen.front().empty()) return;
   const std::string& path = chosen.front();
   const std::string name = path.substr(path.rfind('/') + 1);
   form_.Label15.caption = path;
   const std::size_t characters = platform::length(name);
   form_.Label9.caption = "(" + platform::left(name, characters < 4 ? 0 : characters - 4) + ")";
-  if (tools_.outside.files.exists(path)) {
+  if (context_.outside.files.exists(path)) {
     send("stop " + alias);
     send("close " + alias);
     if (!lireAnnonce()) tellWhyNot(path);
@@ -72,7 +72,7 @@ void StoredAnnouncements::tellWhyNot(const std::string& path) {
   std::string title = "ERR #75";
   std::string text;
   try {
-    tools_.outside.files.open(path, platform::OpenMode::Read);
+    context_.outside.files.open(path, platform::OpenMode::Read);
     title = "Erreur de Format ou Fichier Endommagé...";
     text = platform::FileFault("de lire", path, "ce n'est pas un son connu").what() +
            std::string(
@@ -81,13 +81,13 @@ void StoredAnnouncements::tellWhyNot(const std::string& path) {
   } catch (const platform::Fault& fault) {
     text = fault.what();
   }
-  tools_.outside.dialogs.message(
+  context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, title, text});
 }
 
 bool StoredAnnouncements::lireAnnonce() {
   send("open MPEGVideo!" + form_.Label15.caption.get() + " alias " + alias + " parent 0 Style 1073741824");
-  tools_.loop.serveEvents();
+  context_.loop.serveEvents();
   send("play " + alias + " from 0");
   send("set " + alias + " time format milliseconds");
   const std::string length = send("status " + alias + " length");
@@ -144,7 +144,7 @@ void StoredAnnouncements::destroy() {
   enable({&form_.Command7, &form_.Command14, &form_.MyButton8}, false);
   const std::string annonceADetruire = form_.Label15.caption;
   platform::eachOnItsOwn([&] {
-    if (tools_.outside.files.exists(annonceADetruire)) tools_.outside.files.remove(annonceADetruire);
+    if (context_.outside.files.exists(annonceADetruire)) context_.outside.files.remove(annonceADetruire);
   });
   form_.Label16.caption = "0";
   form_.Label17.caption = "0";

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace capture {
 
@@ -12,7 +12,7 @@ inline constexpr const char* aliasVideo = "video001";
 
 class StoredAnnouncements {
  public:
-  explicit StoredAnnouncements(const voice::Toolbox& tools);
+  explicit StoredAnnouncements(const context::Context& context);
 
   // Nothing opened: as the page is loaded.
   void makeReady();
@@ -27,9 +27,9 @@ class StoredAnnouncements {
   void stop();
   void replay();
   void destroy();
-  std::string send(const std::string& command) { return tools_.outside.media.send(command); }
+  std::string send(const std::string& command) { return context_.outside.media.send(command); }
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::EnrUneAnnonce& form_;
 };
 

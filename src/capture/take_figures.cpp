@@ -16,8 +16,8 @@ std::string megabytes(double value) {
 
 }  // namespace
 
-TakeFigures::TakeFigures(const voice::Toolbox& tools)
-    : form_(tools.screens.announcements), media_(tools.outside.media) {
+TakeFigures::TakeFigures(const context::Context& context)
+    : form_(context.screens.announcements), media_(context.outside.media) {
   form_.Command5.click.handle([this] { show(); });
 }
 

@@ -1,13 +1,13 @@
 // The figures of the take: its length, its size, its format.
 #pragma once
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace capture {
 
 class TakeFigures {
  public:
-  explicit TakeFigures(const voice::Toolbox& tools);
+  explicit TakeFigures(const context::Context& context);
 
  private:
   void show();

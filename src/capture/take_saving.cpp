@@ -15,13 +15,14 @@ std::string twoDigits(long value) {
 
 }  // namespace
 
-TakeSaving::TakeSaving(const voice::Toolbox& tools) : tools_(tools), form_(tools.screens.announcements) {
+TakeSaving::TakeSaving(const context::Context& context)
+    : context_(context), form_(context.screens.announcements) {
   form_.Command1.click.handle([this] { save(); });
 }
 
 // "Annonce du 16 11 26 à 20 31 05"
 std::string TakeSaving::proposedName() const {
-  const platform::LocalTime now = tools_.loop.clock().localTime();
+  const platform::LocalTime now = context_.loop.clock().localTime();
   const auto midnight = std::chrono::floor<std::chrono::days>(now);
   const std::chrono::year_month_day day{midnight};
   const std::chrono::hh_mm_ss time{now - midnight};
@@ -32,21 +33,21 @@ std::string TakeSaving::proposedName() const {
 }
 
 std::string TakeSaving::pathOf(const std::string& name) const {
-  return tools_.state.dossierAnnonces + name + std::string(extension);
+  return context_.state.dossierAnnonces + name + std::string(extension);
 }
 
 std::optional<std::string> TakeSaving::askName() {
   for (;;) {
-    const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
-        {platform::FilePurpose::Save, "Enregistrer sous", tools_.state.dossierAnnonces, "Fichiers wav |*.wav",
-         proposedName()});
+    const std::vector<std::string> chosen = context_.outside.dialogs.chooseFiles(
+        {platform::FilePurpose::Save, "Enregistrer sous", context_.state.dossierAnnonces,
+         "Fichiers wav |*.wav", proposedName()});
     if (chosen.empty() || !chosen.front().ends_with(extension)) return std::nullopt;
     std::string name = chosen.front().substr(chosen.front().rfind('/') + 1);
     name.resize(name.size() - extension.size());
     if (name.empty()) return std::nullopt;
     // It lands among the announcements wherever the rider went, so that is where it may replace one.
-    if (!tools_.outside.files.exists(pathOf(name))) return name;
-    const platform::Answer answer = tools_.outside.dialogs.message(
+    if (!context_.outside.files.exists(pathOf(name))) return name;
+    const platform::Answer answer = context_.outside.dialogs.message(
         {platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,
          "Contrôle Existance Fichier...",
          "Cette Annonce (" + name +
@@ -58,13 +59,13 @@ std::optional<std::string> TakeSaving::askName() {
 
 // The recorder does not tell whether it saved: its scratch file does, once the one before is out of the way.
 bool TakeSaving::write(const std::string& name) {
-  const std::string& folder = tools_.state.dossierAnnonces;
-  platform::FileSystem& files = tools_.outside.files;
+  const std::string& folder = context_.state.dossierAnnonces;
+  platform::FileSystem& files = context_.outside.files;
   bool written = false;
   platform::eachOnItsOwn([&] {
     if (files.exists(folder + "tma")) files.remove(folder + "tma");
-    tools_.outside.media.workIn(folder);
-    tools_.outside.media.send("save capture tma");
+    context_.outside.media.workIn(folder);
+    context_.outside.media.send("save capture tma");
     written = platform::copyFile(files, folder + "tma", pathOf(name));
   });
   return written;

@@ -4,13 +4,13 @@
 #include <optional>
 #include <string>
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace capture {
 
 class TakeSaving {
  public:
-  explicit TakeSaving(const voice::Toolbox& tools);
+  explicit TakeSaving(const context::Context& context);
 
  private:
   void save();
@@ -21,7 +21,7 @@ class TakeSaving {
   [[nodiscard]] std::string proposedName() const;
   [[nodiscard]] std::string pathOf(const std::string& name) const;
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::EnrUneAnnonce& form_;
 };
 

@@ -5,8 +5,8 @@
 
 namespace capture {
 
-Transport::Transport(const voice::Toolbox& tools)
-    : form_(tools.screens.announcements), player_(tools.screens.player), volume_(tools.screens.volume) {
+Transport::Transport(const context::Context& context)
+    : form_(context.screens.announcements), player_(context.screens.player), volume_(context.screens.volume) {
   form_.Command10.click.handle([this] { lire(); });
   form_.Command9.click.handle([this] {
     form_.Command9.enabled = false;

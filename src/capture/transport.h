@@ -1,13 +1,13 @@
 // The library's own play, pause, stop, previous and next, and the music's volume: orders to the player.
 #pragma once
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace capture {
 
 class Transport {
  public:
-  explicit Transport(const voice::Toolbox& tools);
+  explicit Transport(const context::Context& context);
 
  private:
   void lire();

@@ -105,8 +105,10 @@ void printVisible(std::ostream& out, const platform::Form& form, const platform:
 
 void printPlan(std::ostream& out, const model::SharedState& state) {
   out << state.nbSequences << '\t' << state.nbSeances << '\n';
-  const int rows = std::min(state.nbSequences, static_cast<int>(state.plan.planDuree.size()) - 1);
-  for (int row = 1; row <= rows; ++row) out << joined(state.plan.row(row)) << '\n';
+  const int rows = std::min(state.nbSequences, static_cast<int>(state.plan.rows.size()) - 1);
+  for (std::size_t row = 1; row <= static_cast<std::size_t>(rows); ++row) {
+    out << joined(state.plan.rows[row].texts()) << '\n';
+  }
 }
 
 std::string variable(const model::SharedState& state, const std::string& name) {

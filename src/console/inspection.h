@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/screens.h"
-#include "model/shared_state.h"
+#include "model/training_model.h"
 #include "platform/menu.h"
 
 namespace console {

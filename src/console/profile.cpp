@@ -20,10 +20,11 @@ struct Step {
 std::vector<Step> stepsOf(const model::RunPlan& plan, int rows) {
   std::vector<Step> steps;
   int elapsed = 0;
-  for (std::size_t row = 1; row <= static_cast<std::size_t>(rows); ++row) {
-    elapsed += model::parseSeconds(plan.planDuree[row]).value_or(0);
-    const auto family = model::effortFamily(plan.planSequence[row]);
-    steps.push_back({elapsed, static_cast<int>(model::effortHeight(family, plan.planFreqCard[row]))});
+  for (int number = 1; number <= rows; ++number) {
+    const model::PlanRow& row = plan.rows[static_cast<std::size_t>(number)];
+    elapsed += model::parseSeconds(row.planDuree).value_or(0);
+    const auto family = model::effortFamily(row.planSequence);
+    steps.push_back({elapsed, static_cast<int>(model::effortHeight(family, row.planFreqCard))});
   }
   return steps;
 }
@@ -36,7 +37,7 @@ const char* blockFor(int percent) {
 }  // namespace
 
 Profile profileOf(const model::SharedState& state, int width) {
-  const int rows = std::min(state.nbSequences, static_cast<int>(state.plan.planDuree.size()) - 1);
+  const int rows = std::min(state.nbSequences, static_cast<int>(state.plan.rows.size()) - 1);
   const std::vector<Step> steps = stepsOf(state.plan, rows);
   Profile profile;
   if (steps.empty() || steps.back().ends == 0 || width < 1) return profile;
@@ -47,8 +48,8 @@ Profile profileOf(const model::SharedState& state, int width) {
     while (step + 1 != steps.end() && step->ends <= middle) ++step;
     profile.blocks += blockFor(step->height);
   }
-  if (state.sequenceCourante < 1 || state.sequenceCourante > rows) return profile;
-  const auto current = static_cast<std::size_t>(state.sequenceCourante);
+  if (state.plan.sequenceCourante < 1 || state.plan.sequenceCourante > rows) return profile;
+  const auto current = static_cast<std::size_t>(state.plan.sequenceCourante);
   const double before = current == 1 ? 0 : steps[current - 2].ends;
   const double ridden = before + state.ecouleSequence * secondsADay;
   profile.place = std::clamp(static_cast<int>(ridden / total * width), 0, width - 1);

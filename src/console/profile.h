@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "model/shared_state.h"
+#include "model/training_model.h"
 
 namespace console {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "console/profile.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace console {
@@ -21,9 +21,9 @@ void append(std::string& line, const std::string& words) {
 
 // The target as the plan holds it: beats and percentage, however the ride shows them.
 std::string targetOf(const model::SharedState& state) {
-  const auto row = static_cast<std::size_t>(state.sequenceCourante);
-  if (row >= state.plan.planFreqCard.size()) return {};
-  const std::string& target = state.plan.planFreqCard[row];
+  const auto row = static_cast<std::size_t>(state.plan.sequenceCourante);
+  if (row >= state.plan.rows.size()) return {};
+  const std::string& target = state.plan.rows[row].planFreqCard;
   return target == model::noTarget || target.starts_with("--") ? std::string() : target;
 }
 
@@ -33,7 +33,7 @@ void append(std::string& line, const char* name, const std::string& value) {
 }
 
 bool riding(const model::SharedState& state) {
-  return state.sequenceCourante > 0;
+  return state.plan.sequenceCourante > 0;
 }
 
 std::string presentLine(const forms::MainForm& form, const model::SharedState& state) {
@@ -82,7 +82,7 @@ void RideScreen::say(const std::string& line) {
 
 void RideScreen::show(const forms::MainForm& form, const model::SharedState& state) {
   const std::string sequence =
-      riding(state) ? std::to_string(state.seanceCourante) + "/" + std::to_string(state.sequenceCourante)
+      riding(state) ? std::to_string(state.seanceCourante) + "/" + std::to_string(state.plan.sequenceCourante)
                     : std::string();
   if (!terminal_.canRedraw()) {
     // Until its first second has passed, the fields still show the sequence before.

@@ -8,7 +8,7 @@
 
 #include "console/terminal.h"
 #include "forms/main_form.h"
-#include "model/shared_state.h"
+#include "model/training_model.h"
 
 namespace console {
 

@@ -10,7 +10,7 @@
 
 #include "desktop/binder.h"
 #include "forms/enr_une_annonce.h"
-#include "model/shared_state.h"
+#include "model/training_model.h"
 
 namespace Ui {
 class EnrUneAnnonce;

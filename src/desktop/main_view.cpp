@@ -7,7 +7,7 @@
 #include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "desktop/theme.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "ui_main_form.h"
 
 namespace desktop {
@@ -125,22 +125,22 @@ void MainView::refreshCards() {
 }
 
 int MainView::nextRow() const {
-  if (state_.sequenceCourante < state_.nbSequences) return state_.sequenceCourante + 1;
+  if (state_.plan.sequenceCourante < state_.nbSequences) return state_.plan.sequenceCourante + 1;
   return state_.seanceCourante < state_.nbSeances ? 1 : 0;
 }
 
-QString MainView::describe(int row) const {
-  const model::RunPlan& plan = state_.plan;
-  const QString kind = toQt(plan.planSequence[at(row)]).toHtmlEscaped();
+QString MainView::describe(int number) const {
+  const model::PlanRow& row = state_.plan.rows[at(number)];
+  const QString kind = toQt(row.planSequence).toHtmlEscaped();
   QStringList facts{QStringLiteral("<span style=\"color:%1;font-weight:700\">%2</span>")
                         .arg(QGuiApplication::palette().color(role::text).name(), kind)};
-  if (plan.planSequence[at(row)] != model::vocalAnnouncement) {
-    facts << toQt(plan.planDuree[at(row)]).toHtmlEscaped();
-    if (says(plan.planCadence[at(row)])) {
-      facts << toQt(plan.planCadence[at(row)]).toHtmlEscaped() + QStringLiteral(" tr/min");
+  if (row.planSequence != model::vocalAnnouncement) {
+    facts << toQt(row.planDuree).toHtmlEscaped();
+    if (says(row.planCadence)) {
+      facts << toQt(row.planCadence).toHtmlEscaped() + QStringLiteral(" tr/min");
     }
     QStringList gears;
-    for (const std::string& gear : {plan.planPlateau[at(row)], plan.planBraquet[at(row)]}) {
+    for (const std::string& gear : {row.planPlateau, row.planBraquet}) {
       if (says(gear)) gears << toQt(gear).toHtmlEscaped();
     }
     if (!gears.isEmpty()) facts << gears.join(QStringLiteral(" × "));
@@ -150,15 +150,15 @@ QString MainView::describe(int row) const {
 
 void MainView::refreshProfile() {
   std::vector<ProfileStep> steps;
-  const bool planned = state_.nbSequences > 0 && at(state_.nbSequences) < state_.plan.planSequence.size();
-  for (int row = 1; planned && row <= state_.nbSequences; ++row) {
-    steps.push_back({state_.plan.planSequence[at(row)],
-                     model::parseSeconds(state_.plan.planDuree[at(row)]).value_or(0),
-                     state_.plan.planFreqCard[at(row)], row});
+  const bool planned = state_.nbSequences > 0 && at(state_.nbSequences) < state_.plan.rows.size();
+  for (int number = 1; planned && number <= state_.nbSequences; ++number) {
+    const model::PlanRow& row = state_.plan.rows[at(number)];
+    steps.push_back(
+        {row.planSequence, model::parseSeconds(row.planDuree).value_or(0), row.planFreqCard, number});
   }
   ui_->countdownProfile->setSteps(steps);
   ui_->rideProfile->setSteps(std::move(steps));
-  ui_->rideProfile->setPlace(state_.sequenceCourante - 1, state_.ecouleSequence * 86400);
+  ui_->rideProfile->setPlace(state_.plan.sequenceCourante - 1, state_.ecouleSequence * 86400);
   ui_->rideProfile->setVisible(planned);
   ui_->countdownProfile->setVisible(planned);
 
@@ -166,7 +166,7 @@ void MainView::refreshProfile() {
   ui_->nextWord->setVisible(next > 0);
   ui_->nextWord->setText(next > 0 ? QStringLiteral("Ensuite :") : QString());
   ui_->nextChip->setVisible(next > 0);
-  if (next > 0) ui_->nextChip->show(model::effortFamily(state_.plan.planSequence[at(next)]));
+  if (next > 0) ui_->nextChip->show(model::effortFamily(state_.plan.rows[at(next)].planSequence));
   ui_->nextText->setText(next > 0 ? describe(next) : QString());
 }
 

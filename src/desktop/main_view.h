@@ -10,7 +10,7 @@
 
 #include "desktop/effort_views.h"
 #include "forms/main_form.h"
-#include "model/shared_state.h"
+#include "model/training_model.h"
 
 namespace Ui {
 class MainForm;
@@ -33,8 +33,8 @@ class MainView final : public QObject {
   void refreshCards();
   void refreshProfile();
   void refreshCountdown();
-  [[nodiscard]] bool riding() const { return state_.sequenceCourante > 0; }
-  [[nodiscard]] QString describe(int row) const;
+  [[nodiscard]] bool riding() const { return state_.plan.sequenceCourante > 0; }
+  [[nodiscard]] QString describe(int number) const;
   [[nodiscard]] int nextRow() const;
 
   forms::MainForm& form_;

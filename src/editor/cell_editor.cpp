@@ -6,11 +6,12 @@
 #include "editor/cell_texts.h"
 #include "editor/layout.h"
 #include "editor/row_rules.h"
+#include "forms/lect_mci_words.h"
 #include "forms/music_buttons.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/time_value.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace editor {
@@ -24,8 +25,8 @@ const platform::Colour deletionColour = platform::Colour::rgb(0, 0, 128);
 
 }  // namespace
 
-CellEditor::CellEditor(const voice::Toolbox& tools, heartrate::Calculator& calculator)
-    : tools_(tools), calculator_(calculator), form_(tools.screens.editor), grid_(form_.ListView1) {
+CellEditor::CellEditor(const context::Context& context, heartrate::Calculator& calculator)
+    : context_(context), calculator_(calculator), form_(context.screens.editor), grid_(form_.ListView1) {
   grid_.click.handle([this] { cliquerCellule(); });
   grid_.pressed.handle([this](platform::MouseButton button) { presserCellule(button); });
   grid_.pointerMoved.handle([this] { movePointer(); });
@@ -63,9 +64,9 @@ void CellEditor::cliquerCellule() {
   finishDuration();
   form_.Timer3.enabled = false;
   form_.Timer4.enabled = false;
-  if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
-  forms::showMusicStopped(tools_.screens.main);
-  if (tools_.screens.volume.visible) tools_.screens.volume.unload();
+  if (forms::musicLoaded(context_.screens.player)) context_.screens.player.Timer3.enabled = true;
+  forms::showMusicStopped(context_.screens.main);
+  if (context_.screens.volume.visible) context_.screens.volume.unload();
   colonneEdit_ = colonneCliquee_;
   const int row = grid_.selectedRow();
   ligneEdit_ = row;
@@ -268,7 +269,7 @@ void CellEditor::repeatFirstRow(const std::string& picked) {
   if (applyRepetition(grid_, colonneEdit_, picked)) return;
   form_.Combo1.text = colonneEdit_ == column::times ? "0" : "Non";
   form_.Combo1.visible = false;
-  tools_.outside.dialogs.message(
+  context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Pas assez de Séquences...",
        "Pour Répéter une (Séance), elle doit être composée d'au moins (1 Séquences)...!"});
 }
@@ -334,9 +335,9 @@ void CellEditor::finishDuration() {
 void CellEditor::ecouterAnnonce() {
   const std::string& chosen = form_.Combo1.text;
   if (colonneEdit_ != column::announcement || platform::trim(chosen).empty()) return;
-  if (!tools_.screens.volume.visible) tools_.screens.volume.show();
-  tools_.screens.player.Text1.text = tools_.state.dossierAnnonces + chosen;
-  tools_.screens.player.Timer2.enabled = true;
+  if (!context_.screens.volume.visible) context_.screens.volume.show();
+  context_.screens.player.Text1.text = context_.state.dossierAnnonces + chosen;
+  context_.screens.player.Timer2.enabled = true;
 }
 
 }  // namespace editor

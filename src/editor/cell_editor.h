@@ -3,14 +3,14 @@
 
 #include <string>
 
+#include "context/context.h"
 #include "heartrate/calculator.h"
-#include "voice/toolbox.h"
 
 namespace editor {
 
 class CellEditor {
  public:
-  CellEditor(const voice::Toolbox& tools, heartrate::Calculator& calculator);
+  CellEditor(const context::Context& context, heartrate::Calculator& calculator);
 
   void cliquerCellule();
   void presserCellule(platform::MouseButton button);
@@ -42,7 +42,7 @@ class CellEditor {
   void explainKind(const std::string& picked);
   void repeatFirstRow(const std::string& picked);
 
-  voice::Toolbox tools_;
+  context::Context context_;
   heartrate::Calculator& calculator_;
   forms::CreerCycle& form_;
   platform::Grid& grid_;

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "model/grid_rows.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace editor {

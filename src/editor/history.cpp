@@ -28,16 +28,17 @@ bool changesTexts(platform::GridChange::What what) {
 
 }  // namespace
 
-History::History(const voice::Toolbox& tools)
-    : loop_(tools.loop),
-      form_(tools.screens.editor),
+History::History(const context::Context& context)
+    : loop_(context.loop),
+      form_(context.screens.editor),
       grid_(form_.ListView1),
-      state_(tools.state),
-      captions_{&form_.Label8.caption, &form_.Label9.caption, &tools.screens.main.MyFrame1.caption,
+      state_(context.state),
+      captions_{&form_.Label8.caption, &form_.Label9.caption, &context.screens.main.MyFrame1.caption,
                 &form_.MyButton3.caption, &form_.MyButton4.caption} {
   grid_.watchGrid([this](const platform::GridChange& change) { note(change); });
   for (platform::Component* said : std::initializer_list<platform::Component*>{
-           &form_.Label8, &form_.Label9, &tools.screens.main.MyFrame1, &form_.MyButton3, &form_.MyButton4}) {
+           &form_.Label8, &form_.Label9, &context.screens.main.MyFrame1, &form_.MyButton3,
+           &form_.MyButton4}) {
     said->watch([this](platform::Component&, platform::Prop prop) {
       if (prop != platform::Prop::Caption) return;
       beginStep();

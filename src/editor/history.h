@@ -9,13 +9,13 @@
 #include <string>
 #include <vector>
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace editor {
 
 class History {
  public:
-  explicit History(const voice::Toolbox& tools);
+  explicit History(const context::Context& context);
 
   void undo();
   void redo();

@@ -3,21 +3,22 @@
 #include <algorithm>
 
 #include "editor/layout.h"
+#include "forms/lect_mci_words.h"
 #include "forms/music_buttons.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 
 namespace editor {
 
 namespace column = model::column;
 
-Lines::Lines(const voice::Toolbox& tools)
-    : tools_(tools),
-      form_(tools.screens.editor),
+Lines::Lines(const context::Context& context)
+    : context_(context),
+      form_(context.screens.editor),
       grid_(form_.ListView1),
-      main_(tools.screens.main),
-      state_(tools.state) {
+      main_(context.screens.main),
+      state_(context.state) {
   form_.MyButton2.click.handle([this] { creerSeance(); });
   form_.MyButton3.click.handle([this] { basculerCycle(); });
   form_.MyButton1.click.handle([this] { ajouterSequence(); });
@@ -29,9 +30,9 @@ Lines::Lines(const voice::Toolbox& tools)
 void Lines::preambule() {
   form_.Command1.click();
   dernierClic_ = "onclic";
-  if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
-  forms::showMusicStopped(tools_.screens.main);
-  if (tools_.screens.volume.visible) tools_.screens.volume.unload();
+  if (forms::musicLoaded(context_.screens.player)) context_.screens.player.Timer3.enabled = true;
+  forms::showMusicStopped(context_.screens.main);
+  if (context_.screens.volume.visible) context_.screens.volume.unload();
 }
 
 void Lines::creerSeance() {
@@ -91,7 +92,7 @@ void Lines::viderListe() {
 }
 
 void Lines::refuseUnfinished(const std::string& text, const std::string& title) {
-  tools_.outside.dialogs.message(
+  context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, title, text});
 }
 

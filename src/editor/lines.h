@@ -3,13 +3,13 @@
 
 #include <string>
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace editor {
 
 class Lines {
  public:
-  explicit Lines(const voice::Toolbox& tools);
+  explicit Lines(const context::Context& context);
 
   // What every command begins with: the cell editors go, a preview stops, the volume dialog closes.
   void preambule();
@@ -32,7 +32,7 @@ class Lines {
   void forgetNameForOwnRows();
   void appendBlankRow(const platform::CellLook& look);
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::CreerCycle& form_;
   platform::Grid& grid_;
   forms::MainForm& main_;

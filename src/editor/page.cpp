@@ -3,19 +3,19 @@
 #include <utility>
 
 #include "editor/layout.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 
 namespace editor {
 
-Page::Page(const voice::Toolbox& tools)
-    : tools_(tools),
-      form_(tools.screens.editor),
-      calculator_(tools),
-      lines_(tools),
-      cells_(tools, calculator_),
-      files_(tools, lines_),
-      totals_(tools),
-      history_(tools) {
+Page::Page(const context::Context& context, voice::Voice& voice)
+    : context_(context),
+      form_(context.screens.editor),
+      calculator_(context),
+      lines_(context),
+      cells_(context, calculator_),
+      files_(context, voice, lines_),
+      totals_(context),
+      history_(context) {
   form_.onLoad.handle([this] { open(); });
   form_.MyButton6.click.handle([this] { form_.mnSortir.click(); });
   form_.mnSortir.click.handle([this] { leave(); });
@@ -42,9 +42,9 @@ void Page::open() {
 }
 
 void Page::listFiles() {
-  form_.File1.path = tools_.state.dossierAnnonces;
-  form_.File2.path = tools_.state.dossierSeances;
-  form_.File3.path = tools_.state.dossierProgramme + "Vid/";
+  form_.File1.path = context_.state.dossierAnnonces;
+  form_.File2.path = context_.state.dossierSeances;
+  form_.File3.path = context_.state.dossierProgramme + "Vid/";
   for (const std::string& film : form_.File3.lines()) form_.Combo6.addLine(film);
 }
 
@@ -135,7 +135,7 @@ void Page::toggleListMode() {
 
 void Page::leave() {
   form_.hide();
-  tools_.screens.main.show();
+  context_.screens.main.show();
 }
 
 }  // namespace editor

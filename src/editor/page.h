@@ -1,19 +1,20 @@
 // The editor's page: what it sets up when it opens, its help on hover, its list modes, the way back.
 #pragma once
 
+#include "context/context.h"
 #include "editor/cell_editor.h"
 #include "editor/history.h"
 #include "editor/lines.h"
 #include "editor/session_files.h"
 #include "editor/totals.h"
 #include "heartrate/calculator.h"
-#include "voice/toolbox.h"
+#include "voice/voice.h"
 
 namespace editor {
 
 class Page {
  public:
-  explicit Page(const voice::Toolbox& tools);
+  Page(const context::Context& context, voice::Voice& voice);
 
  private:
   void open();
@@ -23,7 +24,7 @@ class Page {
   void toggleListMode();
   void leave();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::CreerCycle& form_;
   heartrate::Calculator calculator_;
   Lines lines_;

@@ -1,7 +1,7 @@
 #include "editor/row_rules.h"
 
 #include "model/grid_rows.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 
 namespace editor {
 namespace {

@@ -23,12 +23,13 @@ std::string timeOfDay(const platform::Clock& clock) {
 
 }  // namespace
 
-SessionFiles::SessionFiles(const voice::Toolbox& tools, Lines& lines)
-    : tools_(tools),
+SessionFiles::SessionFiles(const context::Context& context, voice::Voice& voice, Lines& lines)
+    : context_(context),
+      voice_(voice),
       lines_(lines),
-      form_(tools.screens.editor),
-      main_(tools.screens.main),
-      state_(tools.state) {
+      form_(context.screens.editor),
+      main_(context.screens.main),
+      state_(context.state) {
   form_.MyButton4.click.handle([this] { addByCaption(); });
   form_.Command5.click.handle([this] {
     form_.Command1.click();
@@ -57,7 +58,7 @@ void SessionFiles::prepareAddition() {
 
 void SessionFiles::ajouterUneSeance() {
   prepareAddition();
-  const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+  const std::vector<std::string> chosen = context_.outside.dialogs.chooseFiles(
       {platform::FilePurpose::Open, "Ouvrir", state_.dossierSeances, sessionFilter, ""});
   if (chosen.empty() || chosen.front().empty()) return;
   add(chosen.front());
@@ -73,9 +74,9 @@ void SessionFiles::add(const std::string& chosen) {
       "Ventoria avec (" + *name + ") (Durée : " + model::formatTime(state_.dureeTotale) + ")";
   const std::optional<std::string> path = presentVersion(chosen);
   if (!path) return;
-  tellMissing(*path, model::ajouterSeance(tools_.outside.files, *path, form_.ListView1));
+  tellMissing(*path, model::ajouterSeance(context_.outside.files, *path, form_.ListView1));
   form_.Timer4.enabled = true;
-  tools_.voice.attendre(1);
+  voice_.attendre(1);
   recalerColonnes(form_);
   form_.Timer4.enabled = false;
 }
@@ -83,7 +84,7 @@ void SessionFiles::add(const std::string& chosen) {
 // A file that was cut short: its blank rows stand in the list, red, to be filled or taken away.
 void SessionFiles::tellMissing(const std::string& path, const model::FoundSequences& sequences) {
   if (sequences.found == sequences.announced) return;
-  tools_.outside.dialogs.message(
+  context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Fichier Incomplet...",
        "Le Fichier (" + path + ") annonce (" + std::to_string(sequences.announced) + ") Séquence(s), mais (" +
            std::to_string(sequences.found) +
@@ -92,9 +93,9 @@ void SessionFiles::tellMissing(const std::string& path, const model::FoundSequen
 }
 
 std::optional<std::string> SessionFiles::presentVersion(std::string path) {
-  while (!model::lireEnTete(tools_.outside.files, path).present()) {
+  while (!model::lireEnTete(context_.outside.files, path).present()) {
     form_.Timer4.enabled = false;
-    const platform::Answer answer = tools_.outside.dialogs.message(
+    const platform::Answer answer = context_.outside.dialogs.message(
         {platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,
          "Fichier non compatible avec cette Version...",
          "Ce fichier est d'une Version Antérieure, il n'est plus compatible avec la Version Actuelle du "
@@ -106,7 +107,7 @@ std::optional<std::string> SessionFiles::presentVersion(std::string path) {
          "Supplémentaires...\n\n"
          "Acceptez-vous la Conversion Oui/Non ?"});
     if (answer != platform::Answer::Ok) return std::nullopt;
-    path = model::convertirAncien(tools_.outside.files, path);
+    path = model::convertirAncien(context_.outside.files, path);
   }
   return path;
 }
@@ -114,9 +115,9 @@ std::optional<std::string> SessionFiles::presentVersion(std::string path) {
 void SessionFiles::enregistrerListe() {
   lines_.preambule();
   if (model::lastRowUnfinished(form_.ListView1)) {
-    tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
-                                    "Données Manquantes...",
-                                    "Vous voulez (Enregistrer), mais une Ligne n'est pas Terminée...!"});
+    context_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
+                                      "Données Manquantes...",
+                                      "Vous voulez (Enregistrer), mais une Ligne n'est pas Terminée...!"});
     return;
   }
   const std::optional<std::string> path = askPath();
@@ -128,20 +129,20 @@ void SessionFiles::enregistrerListe() {
 
 std::optional<std::string> SessionFiles::askPath() {
   for (;;) {
-    const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+    const std::vector<std::string> chosen = context_.outside.dialogs.chooseFiles(
         {platform::FilePurpose::Save, "Enregistrer sous", state_.dossierSeances, sessionFilter,
-         "Séance " + timeOfDay(tools_.loop.clock())});
+         "Séance " + timeOfDay(context_.loop.clock())});
     if (chosen.empty() || chosen.front().empty()) return std::nullopt;
     const std::string& path = chosen.front();
-    if (!tools_.outside.files.exists(path)) return path;
+    if (!context_.outside.files.exists(path)) return path;
     const platform::Answer answer =
-        tools_.outside.dialogs.message({platform::MessageKind::Exclamation,
-                                        platform::MessageButtons::OkCancel, "Contrôle Existance Fichier...",
-                                        "Ce Nom de Séance (" + path +
-                                            ") éxiste Déjà...!\n"
-                                            "Confirmez son Remplacement en Cliquant sur (OK)\n"
-                                            "ou, Changer le Répertoire de Destination...\n"
-                                            "ou, Rebaptisez-le en Cliquant sur (Annuler)...!"});
+        context_.outside.dialogs.message({platform::MessageKind::Exclamation,
+                                          platform::MessageButtons::OkCancel, "Contrôle Existance Fichier...",
+                                          "Ce Nom de Séance (" + path +
+                                              ") éxiste Déjà...!\n"
+                                              "Confirmez son Remplacement en Cliquant sur (OK)\n"
+                                              "ou, Changer le Répertoire de Destination...\n"
+                                              "ou, Rebaptisez-le en Cliquant sur (Annuler)...!"});
     if (answer == platform::Answer::Ok) return path;
   }
 }
@@ -150,10 +151,10 @@ std::optional<std::string> SessionFiles::askPath() {
 void SessionFiles::write(const std::string& path) {
   bool touched = false;
   try {
-    const bool replacing = tools_.outside.files.exists(path);
-    (void)tools_.outside.files.open(path, platform::OpenMode::ReadWriteCreate);
+    const bool replacing = context_.outside.files.exists(path);
+    (void)context_.outside.files.open(path, platform::OpenMode::ReadWriteCreate);
     touched = replacing;
-    model::ecrireSeance(tools_.outside.files, path, form_.ListView1);
+    model::ecrireSeance(context_.outside.files, path, form_.ListView1);
   } catch (const platform::FileFault& fault) {
     const std::string lost =
         touched ? " L'ancienne séance de ce fichier est peut-être en partie remplacée." : "";

@@ -4,15 +4,16 @@
 #include <optional>
 #include <string>
 
+#include "context/context.h"
 #include "editor/lines.h"
 #include "model/session_file.h"
-#include "voice/toolbox.h"
+#include "voice/voice.h"
 
 namespace editor {
 
 class SessionFiles {
  public:
-  SessionFiles(const voice::Toolbox& tools, Lines& lines);
+  SessionFiles(const context::Context& context, voice::Voice& voice, Lines& lines);
 
   void ajouterUneSeance();
   void enregistrerListe();
@@ -29,7 +30,8 @@ class SessionFiles {
   void tellMissing(const std::string& path, const model::FoundSequences& sequences);
   void write(const std::string& path);
 
-  voice::Toolbox tools_;
+  context::Context context_;
+  voice::Voice& voice_;
   Lines& lines_;
   forms::CreerCycle& form_;
   forms::MainForm& main_;

@@ -3,7 +3,7 @@
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/time_value.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace editor {
@@ -19,7 +19,7 @@ constexpr int cellMargin = 100;      // twips
 
 }  // namespace
 
-Totals::Totals(const voice::Toolbox& tools) : form_(tools.screens.editor), grid_(form_.ListView1) {
+Totals::Totals(const context::Context& context) : form_(context.screens.editor), grid_(form_.ListView1) {
   form_.Timer4.tick.handle([this] { calculerTotal(); });
   form_.Timer6.tick.handle([this] { verifierLignes(); });
   form_.Timer7.tick.handle([this] { blink(); });

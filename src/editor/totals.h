@@ -2,13 +2,13 @@
 // the pointer. The operations that change cells recompute nothing.
 #pragma once
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace editor {
 
 class Totals {
  public:
-  explicit Totals(const voice::Toolbox& tools);
+  explicit Totals(const context::Context& context);
 
   void calculerTotal();
   void verifierLignes();

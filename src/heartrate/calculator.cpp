@@ -4,7 +4,7 @@
 
 #include "heartrate/formulas.h"
 #include "heartrate/help_texts.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace heartrate {
@@ -22,11 +22,11 @@ std::vector<std::string> behindBlank(std::vector<std::string> lines) {
 
 }  // namespace
 
-Calculator::Calculator(const voice::Toolbox& tools)
-    : form_(tools.screens.editor),
-      personal_(tools, figures_),
-      column_(tools, figures_),
-      screen_(tools, figures_) {
+Calculator::Calculator(const context::Context& context)
+    : form_(context.screens.editor),
+      personal_(context, figures_),
+      column_(context, figures_),
+      screen_(context, figures_) {
   attachHelp(form_);
 }
 

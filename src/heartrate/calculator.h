@@ -2,17 +2,17 @@
 // form's load, calls the three steps of loading in the order in which they stand here.
 #pragma once
 
+#include "context/context.h"
 #include "heartrate/calculator_screen.h"
 #include "heartrate/figures.h"
 #include "heartrate/personal_parameters.h"
 #include "heartrate/target_column.h"
-#include "voice/toolbox.h"
 
 namespace heartrate {
 
 class Calculator {
  public:
-  explicit Calculator(const voice::Toolbox& tools);
+  explicit Calculator(const context::Context& context);
   Calculator(const Calculator&) = delete;
   Calculator& operator=(const Calculator&) = delete;
 

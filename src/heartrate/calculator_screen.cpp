@@ -45,8 +45,8 @@ constexpr std::array<BoxesOfMethod, methodCount> boxesOfMethods{ofAgeMethod,
 
 }  // namespace
 
-CalculatorScreen::CalculatorScreen(const voice::Toolbox& tools, Figures& figures)
-    : tools_(tools), form_(tools.screens.editor), figures_(figures) {
+CalculatorScreen::CalculatorScreen(const context::Context& context, Figures& figures)
+    : context_(context), form_(context.screens.editor), figures_(figures) {
   form_.MyButton25.click.handle([this] { ouvrirCalculateur(); });
   form_.MyButton38.click.handle([this] { calculerFrequences(); });
   form_.Command2.click.handle([this] { fermer(); });
@@ -87,7 +87,7 @@ void CalculatorScreen::ouvrirCalculateur() {
 void CalculatorScreen::calculerFrequences() {
   if (figures_.loading()) return;
   form_.Combo9.text = "100";
-  if (!hasItsFigures(tools_.outside.dialogs, form_)) return;
+  if (!hasItsFigures(context_.outside.dialogs, form_)) return;
   // From here it is the method in use that counts, which the grid's own box may have set.
   const int methode = figures_.methodeFC;
   if (!byAge(methode) && !byReserve(methode)) return;
@@ -112,7 +112,7 @@ void CalculatorScreen::choisirMethode() {
   const int methode = form_.Combo8.index;
   // Before the check: what it finds missing is entered in the boxes of the method that was picked.
   showBoxesOf(methode);
-  if (!hasItsFigures(tools_.outside.dialogs, form_)) return;
+  if (!hasItsFigures(context_.outside.dialogs, form_)) return;
   if (methode < 0 && isBlank(form_.Combo7)) {
     form_.MyButton41.click();
     return;
@@ -155,7 +155,7 @@ void CalculatorScreen::fermer() {
   const bool same = holds(form_.Combo7, figures_.persoAge) && holds(form_.Combo11, figures_.persoFCMax) &&
                     holds(form_.Combo12, figures_.persoFCRepos);
   if (!same) {
-    const platform::Answer answer = tools_.outside.dialogs.message(
+    const platform::Answer answer = context_.outside.dialogs.message(
         {platform::MessageKind::Information, platform::MessageButtons::YesNoCancel,
          "Paramètres Différents...",
          "Vous avez Modifié certaines Données par rapport à vos (Paramètres Persos)...\n"

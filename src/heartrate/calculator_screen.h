@@ -1,14 +1,14 @@
 // The calculator's panel: the method and its boxes, the results, opening, watching and closing.
 #pragma once
 
+#include "context/context.h"
 #include "heartrate/figures.h"
-#include "voice/toolbox.h"
 
 namespace heartrate {
 
 class CalculatorScreen {
  public:
-  CalculatorScreen(const voice::Toolbox& tools, Figures& figures);
+  CalculatorScreen(const context::Context& context, Figures& figures);
 
   // The labels of the results lose the texts that they were drawn with.
   void clearDesignTexts();
@@ -22,7 +22,7 @@ class CalculatorScreen {
   void surveiller();
   void fermer();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::CreerCycle& form_;
   Figures& figures_;
 };

@@ -3,7 +3,7 @@
 #include "heartrate/formulas.h"
 #include "heartrate/input_checks.h"
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 
 namespace heartrate {
@@ -17,9 +17,9 @@ void show(platform::ComboBox& box, const std::string& text) {
 
 }  // namespace
 
-PersonalParameters::PersonalParameters(const voice::Toolbox& tools, Figures& figures)
-    : tools_(tools),
-      form_(tools.screens.editor),
+PersonalParameters::PersonalParameters(const context::Context& context, Figures& figures)
+    : context_(context),
+      form_(context.screens.editor),
       figures_(figures),
       modes_{&form_.Check1, &form_.Check2, &form_.Check3} {
   form_.MyButton40.click.handle([this] { enregistrerParPerso(); });
@@ -34,23 +34,23 @@ void PersonalParameters::coupleModes() {
       for (platform::CheckBox* other : modes_) {
         if (other != modes_.at(i)) other->value = 0;
       }
-      tools_.state.modeAffichageFC = static_cast<int>(i) + 1;
+      context_.state.modeAffichageFC = static_cast<int>(i) + 1;
     });
   }
 }
 
 std::string PersonalParameters::path() const {
-  return tools_.state.dossierProgramme + fileName;
+  return context_.state.dossierProgramme + fileName;
 }
 
 void PersonalParameters::lireAuChargement() {
   model::PersonalFigures saved;
-  tools_.loop.guard([&] { saved = model::readPersonal(tools_.outside.files, path()); });
+  context_.loop.guard([&] { saved = model::readPersonal(context_.outside.files, path()); });
   montrer(saved);
 }
 
 void PersonalParameters::chargerParPerso() {
-  montrer(model::readPersonal(tools_.outside.files, path()));
+  montrer(model::readPersonal(context_.outside.files, path()));
 }
 
 void PersonalParameters::montrer(const model::PersonalFigures& saved) {
@@ -85,17 +85,17 @@ void PersonalParameters::showMethod() {
 void PersonalParameters::takeMode(const std::string& saved) {
   const int read = model::lenientInteger(saved);
   const int mode = read >= 1 && read <= static_cast<int>(modes_.size()) ? read : 1;
-  tools_.state.modeAffichageFC = mode;
+  context_.state.modeAffichageFC = mode;
   modes_.at(static_cast<std::size_t>(mode) - 1)->value = 1;
 }
 
 void PersonalParameters::enregistrerParPerso() {
-  const int mode = tools_.state.modeAffichageFC;
+  const int mode = context_.state.modeAffichageFC;
   // The figures are the rider's own, so the file always names the method that uses them.
-  model::writePersonal(tools_.outside.files, path(),
+  model::writePersonal(context_.outside.files, path(),
                        {form_.Combo7.text, form_.Combo10.text, form_.Combo11.text, form_.Combo12.text,
                         std::to_string(ownFigures), std::to_string(mode == 0 ? 1 : mode)});
-  const model::PersonalFigures saved = model::readPersonal(tools_.outside.files, path());
+  const model::PersonalFigures saved = model::readPersonal(context_.outside.files, path());
   const auto withoutZeros = [](const std::string& text) {
     return model::plainNumber(model::lenientNumber(text));
   };

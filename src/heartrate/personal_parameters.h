@@ -3,15 +3,15 @@
 
 #include <array>
 
+#include "context/context.h"
 #include "heartrate/figures.h"
 #include "model/personal_file.h"
-#include "voice/toolbox.h"
 
 namespace heartrate {
 
 class PersonalParameters {
  public:
-  PersonalParameters(const voice::Toolbox& tools, Figures& figures);
+  PersonalParameters(const context::Context& context, Figures& figures);
 
   // While the form loads: a file that cannot be read is told to the rider and leaves the figures blank.
   void lireAuChargement();
@@ -25,7 +25,7 @@ class PersonalParameters {
   void showMethod();
   void takeMode(const std::string& saved);
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::CreerCycle& form_;
   Figures& figures_;
   std::array<platform::CheckBox*, 3> modes_;  // display modes 1 to 3

@@ -3,7 +3,7 @@
 #include "heartrate/input_checks.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/each_on_its_own.h"
 #include "platform/text.h"
 
@@ -19,8 +19,8 @@ bool hasTarget(const std::string& cell) {
 
 }  // namespace
 
-TargetColumn::TargetColumn(const voice::Toolbox& tools, Figures& figures)
-    : tools_(tools), form_(tools.screens.editor), figures_(figures) {
+TargetColumn::TargetColumn(const context::Context& context, Figures& figures)
+    : context_(context), form_(context.screens.editor), figures_(figures) {
   form_.Combo13.click.handle([this] { choisirMethode(); });
 }
 
@@ -40,7 +40,7 @@ void TargetColumn::viserCellule(int row, const std::string& pickedText) {
     form_.ListView1.setText(row, model::column::heartRate, text);
   };
   const auto refuse = [&](Needed needed) {
-    sayNeeded(tools_.outside.dialogs, needed);
+    sayNeeded(context_.outside.dialogs, needed);
     write(std::string(model::emptyCell));
     form_.MyButton25.click();
   };
@@ -66,7 +66,7 @@ void TargetColumn::viserCellule(int row, const std::string& pickedText) {
 void TargetColumn::recalculerColonneFC() {
   if (figures_.loading()) return;
   if (isBlank(form_.Combo7)) {
-    sayNeeded(tools_.outside.dialogs, byReserve(figures_.methodeFC) ? Needed::AllFigures : Needed::Age);
+    sayNeeded(context_.outside.dialogs, byReserve(figures_.methodeFC) ? Needed::AllFigures : Needed::Age);
     form_.MyButton25.click();
     return;
   }

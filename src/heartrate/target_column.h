@@ -4,15 +4,15 @@
 
 #include <string>
 
+#include "context/context.h"
 #include "heartrate/figures.h"
 #include "heartrate/formulas.h"
-#include "voice/toolbox.h"
 
 namespace heartrate {
 
 class TargetColumn {
  public:
-  TargetColumn(const voice::Toolbox& tools, Figures& figures);
+  TargetColumn(const context::Context& context, Figures& figures);
 
   void viserCellule(int row, const std::string& pickedText);
   void recalculerColonneFC();
@@ -21,7 +21,7 @@ class TargetColumn {
   [[nodiscard]] TargetOperands operands() const;
   void choisirMethode();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::CreerCycle& form_;
   Figures& figures_;
 };

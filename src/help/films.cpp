@@ -4,10 +4,10 @@
 
 namespace help {
 
-Films::Films(const voice::Toolbox& tools) : tools_(tools), page_(tools.screens.films) {
+Films::Films(const context::Context& context) : context_(context), page_(context.screens.films) {
   connectPage();
   connectOpeners();
-  for (platform::ComboBox* list : {&tools_.screens.editor.Combo6, &tools_.screens.main.Combo6}) {
+  for (platform::ComboBox* list : {&context_.screens.editor.Combo6, &context_.screens.main.Combo6}) {
     list->click.handle([this, list] { play(list->text); });
   }
 }
@@ -30,8 +30,8 @@ void Films::connectPage() {
 }
 
 void Films::connectOpeners() {
-  forms::CreerCycle& editor = tools_.screens.editor;
-  forms::MainForm& main = tools_.screens.main;
+  forms::CreerCycle& editor = context_.screens.editor;
+  forms::MainForm& main = context_.screens.main;
   // The two pictures without a name of their own promise the films when the pointer is over them.
   for (platform::Event<>* opener : {&editor.Image6.click, &editor.Image7.click, &editor.Label20.click,
                                     &main.mnAideVideo.click, &editor.Image1.click, &main.Image15.click}) {
@@ -40,20 +40,20 @@ void Films::connectOpeners() {
 }
 
 std::string Films::pathOf(const std::string& film) const {
-  return tools_.state.dossierProgramme + "Vid/" + film;
+  return context_.state.dossierProgramme + "Vid/" + film;
 }
 
 void Films::play(const std::string& film) {
-  tools_.outside.shell.openFile(pathOf(film));
+  context_.outside.shell.openFile(pathOf(film));
 }
 
 void Films::playIfThere(const std::string& film) {
-  if (tools_.outside.files.exists(pathOf(film))) {
+  if (context_.outside.files.exists(pathOf(film))) {
     play(film);
   } else {
-    tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
-                                    "Impossible d'Afficher l'Aide...",
-                                    "Impossible car Le Fichier Vidéo a Disparu...!"});
+    context_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
+                                      "Impossible d'Afficher l'Aide...",
+                                      "Impossible car Le Fichier Vidéo a Disparu...!"});
   }
 }
 

@@ -3,13 +3,13 @@
 
 #include <string>
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace help {
 
 class Films {
  public:
-  explicit Films(const voice::Toolbox& tools);
+  explicit Films(const context::Context& context);
 
  private:
   void connectPage();
@@ -19,7 +19,7 @@ class Films {
   void play(const std::string& film);
   [[nodiscard]] std::string pathOf(const std::string& film) const;
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::AideTQ& page_;
 };
 

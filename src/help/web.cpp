@@ -4,8 +4,8 @@
 
 namespace help {
 
-Web::Web(const voice::Toolbox& tools) : tools_(tools) {
-  forms::MainForm& main = tools_.screens.main;
+Web::Web(const context::Context& context) : context_(context) {
+  forms::MainForm& main = context_.screens.main;
   main.mnVisitSite.click.handle([this] { visit(address::author); });
   main.mnMenuVentoria.click.handle([this] { visit(address::product); });
   main.mnPartenaire.click.handle([this] { visit(address::partner); });
@@ -14,12 +14,12 @@ Web::Web(const voice::Toolbox& tools) : tools_(tools) {
 }
 
 void Web::visit(const std::string& address) {
-  if (tools_.outside.shell.connected()) {
-    tools_.outside.shell.openAddress(address);
+  if (context_.outside.shell.connected()) {
+    context_.outside.shell.openAddress(address);
   } else {
-    tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
-                                    "Impossibilité de se Connecter...",
-                                    "Vous n'êtes pas Connecté à Internet, veuillez essayer ultérieurement."});
+    context_.outside.dialogs.message(
+        {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Impossibilité de se Connecter...",
+         "Vous n'êtes pas Connecté à Internet, veuillez essayer ultérieurement."});
   }
 }
 

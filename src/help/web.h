@@ -3,18 +3,18 @@
 
 #include <string>
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 
 namespace help {
 
 class Web {
  public:
-  explicit Web(const voice::Toolbox& tools);
+  explicit Web(const context::Context& context);
 
  private:
   void visit(const std::string& address);
 
-  voice::Toolbox tools_;
+  context::Context context_;
 };
 
 }  // namespace help

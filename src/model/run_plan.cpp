@@ -2,17 +2,17 @@
 
 namespace model {
 
-void RunPlan::allocate(int rows) {
-  for (auto* table : {&planDuree, &planCadence, &planRemarque, &planSequence, &planBraquet, &planPlateau,
-                      &planAnnonce, &planFreqCard}) {
-    table->assign(static_cast<std::size_t>(rows) + 1, {});
-  }
+std::vector<std::string> PlanRow::texts() const {
+  return {planDuree,   planCadence, planRemarque, planSequence,
+          planBraquet, planPlateau, planAnnonce,  planFreqCard};
 }
 
-std::vector<std::string> RunPlan::row(int number) const {
-  const auto i = static_cast<std::size_t>(number);
-  return {planDuree.at(i),   planCadence.at(i), planRemarque.at(i), planSequence.at(i),
-          planBraquet.at(i), planPlateau.at(i), planAnnonce.at(i),  planFreqCard.at(i)};
+void RunPlan::allocate(int last) {
+  rows.assign(static_cast<std::size_t>(last) + 1, PlanRow{});
+}
+
+const PlanRow& RunPlan::current() const {
+  return rows.at(static_cast<std::size_t>(sequenceCourante));
 }
 
 }  // namespace model

@@ -6,21 +6,29 @@
 
 namespace model {
 
-// Eight texts for each sequence, from row 1; row 0 exists and stays empty.
-struct RunPlan {
-  std::vector<std::string> planDuree{1};     // "HH:MM:SS", "00:00:00" on an "Annonce Vocale" row
-  std::vector<std::string> planCadence{1};   // revolutions a minute, a number or a range
-  std::vector<std::string> planRemarque{1};  // a free remark; the hand-over leaves it empty
-  std::vector<std::string> planSequence{1};  // kind of sequence
-  std::vector<std::string> planBraquet{1};   // gear
-  std::vector<std::string> planPlateau{1};   // chainring
-  std::vector<std::string> planAnnonce{1};   // file name of a personal announcement, or "-----"
-  std::vector<std::string> planFreqCard{1};  // heart-rate target
+struct PlanRow {
+  std::string planDuree;     // "HH:MM:SS", "00:00:00" on an "Annonce Vocale" row
+  std::string planCadence;   // revolutions a minute, a number or a range
+  std::string planRemarque;  // a free remark; the hand-over leaves it empty
+  std::string planSequence;  // kind of sequence
+  std::string planBraquet;   // gear
+  std::string planPlateau;   // chainring
+  std::string planAnnonce;   // file name of a personal announcement, or "-----"
+  std::string planFreqCard;  // heart-rate target
 
-  // Rows 0 to `rows`, all empty.
-  void allocate(int rows);
-  // The eight texts of a row, in the order above.
-  [[nodiscard]] std::vector<std::string> row(int number) const;
+  // The eight texts, in the order above.
+  [[nodiscard]] std::vector<std::string> texts() const;
+};
+
+struct RunPlan {
+  // From row 1; row 0 exists and stays empty, for the ride reads it before the first sequence.
+  std::vector<PlanRow> rows{PlanRow{}};
+  int sequenceCourante = 0;  // row being ridden; 0 before the first
+
+  // Rows 0 to `last`, all empty.
+  void allocate(int last);
+  // The row being ridden.
+  [[nodiscard]] const PlanRow& current() const;
 };
 
 }  // namespace model

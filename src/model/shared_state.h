@@ -22,7 +22,6 @@ struct SharedState {
   std::string dureeChrono;    // length of the start countdown, whole seconds as text
 
   // The ride.
-  int sequenceCourante = 0;       // row being ridden; 0 before the first
   int seanceCourante = 0;         // number of the pass being ridden
   TimeValue dureeSequence = 0;    // 0 stops the chrono at its next tick
   TimeValue pasChrono = 0;        // one second, set at start-up

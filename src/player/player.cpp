@@ -19,16 +19,16 @@ std::string newAlias(const platform::Clock& clock) {
 
 }  // namespace
 
-Player::Player(const voice::Toolbox& tools)
-    : tools_(tools),
-      form_(tools.screens.player),
-      medium_(tools.outside.media),
-      bars_(form_, tools.loop, medium_),
+Player::Player(const context::Context& context)
+    : context_(context),
+      form_(context.screens.player),
+      medium_(context.outside.media),
+      bars_(form_, context.loop, medium_),
       placement_(form_, medium_),
-      transport_(tools, medium_, bars_, placement_),
-      fourcc_(tools.outside.files, tools.outside.dialogs) {
+      transport_(context, medium_, bars_, placement_),
+      fourcc_(context.outside.files, context.outside.dialogs) {
   attachList();
-  form_.onLoad.handle([this] { medium_.alias = newAlias(tools_.outside.clock); });
+  form_.onLoad.handle([this] { medium_.alias = newAlias(context_.outside.clock); });
   form_.resized.handle([this](int twips) { suivreLargeur(twips); });
   form_.Command1.click.handle([this] { choisirDossier(); });
   form_.Label1.doubleClick.handle([this] { fourcc_.montrerFourcc(form_.Label1.caption); });
@@ -57,7 +57,7 @@ void Player::attachList() {
 }
 
 void Player::choisirDossier() {
-  const std::vector<std::string> chosen = tools_.outside.dialogs.chooseFiles(
+  const std::vector<std::string> chosen = context_.outside.dialogs.chooseFiles(
       {platform::FilePurpose::Folder, "Dossier contenant des vidéos", {}, {}, {}});
   if (chosen.empty()) return;
   form_.File1.path = chosen.front();

@@ -11,14 +11,14 @@ namespace player {
 
 class Player {
  public:
-  explicit Player(const voice::Toolbox& tools);
+  explicit Player(const context::Context& context);
 
  private:
   void attachList();
   void choisirDossier();
   void suivreLargeur(int twips);
 
-  const voice::Toolbox& tools_;
+  const context::Context& context_;
   forms::LectMCI& form_;
   Medium medium_;
   Bars bars_;

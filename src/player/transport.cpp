@@ -21,10 +21,10 @@ std::string selectedName(const platform::FileList& list) {
 
 }  // namespace
 
-Transport::Transport(const voice::Toolbox& tools, Medium& medium, Bars& bars, Placement& placement)
-    : tools_(tools),
-      form_(tools.screens.player),
-      announcements_(tools.screens.announcements),
+Transport::Transport(const context::Context& context, Medium& medium, Bars& bars, Placement& placement)
+    : context_(context),
+      form_(context.screens.player),
+      announcements_(context.screens.announcements),
       medium_(medium),
       bars_(bars),
       placement_(placement) {
@@ -82,7 +82,7 @@ void Transport::ouvrir(const std::string& path) {
   const std::string name = selectedName(form_.File1);
   announcements_.Label1.caption = name;
   form_.Label1.caption = "Chargement de " + name;
-  tools_.loop.serveEvents();
+  context_.loop.serveEvents();
   if (ItIsAPic(path)) {
     placement_.montrerImage(path);
     return;
@@ -90,7 +90,7 @@ void Transport::ouvrir(const std::string& path) {
   placement_.cacherImage();
   // The window to draw in is none: sound needs no parent.
   medium_.sendWhole("open MPEGVideo!" + path + " alias " + medium_.alias + " parent 0 Style 1073741824");
-  tools_.loop.serveEvents();
+  context_.loop.serveEvents();
   identifier(path);
   placement_.placerVideo();
   medium_.send("play", " from 0");
@@ -102,7 +102,7 @@ void Transport::ouvrir(const std::string& path) {
 
 void Transport::identifier(const std::string& path) {
   const Identification found =
-      identifierMedia(tools_.outside.files, path, [this] { return medium_.send("where", " destination"); });
+      identifierMedia(context_.outside.files, path, [this] { return medium_.send("where", " destination"); });
   medium_.largeurMedia = found.largeurMedia;
   medium_.hauteurMedia = found.hauteurMedia;
   medium_.infoMedia = found.infoMedia;
@@ -115,7 +115,7 @@ void Transport::montrerDuree() {
   const std::string duree = formatTemps(medium_.longueur);
   form_.Label1.caption = duree;
   announcements_.Label7.caption = duree;
-  tools_.state.dureeMusique = duree;
+  context_.state.dureeMusique = duree;
 }
 
 void Transport::montrerPosition(std::int64_t milliseconds) {
@@ -126,12 +126,12 @@ void Transport::montrerPosition(std::int64_t milliseconds) {
 void Transport::lire() {
   form_.Command2.click();
   const std::string path = platform::trim(form_.Text1.text.get());
-  if (!path.empty() && tools_.outside.files.exists(path)) {
+  if (!path.empty() && context_.outside.files.exists(path)) {
     ouvrir(path);
     return;
   }
-  tools_.outside.dialogs.message({platform::MessageKind::Information, platform::MessageButtons::Ok,
-                                  "Ventoria", "Aucune Musique d'Ambiance Sélectionnée..."});
+  context_.outside.dialogs.message({platform::MessageKind::Information, platform::MessageButtons::Ok,
+                                    "Ventoria", "Aucune Musique d'Ambiance Sélectionnée..."});
 }
 
 void Transport::stopAndClose() {
@@ -202,11 +202,11 @@ void Transport::suivrePosition() {
   montrerPosition(position);
   bars_.peindreProgression(position);
   // A selection chooses the next piece by itself; without one the player goes through its own list.
-  if (position == medium_.longueur && tools_.state.selectionEnCours.empty()) form_.Command4.click();
+  if (position == medium_.longueur && context_.state.selectionEnCours.empty()) form_.Command4.click();
 }
 
 void Transport::obeirALaSeance() {
-  std::string& order = tools_.state.musiqueSuit;
+  std::string& order = context_.state.musiqueSuit;
   if (order == "oui") reprendre();
   if (order == "non") suspendre();
   if (order == "oui" || order == "non") order.clear();

@@ -3,16 +3,16 @@
 
 #include <string>
 
+#include "context/context.h"
 #include "player/bars.h"
 #include "player/medium.h"
 #include "player/placement.h"
-#include "voice/toolbox.h"
 
 namespace player {
 
 class Transport {
  public:
-  Transport(const voice::Toolbox& tools, Medium& medium, Bars& bars, Placement& placement);
+  Transport(const context::Context& context, Medium& medium, Bars& bars, Placement& placement);
 
  private:
   void attachButtons();
@@ -36,7 +36,7 @@ class Transport {
   void obeirALaSeance();  // Timer9
   void stopAndClose();
 
-  const voice::Toolbox& tools_;
+  const context::Context& context_;
   forms::LectMCI& form_;
   forms::EnrUneAnnonce& announcements_;
   Medium& medium_;

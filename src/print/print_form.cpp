@@ -80,11 +80,11 @@ platform::PageGrid pageFrom(const forms::ImprimerTQ1& form, int firstRow) {
   return page;
 }
 
-PrintForm::PrintForm(const voice::Toolbox& tools)
-    : tools_(tools), form_(tools.screens.print), printer_(tools.outside.printer) {
+PrintForm::PrintForm(const context::Context& context)
+    : context_(context), form_(context.screens.print), printer_(context.outside.printer) {
   form_.onLoad.handle([this] { prepare(); });
-  tools_.screens.editor.Command35.click.handle([this] { open(); });
-  tools_.screens.editor.mnImprim.click.handle([this] { open(); });
+  context_.screens.editor.Command35.click.handle([this] { open(); });
+  context_.screens.editor.mnImprim.click.handle([this] { open(); });
   form_.Timer1.tick.handle([this] {
     form_.Timer1.enabled = false;
     form_.Command2.click();
@@ -131,7 +131,7 @@ void PrintForm::leave() {
 }
 
 void PrintForm::loadList() {
-  const platform::Grid& list = tools_.screens.editor.ListView1;
+  const platform::Grid& list = context_.screens.editor.ListView1;
   const int rows = list.rowCount();
   if (rows < 1) return;
   form_.Grid.clearRows();
@@ -145,7 +145,7 @@ void PrintForm::loadList() {
 
 // Without the cycle's name; the number of each row is that of the one above it.
 void PrintForm::loadRow(int row) {
-  const platform::Grid& list = tools_.screens.editor.ListView1;
+  const platform::Grid& list = context_.screens.editor.ListView1;
   std::vector<std::string> cells{row == 1 ? " " : list.text(row - 1, model::column::number)};
   for (int column = model::column::sessionName; column <= list.columnCount(); ++column) {
     cells.push_back(list.text(row, column));
@@ -186,7 +186,7 @@ void PrintForm::printPage(int firstRow) {
   printer_.setPaperSize(platform::PaperSize::A4);
   printer_.setQuality(platform::PrintQuality::High);
   printer_.paintPicture(pageFrom(form_, firstRow), 0, 0);
-  const platform::LocalTime now = tools_.loop.clock().localTime();
+  const platform::LocalTime now = context_.loop.clock().localTime();
   printer_.printLine("Edité Le(" + dateOf(now) + ") à (" + timeOf(now) + ") Page (" + std::to_string(page_) +
                      "/" + std::to_string(pages_) + ")");
   printer_.endDocument();
@@ -196,10 +196,10 @@ void PrintForm::printPage(int firstRow) {
 void PrintForm::giveUp(bool tooLarge) {
   printer_.killDocument();
   if (tooLarge) {
-    tools_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
-                                    "Dépassement de Capacité...",
-                                    "Cette Sélection est trop volumineuse (" + std::to_string(pages_) +
-                                        " pages) pour l'envoyer à l'Impression..."});
+    context_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
+                                      "Dépassement de Capacité...",
+                                      "Cette Sélection est trop volumineuse (" + std::to_string(pages_) +
+                                          " pages) pour l'envoyer à l'Impression..."});
   }
   form_.Grid.clearRows();
 }

@@ -1,8 +1,8 @@
 // The print form: copies the editor's list and sends it to the printer, each page a document of its own.
 #pragma once
 
+#include "context/context.h"
 #include "platform/printer.h"
-#include "voice/toolbox.h"
 
 namespace print {
 
@@ -13,7 +13,7 @@ inline constexpr int rowsPerPage = 35;
 
 class PrintForm {
  public:
-  explicit PrintForm(const voice::Toolbox& tools);
+  explicit PrintForm(const context::Context& context);
 
  private:
   void prepare();
@@ -27,7 +27,7 @@ class PrintForm {
   // The grid's rows on paper, the head counted in.
   [[nodiscard]] int gridRows() const { return form_.Grid.rowCount() + 1; }
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::ImprimerTQ1& form_;
   platform::Printer& printer_;
   int page_ = 0;

@@ -1,14 +1,15 @@
 #include "runner/advance.h"
 
-#include "model/vocabulary.h"
+#include "forms/lect_mci_words.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 #include "runner/boundary_sounds.h"
 #include "runner/visibility.h"
 
 namespace runner {
 
-Advance::Advance(const voice::Toolbox& tools, RideWaits& waits)
-    : tools_(tools), waits_(waits), main_(tools.screens.main), state_(tools.state) {}
+Advance::Advance(const context::Context& context, voice::Voice& voice, RideWaits& waits)
+    : context_(context), voice_(voice), waits_(waits), main_(context.screens.main), state_(context.state) {}
 
 void Advance::avancerSequence() {
   if (state_.nbSequences == 0) return;
@@ -29,15 +30,14 @@ void Advance::crossBoundary() {
   }
   showRideFields();
   state_.ecouleSequence = 0;
-  ++state_.sequenceCourante;
+  ++state_.plan.sequenceCourante;
   sayPass();
   showRow();
   waits_.pause();
   nameSounds();
   showTarget();
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  main_.Label12.caption = state_.plan.planRemarque.at(row);
-  state_.dureeSequence = model::timeValue(state_.plan.planDuree.at(row));
+  main_.Label12.caption = state_.plan.current().planRemarque;
+  state_.dureeSequence = model::timeValue(state_.plan.current().planDuree);
   playOwnAnnouncement();
   saySequenceNumber();
   // From here on time runs, although the voice that follows still delays the first tick. A ride that was
@@ -46,9 +46,9 @@ void Advance::crossBoundary() {
   timeStands_ = false;
   if (main_.Command7.caption == "Pause" || state_.dureeSequence == 0) main_.Timer1.enabled = true;
   sayRow();
-  if (main_.Check7.value == 1 && !state_.sonBraquet.empty()) tools_.voice.dire(state_.sonBraquet);
+  if (main_.Check7.value == 1 && !state_.sonBraquet.empty()) voice_.dire(state_.sonBraquet);
   const bool musicPlaysInRide = main_.Check10.value == 1 || main_.Check11.value == 1;
-  if (main_.Check2.value == 1 && tools_.voice.musiqueChargee() && musicPlaysInRide) {
+  if (main_.Check2.value == 1 && forms::musicLoaded(context_.screens.player) && musicPlaysInRide) {
     waits_.forgetHold();
     state_.musiqueSuit = "oui";
   }
@@ -56,9 +56,9 @@ void Advance::crossBoundary() {
 
 void Advance::choosePass() {
   if (state_.nbSeances > 1) {
-    if (state_.sequenceCourante != 0 && state_.sequenceCourante != state_.nbSequences) return;
+    if (state_.plan.sequenceCourante != 0 && state_.plan.sequenceCourante != state_.nbSequences) return;
     ++state_.seanceCourante;
-    state_.sequenceCourante = 0;
+    state_.plan.sequenceCourante = 0;
   } else {
     state_.seanceCourante = 1;
   }
@@ -67,19 +67,19 @@ void Advance::choosePass() {
 
 bool Advance::isOver() const {
   if (state_.seanceCourante > state_.nbSeances) return true;
-  return state_.nbSeances == 1 && state_.sequenceCourante == state_.nbSequences;
+  return state_.nbSeances == 1 && state_.plan.sequenceCourante == state_.nbSequences;
 }
 
 void Advance::endRun() {
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
   if (main_.Check2.value == 1) {
-    state_.sequenceCourante = 0;  // so that the cancel below says nothing
+    state_.plan.sequenceCourante = 0;  // so that the cancel below says nothing
     waits_.hold();
     showMessage(main_, endMessage);
     waits_.pause();
-    tools_.voice.dire("finentrainement.wav");
-    tools_.voice.dire("pensezIdrater.wav");
+    voice_.dire("finentrainement.wav");
+    voice_.dire("pensezIdrater.wav");
     showIdlePicture(main_);
     main_.Label43.caption = "";
     waits_.release();
@@ -104,23 +104,23 @@ void Advance::showRideFields() {
 void Advance::sayPass() {
   if (main_.Check2.value != 1 || main_.Check3.value != 1 || state_.sonSeance.empty()) return;
   waits_.hold();
-  if (state_.sequenceCourante == 1) tools_.voice.dire(state_.sonSeance);
+  if (state_.plan.sequenceCourante == 1) voice_.dire(state_.sonSeance);
   waits_.release();
 }
 
 void Advance::showRow() {
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  const model::RunPlan& plan = state_.plan;
-  const std::string& duration = plan.planDuree.at(row);
+  const model::PlanRow& row = state_.plan.current();
+  const std::string& duration = row.planDuree;
   main_.Combo1.text = platform::left(duration, 2);
   main_.Combo2.text = platform::mid(duration, 4, 2);
   main_.Combo3.text = platform::right(duration, 2);
-  const bool spoken = plan.planSequence.at(row) == model::vocalAnnouncement;
-  main_.Label10.caption = spoken ? std::string() : plan.planCadence.at(row);
-  main_.Label11.caption = plan.planSequence.at(row);
-  main_.Label15.caption = spoken ? std::string() : plan.planBraquet.at(row);
-  main_.Label20.caption = spoken ? std::string() : plan.planPlateau.at(row);
-  main_.Label16.caption = std::to_string(row) + "/" + std::to_string(state_.nbSequences);
+  const bool spoken = row.planSequence == model::vocalAnnouncement;
+  main_.Label10.caption = spoken ? std::string() : row.planCadence;
+  main_.Label11.caption = row.planSequence;
+  main_.Label15.caption = spoken ? std::string() : row.planBraquet;
+  main_.Label20.caption = spoken ? std::string() : row.planPlateau;
+  main_.Label16.caption =
+      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   if (!spoken) composeGearText();
 }
 
@@ -143,8 +143,7 @@ void Advance::nameSounds() {
 
 void Advance::showTarget() {
   main_.Label44.caption = "";
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  const std::string target = platform::trim(state_.plan.planFreqCard.at(row));
+  const std::string target = platform::trim(state_.plan.current().planFreqCard);
   if (target.empty() || target == "---" || target == model::noTarget) {
     showMessage(main_, "Fréquence de Travail NON Définie\n");
     return;
@@ -157,22 +156,22 @@ void Advance::showTarget() {
 }
 
 void Advance::playOwnAnnouncement() {
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) return;
+  if (state_.plan.current().planSequence != model::vocalAnnouncement) return;
   waits_.hold();
-  if (main_.Check9.value == 1) tools_.voice.jouerAnnonce(state_.plan.planAnnonce.at(row));
+  if (main_.Check9.value == 1) voice_.jouerAnnonce(state_.plan.current().planAnnonce);
 }
 
 void Advance::saySequenceNumber() {
-  state_.sonNumSequence = sequenceNumberSound(state_.sequenceCourante);
+  state_.sonNumSequence = sequenceNumberSound(state_.plan.sequenceCourante);
   if (main_.Check4.value == 1 && !isAnnouncement()) waits_.sayHolding(state_.sonNumSequence);
 }
 
 void Advance::sayRow() {
-  main_.Label16.caption = std::to_string(state_.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
+  main_.Label16.caption =
+      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   if (main_.Check2.value == 1) {
     sayKind();
-    if (main_.Check5.value == 1 && !state_.sonCadence.empty()) tools_.voice.dire(state_.sonCadence);
+    if (main_.Check5.value == 1 && !state_.sonCadence.empty()) voice_.dire(state_.sonCadence);
     sayChainring();
     waits_.pause();
   }
@@ -183,10 +182,10 @@ void Advance::sayRow() {
 void Advance::sayKind() {
   const bool wanted = main_.Check5.value == 1 || main_.Check13.value == 1;
   if (!wanted || isAnnouncement() || state_.sonSequence.empty()) return;
-  tools_.voice.nommer(state_.sonSequence);
+  voice_.nommer(state_.sonSequence);
   waits_.hold();
   // Named again: who paused during the hold has used the one slot of the sounds.
-  if (main_.Check13.value == 1) tools_.voice.dire(state_.sonSequence);
+  if (main_.Check13.value == 1) voice_.dire(state_.sonSequence);
 }
 
 void Advance::sayChainring() {
@@ -196,7 +195,7 @@ void Advance::sayChainring() {
   main_.Label15.visible = !inOneText;
   main_.Label20.visible = !inOneText;
   main_.Label39.visible = inOneText;
-  tools_.voice.dire(state_.sonPlateau);
+  voice_.dire(state_.sonPlateau);
 }
 
 bool Advance::isAnnouncement() const {

@@ -1,14 +1,15 @@
 // The boundary between two sequences: what comes next, on the screen and in the voice, or the end of the run.
 #pragma once
 
+#include "context/context.h"
 #include "runner/ride_waits.h"
-#include "voice/toolbox.h"
+#include "voice/voice.h"
 
 namespace runner {
 
 class Advance {
  public:
-  Advance(const voice::Toolbox& tools, RideWaits& waits);
+  Advance(const context::Context& context, voice::Voice& voice, RideWaits& waits);
 
   // Runs at each boundary. When it returns the chrono runs on the new sequence, or the run has ended.
   void avancerSequence();
@@ -34,7 +35,8 @@ class Advance {
 
   [[nodiscard]] bool isAnnouncement() const;
 
-  voice::Toolbox tools_;
+  context::Context context_;
+  voice::Voice& voice_;
   RideWaits& waits_;
   forms::MainForm& main_;
   model::SharedState& state_;

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 #include "runner/visibility.h"
 
@@ -20,8 +20,12 @@ std::string percentPart(const std::string& target) {
 
 }  // namespace
 
-Chrono::Chrono(const voice::Toolbox& tools, Advance& advance, RideWaits& waits)
-    : tools_(tools), advance_(advance), waits_(waits), main_(tools.screens.main), state_(tools.state) {
+Chrono::Chrono(const context::Context& context, Advance& advance, RideWaits& waits)
+    : context_(context),
+      advance_(advance),
+      waits_(waits),
+      main_(context.screens.main),
+      state_(context.state) {
   main_.Timer1.tick.handle([this] { tickChrono(); });
   main_.Timer3.tick.handle([this] { tickSurveillance(); });
   main_.Timer9.tick.handle([this] { tickEcranVeille(); });
@@ -51,7 +55,7 @@ void Chrono::count() {
 }
 
 void Chrono::showTarget() {
-  const std::string& target = state_.plan.planFreqCard.at(static_cast<std::size_t>(state_.sequenceCourante));
+  const std::string& target = state_.plan.current().planFreqCard;
   const bool inTurn = state_.modeAffichageFC == 3 && state_.alternanceFC != 0;
   if (state_.modeAffichageFC == 1 || (inTurn && state_.alternanceFC == 1)) {
     main_.Label44.caption = platform::left(target, beatsLength);
@@ -64,16 +68,16 @@ void Chrono::showTarget() {
 // The total is kept in the label and read back from it, and so always in whole seconds.
 void Chrono::countTotal() {
   // A ride that comes out of a paused countdown has not ridden a second yet.
-  if (state_.nbSequences != 0 && state_.sequenceCourante == 0) return;
-  const auto row = static_cast<std::size_t>(state_.sequenceCourante);
-  if (state_.plan.planSequence.at(row) != model::vocalAnnouncement) {
+  if (state_.nbSequences != 0 && state_.plan.sequenceCourante == 0) return;
+  if (state_.plan.current().planSequence != model::vocalAnnouncement) {
     main_.Label40.caption = model::formatTime(state_.dureeTotale - state_.pasChrono);
   }
   state_.dureeTotale = model::timeValue(main_.Label40.caption.get());
 }
 
 Chrono::Sequence Chrono::countSecond() {
-  main_.Label16.caption = std::to_string(state_.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
+  main_.Label16.caption =
+      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   state_.ecouleSequence += state_.pasChrono;
   // Through the text and back: sums of many seconds drift off the whole ones, and the test below needs them.
   const std::string left = model::formatTime(state_.dureeSequence - state_.ecouleSequence);
@@ -116,9 +120,9 @@ void Chrono::stepAsidePanel() {
 }
 
 void Chrono::tickEcranVeille() {
-  const bool active = tools_.outside.screenSaver.active();
+  const bool active = context_.outside.screenSaver.active();
   state_.ecranVeilleActif = active ? "oui" : "non";
-  if (active) tools_.outside.screenSaver.setActive(false);
+  if (active) context_.outside.screenSaver.setActive(false);
 }
 
 }  // namespace runner

@@ -1,15 +1,15 @@
 // The clock of a ride and the small timers around it. Time is counted in ticks, not measured.
 #pragma once
 
+#include "context/context.h"
 #include "runner/advance.h"
 #include "runner/ride_waits.h"
-#include "voice/toolbox.h"
 
 namespace runner {
 
 class Chrono {
  public:
-  Chrono(const voice::Toolbox& tools, Advance& advance, RideWaits& waits);
+  Chrono(const context::Context& context, Advance& advance, RideWaits& waits);
 
   void tickChrono();
   void tickSurveillance();
@@ -25,7 +25,7 @@ class Chrono {
   Sequence countSecond();
   void stepAsidePanel();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   Advance& advance_;
   RideWaits& waits_;
   forms::MainForm& main_;

@@ -6,8 +6,12 @@
 
 namespace runner {
 
-Countdown::Countdown(const voice::Toolbox& tools, Advance& advance)
-    : tools_(tools), advance_(advance), main_(tools.screens.main), state_(tools.state) {
+Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advance& advance)
+    : context_(context),
+      voice_(voice),
+      advance_(advance),
+      main_(context.screens.main),
+      state_(context.state) {
   main_.MyButton3.click.handle([this] { lancerCompteRebours(); });
   main_.Timer2.tick.handle([this] { tickCompteRebours(); });
   main_.Command7.click.handle([this] { basculerPause(); });
@@ -52,7 +56,7 @@ void Countdown::lancerCompteRebours() {
   state_.musiqueSuit = "non";
   showMessage(main_, "Démarrage Séance d'Entraînement");
   main_.Image7.visible = false;
-  tools_.voice.dire("topdepartentrainement.wav");
+  voice_.dire("topdepartentrainement.wav");
 }
 
 void Countdown::tickCompteRebours() {
@@ -66,8 +70,8 @@ void Countdown::tickCompteRebours() {
     main_.Combo4.visible = false;
     if (main_.Check2.value == 1 && state_.nbSequences > 0) {
       main_.Label18.caption = "Séance en Cours";
-      tools_.voice.dire("dementrainement.wav");
-      tools_.screens.announcements.Timer12.enabled = true;
+      voice_.dire("dementrainement.wav");
+      context_.screens.announcements.Timer12.enabled = true;
     }
   }
   main_.MyFrame2.visible = false;
@@ -91,10 +95,10 @@ void Countdown::basculerPause() {
     // An announcement has no time to hold: it ends by itself, and the pause then holds the row behind it.
     if (state_.dureeSequence != 0) main_.Timer1.enabled = false;
     main_.Timer2.enabled = false;
-    if (main_.Check2.value == 1) tools_.voice.dire("pausedemande.wav");
+    if (main_.Check2.value == 1) voice_.dire("pausedemande.wav");
     main_.Command7.caption = "REPRENDRE";
   } else if (main_.Command7.caption == "REPRENDRE") {
-    tools_.voice.dire("repriseentrainement.wav");
+    voice_.dire("repriseentrainement.wav");
     // Before a row's time begins, its boundary starts the chrono.
     main_.Timer1.enabled = !advance_.timeStands();
     main_.Timer2.enabled = false;
@@ -105,13 +109,13 @@ void Countdown::basculerPause() {
 }
 
 bool Countdown::somethingRuns() const {
-  return main_.Timer1.enabled || main_.Timer2.enabled || state_.sequenceCourante > 0;
+  return main_.Timer1.enabled || main_.Timer2.enabled || state_.plan.sequenceCourante > 0;
 }
 
 void Countdown::leaveFrame() {
   main_.MyButton4.click();
   hide({&main_.Combo1, &main_.Combo2, &main_.Combo3});
-  tools_.voice.dire("seanceAnnule.wav");
+  voice_.dire("seanceAnnule.wav");
   main_.MyFrame2.visible = false;
   hideTimeBoxesUnderSettings(main_);
 }

@@ -1,14 +1,15 @@
 // The countdown before a ride, its frame, and the pause.
 #pragma once
 
+#include "context/context.h"
 #include "runner/advance.h"
-#include "voice/toolbox.h"
+#include "voice/voice.h"
 
 namespace runner {
 
 class Countdown {
  public:
-  Countdown(const voice::Toolbox& tools, Advance& advance);
+  Countdown(const context::Context& context, voice::Voice& voice, Advance& advance);
 
   void lancerCompteRebours();
   void tickCompteRebours();
@@ -24,7 +25,8 @@ class Countdown {
   void takeTypedTime();
   void goToEditor();
 
-  voice::Toolbox tools_;
+  context::Context context_;
+  voice::Voice& voice_;
   Advance& advance_;
   forms::MainForm& main_;
   model::SharedState& state_;

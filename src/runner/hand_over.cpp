@@ -2,20 +2,21 @@
 
 #include <algorithm>
 
+#include "forms/lect_mci_words.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "platform/text.h"
 #include "runner/visibility.h"
 
 namespace runner {
 
-HandOver::HandOver(const voice::Toolbox& tools, RideWaits& waits)
-    : tools_(tools),
+HandOver::HandOver(const context::Context& context, RideWaits& waits)
+    : context_(context),
       waits_(waits),
-      main_(tools.screens.main),
-      editor_(tools.screens.editor),
-      state_(tools.state) {
+      main_(context.screens.main),
+      editor_(context.screens.editor),
+      state_(context.state) {
   editor_.MyButton5.click.handle([this] { validerSeance(); });
 }
 
@@ -57,7 +58,7 @@ bool HandOver::refuseWrongDuration() {
   editor_.Timer6.tick();  // paints it red and takes the start away
   grid.select(row);
   grid.reveal(row);
-  tools_.outside.dialogs.message(
+  context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Durée à Corriger...",
        "La Ligne (" + std::to_string(row) + ") de la Liste, (" +
            platform::trim(grid.text(row, model::column::sequence)) + "), n'a pas de Durée valable : (" +
@@ -68,10 +69,10 @@ bool HandOver::refuseWrongDuration() {
 
 void HandOver::settleOtherForms() {
   editor_.Command1.click();
-  if (tools_.voice.musiqueChargee()) tools_.screens.player.Timer3.enabled = true;
-  main_.MyButton19.visible = !tools_.screens.announcements.File1.lines().empty();
+  if (forms::musicLoaded(context_.screens.player)) context_.screens.player.Timer3.enabled = true;
+  main_.MyButton19.visible = !context_.screens.announcements.File1.lines().empty();
   main_.MyButton21.visible = false;
-  if (tools_.screens.volume.visible) tools_.screens.volume.unload();
+  if (context_.screens.volume.visible) context_.screens.volume.unload();
   if (state_.dureeChrono.empty()) state_.dureeChrono = "16";
   main_.Combo5.text = state_.dureeChrono;
   showCountdownLength(main_);
@@ -84,7 +85,7 @@ void HandOver::resetRide() {
   main_.Timer1.enabled = false;
   main_.Timer2.enabled = false;
   show({&main_.Label4, &main_.Label5, &main_.Label6, &main_.Image4});
-  state_.sequenceCourante = 0;
+  state_.plan.sequenceCourante = 0;
   state_.seanceCourante = 0;
   state_.nbSequences = 0;
   main_.MyButton1.caption = "Start";
@@ -101,16 +102,15 @@ void HandOver::fillPlan() {
     const std::string& duration = grid.text(row, model::column::duration);
     const std::string& announcement = grid.text(row, model::column::announcement);
     if (!model::isRidden(grid, row)) continue;
-    ++kept;
-    plan.planSequence[kept] = grid.text(row, model::column::sequence);
-    plan.planCadence[kept] = grid.text(row, model::column::cadence);
-    plan.planPlateau[kept] = grid.text(row, model::column::chainring);
-    plan.planBraquet[kept] = grid.text(row, model::column::gear);
-    plan.planAnnonce[kept] = platform::trim(announcement);
-    plan.planFreqCard[kept] = grid.text(row, model::column::heartRate);
-    plan.planRemarque[kept] = "";
-    const bool spoken = plan.planSequence[kept] == model::vocalAnnouncement;
-    plan.planDuree[kept] = spoken ? std::string(model::noDuration) : duration;
+    model::PlanRow& planned = plan.rows.at(++kept);
+    planned.planSequence = grid.text(row, model::column::sequence);
+    planned.planCadence = grid.text(row, model::column::cadence);
+    planned.planPlateau = grid.text(row, model::column::chainring);
+    planned.planBraquet = grid.text(row, model::column::gear);
+    planned.planAnnonce = platform::trim(announcement);
+    planned.planFreqCard = grid.text(row, model::column::heartRate);
+    const bool spoken = planned.planSequence == model::vocalAnnouncement;
+    planned.planDuree = spoken ? std::string(model::noDuration) : duration;
   }
   state_.nbSequences = static_cast<int>(kept);
 }

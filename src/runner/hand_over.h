@@ -1,14 +1,14 @@
 // From the editor to the ride: the grid's rows become the run plan, and the main screen comes back.
 #pragma once
 
+#include "context/context.h"
 #include "runner/ride_waits.h"
-#include "voice/toolbox.h"
 
 namespace runner {
 
 class HandOver {
  public:
-  HandOver(const voice::Toolbox& tools, RideWaits& waits);
+  HandOver(const context::Context& context, RideWaits& waits);
 
   void validerSeance();
 
@@ -20,7 +20,7 @@ class HandOver {
   void fillPlan();
   void showTitle();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   RideWaits& waits_;
   forms::MainForm& main_;
   forms::CreerCycle& editor_;

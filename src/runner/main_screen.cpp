@@ -1,15 +1,16 @@
 #include "runner/main_screen.h"
 
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "runner/visibility.h"
 
 namespace runner {
-MainScreen::MainScreen(const voice::Toolbox& tools, SettingsPage& settings, std::string folder,
-                       std::string version)
-    : tools_(tools),
+MainScreen::MainScreen(const context::Context& context, voice::Voice& voice, SettingsPage& settings,
+                       std::string folder, std::string version)
+    : context_(context),
+      voice_(voice),
       settings_(settings),
-      main_(tools.screens.main),
-      state_(tools.state),
+      main_(context.screens.main),
+      state_(context.state),
       folder_(std::move(folder)),
       version_(std::move(version)) {
   connectMenus();
@@ -26,13 +27,13 @@ void MainScreen::demarrerProgramme() {
   state_.dureeSequence = model::timeValue("00:00:00");
   state_.pasChrono = model::timeValue("00:00:01");
   main_.show();
-  tools_.screens.editor.load();
-  tools_.loop.guard([this] { settings_.lireOuCreer(); });
+  context_.screens.editor.load();
+  context_.loop.guard([this] { settings_.lireOuCreer(); });
   main_.mnVerAct.caption = "Version Actuelle du Logiciel (" + version_ + ")";
-  tools_.voice.dire(main_.Check2.value == 1 ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
-  tools_.screens.volume.load();
-  tools_.screens.announcements.load();
-  tools_.screens.player.load();
+  voice_.dire(main_.Check2.value == 1 ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
+  context_.screens.volume.load();
+  context_.screens.announcements.load();
+  context_.screens.player.load();
 }
 
 void MainScreen::makeFolders() {
@@ -42,7 +43,7 @@ void MainScreen::makeFolders() {
   for (const std::string& folder :
        {folder_, state_.dossierProgramme + "chronodat", state_.dossierProgramme + "annonces",
         state_.dossierProgramme + "ambiances", state_.dossierProgramme + "Vid"}) {
-    if (!tools_.outside.files.exists(folder)) tools_.outside.files.makeFolder(folder);
+    if (!context_.outside.files.exists(folder)) context_.outside.files.makeFolder(folder);
   }
 }
 
@@ -66,7 +67,7 @@ void MainScreen::openEditor() {
   main_.hide();
   showCountdownLength(main_);
   if (main_.Command7.caption == "Pause") main_.MyFrame2.visible = true;
-  tools_.screens.editor.show();
+  context_.screens.editor.show();
 }
 
 void MainScreen::connectHoverHelp() {
@@ -91,10 +92,10 @@ void MainScreen::connectHoverHelp() {
 }
 
 void MainScreen::quitterProgramme() {
-  tools_.screens.player.Timer3.enabled = true;
-  tools_.voice.attendre(1);
-  if (state_.ecranVeilleActif == "oui") tools_.outside.screenSaver.setActive(true);
-  tools_.loop.quit();
+  context_.screens.player.Timer3.enabled = true;
+  voice_.attendre(1);
+  if (state_.ecranVeilleActif == "oui") context_.outside.screenSaver.setActive(true);
+  context_.loop.quit();
 }
 
 }  // namespace runner

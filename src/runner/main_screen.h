@@ -3,14 +3,16 @@
 
 #include <string>
 
+#include "context/context.h"
 #include "runner/settings_page.h"
-#include "voice/toolbox.h"
+#include "voice/voice.h"
 
 namespace runner {
 
 class MainScreen {
  public:
-  MainScreen(const voice::Toolbox& tools, SettingsPage& settings, std::string folder, std::string version);
+  MainScreen(const context::Context& context, voice::Voice& voice, SettingsPage& settings, std::string folder,
+             std::string version);
 
   // A platform::FileFault where one of the program's folders cannot be made.
   void demarrerProgramme();
@@ -23,7 +25,8 @@ class MainScreen {
   void connectHoverHelp();
   void openEditor();
 
-  voice::Toolbox tools_;
+  context::Context context_;
+  voice::Voice& voice_;
   SettingsPage& settings_;
   forms::MainForm& main_;
   model::SharedState& state_;

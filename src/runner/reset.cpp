@@ -7,8 +7,8 @@
 
 namespace runner {
 
-Reset::Reset(const voice::Toolbox& tools, RideWaits& waits)
-    : tools_(tools), waits_(waits), main_(tools.screens.main), state_(tools.state) {
+Reset::Reset(const context::Context& context, voice::Voice& voice, RideWaits& waits)
+    : context_(context), voice_(voice), waits_(waits), main_(context.screens.main), state_(context.state) {
   main_.MyButton4.click.handle([this] { annulerSeance(); });
   main_.MyButton1.click.handle([this] { boutonStart(); });
 }
@@ -17,9 +17,9 @@ void Reset::annulerSeance() {
   waits_.overtake();
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
-  if (state_.etatFin != "terminer" && state_.sequenceCourante > 0) {
+  if (state_.etatFin != "terminer" && state_.plan.sequenceCourante > 0) {
     showIdlePicture(main_);
-    tools_.voice.dire("seanceAnnule.wav");
+    voice_.dire("seanceAnnule.wav");
   }
   main_.Command7.caption = "Pause";
   openRideButtons(main_, false);
@@ -33,14 +33,14 @@ void Reset::annulerSeance() {
   main_.Timer1.enabled = false;
   main_.Timer2.enabled = false;
   state_.ecouleSequence = 0;
-  state_.sequenceCourante = 0;
+  state_.plan.sequenceCourante = 0;
   state_.dureeSequence = model::timeValue("00:00:00");
   for (auto* digits : {&main_.Label4, &main_.Label5, &main_.Label6}) digits->caption = "00";
   for (auto* field : {&main_.Label10, &main_.Label11, &main_.Label12, &main_.Label15, &main_.Label20}) {
     field->caption = "";
   }
   for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) box->text = "00";
-  if (state_.ecranVeilleActif == "oui") tools_.outside.screenSaver.setActive(true);
+  if (state_.ecranVeilleActif == "oui") context_.outside.screenSaver.setActive(true);
   waits_.endHold();
 }
 

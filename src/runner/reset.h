@@ -2,14 +2,15 @@
 // stops.
 #pragma once
 
+#include "context/context.h"
 #include "runner/ride_waits.h"
-#include "voice/toolbox.h"
+#include "voice/voice.h"
 
 namespace runner {
 
 class Reset {
  public:
-  Reset(const voice::Toolbox& tools, RideWaits& waits);
+  Reset(const context::Context& context, voice::Voice& voice, RideWaits& waits);
 
   void annulerSeance();
   void boutonStart();
@@ -17,7 +18,8 @@ class Reset {
  private:
   void startManualChrono();
 
-  voice::Toolbox tools_;
+  context::Context context_;
+  voice::Voice& voice_;
   RideWaits& waits_;
   forms::MainForm& main_;
   model::SharedState& state_;

@@ -14,10 +14,11 @@ constexpr const char* defaultFileCountdown = "2 ";
 
 }  // namespace
 
-SettingsPage::SettingsPage(const voice::Toolbox& tools)
-    : tools_(tools),
-      main_(tools.screens.main),
-      state_(tools.state),
+SettingsPage::SettingsPage(const context::Context& context, voice::Voice& voice)
+    : context_(context),
+      voice_(voice),
+      main_(context.screens.main),
+      state_(context.state),
       boxes_{&main_.Check1,  &main_.Check2,  &main_.Check3, &main_.Check4, &main_.Check5,
              &main_.Check6,  &main_.Check7,  &main_.Check8, &main_.Check9, &main_.Check10,
              &main_.Check11, &main_.Check12, &main_.Check13},
@@ -27,7 +28,7 @@ SettingsPage::SettingsPage(const voice::Toolbox& tools)
   main_.MyButton7.click.handle([this] { enregistrerParametres(); });
   main_.MyButton8.click.handle([this] {
     parametresParDefaut();
-    tools_.voice.dire("parametrespardefautenr.wav");
+    voice_.dire("parametrespardefautenr.wav");
   });
   main_.MyButton16.click.handle([this] { lireParametres(); });
   main_.MyButton10.click.handle([this] { enregistrerParametres(); });
@@ -43,7 +44,7 @@ void SettingsPage::coupleBoxes() {
   main_.Check2.click.handle([this] {
     const bool on = main_.Check2.value == 1;
     setAnnouncements(on ? 1 : 0);
-    tools_.voice.dire(on ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
+    voice_.dire(on ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
   });
   for (platform::CheckBox* box : announcements_) {
     box->click.handle([this, box] {
@@ -73,7 +74,7 @@ std::string SettingsPage::path() const {
 }
 
 void SettingsPage::lireOuCreer() {
-  if (tools_.outside.files.exists(path())) {
+  if (context_.outside.files.exists(path())) {
     lireParametres();
   } else {
     parametresParDefaut();
@@ -81,7 +82,7 @@ void SettingsPage::lireOuCreer() {
 }
 
 void SettingsPage::lireParametres() {
-  const std::optional<model::Settings> settings = model::readSettings(tools_.outside.files, path());
+  const std::optional<model::Settings> settings = model::readSettings(context_.outside.files, path());
   if (!settings) {
     repair();
     return;
@@ -95,7 +96,7 @@ void SettingsPage::lireParametres() {
 }
 
 void SettingsPage::repair() {
-  tools_.outside.dialogs.message(
+  context_.outside.dialogs.message(
       {platform::MessageKind::Critical, platform::MessageButtons::Ok, "Fichier Paramètres à Réinitialiser...",
        "Le Fichier de Données des Paramètres des Avertissement Sonores, a Subit des Modifications Néfastes "
        "au "
@@ -108,19 +109,19 @@ void SettingsPage::repair() {
 void SettingsPage::parametresParDefaut() {
   for (std::size_t i = 0; i < boxes_.size(); ++i) {
     boxes_.at(i)->value = defaultBoxes.at(i);
-    if (boxes_.at(i) == &main_.Check2) tools_.voice.attendre(2);
+    if (boxes_.at(i) == &main_.Check2) voice_.attendre(2);
   }
-  model::writeSettings(tools_.outside.files, path(), {defaultFile, defaultFileCountdown});
+  model::writeSettings(context_.outside.files, path(), {defaultFile, defaultFileCountdown});
 }
 
 void SettingsPage::enregistrerParametres() {
   model::Settings settings;
   for (std::size_t i = 0; i < boxes_.size(); ++i) settings.boxes.at(i) = boxes_.at(i)->value;
   settings.countdown = main_.Combo5.text;
-  model::writeSettings(tools_.outside.files, path(), settings);
+  model::writeSettings(context_.outside.files, path(), settings);
   state_.dureeChrono = main_.Combo5.text;
   main_.MyButton10.enabled = false;
-  tools_.voice.dire("parPersoenr.wav");
+  voice_.dire("parPersoenr.wav");
 }
 
 void SettingsPage::ouvrir() {

@@ -4,14 +4,15 @@
 #include <array>
 #include <string>
 
+#include "context/context.h"
 #include "model/settings_file.h"
-#include "voice/toolbox.h"
+#include "voice/voice.h"
 
 namespace runner {
 
 class SettingsPage {
  public:
-  explicit SettingsPage(const voice::Toolbox& tools);
+  SettingsPage(const context::Context& context, voice::Voice& voice);
 
   // At start-up: reads the file, or makes it.
   void lireOuCreer();
@@ -28,7 +29,8 @@ class SettingsPage {
   void repair();
   [[nodiscard]] std::string path() const;
 
-  voice::Toolbox tools_;
+  context::Context context_;
+  voice::Voice& voice_;
   forms::MainForm& main_;
   model::SharedState& state_;
   // Check1 to Check13, and of them those that say what is announced.

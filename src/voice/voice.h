@@ -3,19 +3,19 @@
 
 #include <string>
 
-#include "forms/lect_mci.h"
-#include "forms/main_form.h"
-#include "model/shared_state.h"
-#include "platform/event_loop.h"
-#include "platform/sound_output.h"
+#include "context/context.h"
+#include "forms/lect_mci_words.h"
 
 namespace voice {
 
 class Voice {
  public:
-  Voice(model::SharedState& state, platform::EventLoop& loop, platform::SoundOutput& sound,
-        const forms::MainForm& main, const forms::LectMCI& player)
-      : state_(state), loop_(loop), sound_(sound), main_(main), player_(player) {}
+  explicit Voice(const context::Context& context)
+      : state_(context.state),
+        loop_(context.loop),
+        sound_(context.outside.sound),
+        main_(context.screens.main),
+        player_(context.screens.player) {}
 
   // Replaces the name in `sonDemande` by its number; a name that is not in the bank stays.
   void nommerSon();
@@ -38,10 +38,8 @@ class Voice {
   // Names and plays in one.
   void dire(const std::string& name);
 
-  [[nodiscard]] bool musiqueChargee() const { return !player_.Text1.text.get().empty(); }
-
  private:
-  [[nodiscard]] bool musiqueCede() const { return main_.Check10.value == 1 && musiqueChargee(); }
+  [[nodiscard]] bool musiqueCede() const { return main_.Check10.value == 1 && forms::musicLoaded(player_); }
 
   model::SharedState& state_;
   platform::EventLoop& loop_;

@@ -39,8 +39,8 @@ std::string asText(bool value) {
 
 }  // namespace
 
-VolumeGeneral::VolumeGeneral(const voice::Toolbox& tools)
-    : tools_(tools), form_(tools.screens.volume), main_(tools.screens.main) {
+VolumeGeneral::VolumeGeneral(const context::Context& context)
+    : context_(context), form_(context.screens.volume), main_(context.screens.main) {
   form_.onLoad.handle([this] { load(); });
   form_.onUnload.handle([this] { master_.reset(); });
   form_.Tmr_Spy.tick.handle([this] { spy(); });
@@ -57,7 +57,7 @@ void VolumeGeneral::connectCallers() {
   for (platform::MenuItem* entry : {&main_.mnVolume, &main_.mnRGS, &main_.mnRGS2}) {
     entry->click.handle([this] { form_.show(); });
   }
-  for (platform::Button* button : {&main_.MyButton13, &tools_.screens.announcements.MyButton15}) {
+  for (platform::Button* button : {&main_.MyButton13, &context_.screens.announcements.MyButton15}) {
     button->click.handle([this] { form_.show(); });
   }
   main_.MyButton14.click.handle([this] {
@@ -71,7 +71,7 @@ void VolumeGeneral::connectCallers() {
     form_.unload();
     main_.Timer7.enabled = false;
   });
-  const auto openSettings = [this] { tools_.outside.shell.openSoundSettings(); };
+  const auto openSettings = [this] { context_.outside.shell.openSoundSettings(); };
   form_.MyButton10.click.handle(openSettings);
   for (platform::MenuItem* entry : {&main_.mnAjusterAudio, &main_.mnAjustAudio, &main_.mnAjustAudio2}) {
     entry->click.handle(openSettings);
@@ -79,7 +79,7 @@ void VolumeGeneral::connectCallers() {
 }
 
 clsAfMasterVolume& VolumeGeneral::master() {
-  if (!master_) master_.emplace(tools_.outside.volume);
+  if (!master_) master_.emplace(context_.outside.volume);
   return *master_;
 }
 
@@ -112,14 +112,14 @@ void VolumeGeneral::showMute() {
   main_.Image17.visible = on;
   main_.Image18.visible = !on;
   form_.Image3.picture = on ? form_.Image1.picture : form_.Image4.picture;
-  tools_.screens.editor.Image2.picture = form_.Image3.picture;
+  context_.screens.editor.Image2.picture = form_.Image3.picture;
 }
 
 // Where the bars really move they write back what was read, which changes nothing.
 void VolumeGeneral::showVolume() {
   const int percent = master().Percent();
   form_.VScroll1.value = percent;
-  tools_.screens.announcements.VScroll2.value = percent;
+  context_.screens.announcements.VScroll2.value = percent;
   form_.Lbl_Volume.caption = std::to_string(percent) + " %";
   volumeAffiche_ = std::to_string(percent);
   main_.Label38.caption = "Volume Actuel (" + volumeAffiche_ + "%)";

@@ -4,14 +4,14 @@
 #include <optional>
 #include <string>
 
-#include "voice/toolbox.h"
+#include "context/context.h"
 #include "volume/cls_af_master_volume.h"
 
 namespace volume {
 
 class VolumeGeneral {
  public:
-  explicit VolumeGeneral(const voice::Toolbox& tools);
+  explicit VolumeGeneral(const context::Context& context);
 
  private:
   clsAfMasterVolume& master();
@@ -22,7 +22,7 @@ class VolumeGeneral {
   void showVolume();
   void noticeOnce();
 
-  voice::Toolbox tools_;
+  context::Context context_;
   forms::VolumeGeneral& form_;
   forms::MainForm& main_;
   std::optional<clsAfMasterVolume> master_;  // made at first use, dropped at load and unload

@@ -12,7 +12,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/windows_test_base.h"
 #include "model/grid_rows.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 
 namespace {
 

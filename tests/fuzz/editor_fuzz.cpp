@@ -7,7 +7,7 @@
 
 #include "fuzz/check.h"
 #include "model/grid_rows.h"
-#include "model/vocabulary.h"
+#include "model/training_model.h"
 #include "model/windows1252.h"
 #include "platform/text.h"
 #include "support/session_bytes.h"
@@ -152,7 +152,7 @@ class Rider {
     press(start ? "MyButton5" : "MyButton6");
     const model::SharedState& state = program_.state();
     for (std::size_t i = 1; i <= static_cast<std::size_t>(state.nbSequences); ++i) {
-      check(model::parseSeconds(state.plan.planDuree.at(i)).has_value(), "a plan of durations");
+      check(model::parseSeconds(state.plan.rows.at(i).planDuree).has_value(), "a plan of durations");
     }
     run("advance 0.2\npress MainForm.MyButton5");
   }

@@ -4,10 +4,10 @@
 #include <deque>
 #include <vector>
 
+#include "context/context.h"
 #include "support/faulty_file_system.h"
 #include "support/memory_file_system.h"
 #include "support/recorded_devices.h"
-#include "voice/toolbox.h"
 
 namespace support {
 
@@ -58,8 +58,7 @@ struct Rig {
   RecordedVolume volume;
   RecordedPrinter printer;
   platform::Outside outside{clock, sound, dialogs, disk, saver, media, level, shell, volume, printer};
-  voice::Voice speaker{state, loop, sound, screens.main, screens.player};
-  voice::Toolbox tools{screens, state, loop, outside, speaker};
+  context::Context context{screens, state, loop, outside};
 };
 
 }  // namespace support

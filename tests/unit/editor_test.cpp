@@ -75,7 +75,7 @@ TEST_F(Editor, ADurationTakesEntriesOfItsListsAloneHoweverItsBoxIsLeft) {
     EXPECT_EQ(form.ListView1.text(1, column::duration), c.total) << c.typed;
     EXPECT_EQ(form.ListView1.text(3, column::duration), "00:00:01");
   }
-  EXPECT_EQ(program.state().plan.planDuree.at(1), "00:09:05");
+  EXPECT_EQ(program.state().plan.rows.at(1).planDuree, "00:09:05");
 }
 
 TEST_F(Editor, ATextThatIsNoDurationStaysOutOfThePlan) {

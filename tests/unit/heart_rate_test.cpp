@@ -25,7 +25,7 @@ const std::string saved = record("40 F\xE9minin 190050", "51");
 struct HeartRate : testing::Test, support::Rig {
   forms::CreerCycle& form = screens.editor;
   std::vector<std::string> faults;
-  Calculator calculator{tools};
+  Calculator calculator{context};
 
   void load(const std::optional<std::string>& stored = std::nullopt) {
     if (stored) memory.put(path, *stored);

@@ -10,8 +10,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct Help : testing::Test, support::Rig {
-  help::Films films{tools};
-  help::Web web{tools};
+  help::Films films{context};
+  help::Web web{context};
 };
 
 TEST_F(Help, OpensAFilmOfTheListUnseen) {

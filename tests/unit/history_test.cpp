@@ -34,7 +34,7 @@ class HistoryTest : public testing::Test, protected support::Rig {
   static std::vector<std::string> blankRow(int number) { return model::handMadeRow(number, "-----"); }
 
   platform::Grid& grid_ = screens.editor.ListView1;
-  editor::History history_{tools};
+  editor::History history_{context};
 };
 
 TEST_F(HistoryTest, RandomStepsComeBackExactlyBothWays) {

@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 struct Printing : testing::Test, support::Rig {
   forms::ImprimerTQ1& form = screens.print;
-  print::PrintForm logic{tools};
+  print::PrintForm logic{context};
 
   void openWith(int rows) {
     platform::Grid& list = screens.editor.ListView1;

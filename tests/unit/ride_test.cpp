@@ -62,7 +62,7 @@ TEST(Rides, QuittingInAWaitLeavesNothingRunning) {
   program.run(countdownOfTwoRows);
   program.run("at 2.5 press MainForm.Command4\nadvance 60");
   EXPECT_TRUE(program.loop().quitting());
-  EXPECT_EQ(program.state().sequenceCourante, 1);
+  EXPECT_EQ(program.state().plan.sequenceCourante, 1);
   EXPECT_THAT(program.run("journal prompt"),
               testing::AllOf(HasSubstr("seance1.wav"), Not(HasSubstr("seq1.wav"))));
 }
@@ -71,7 +71,7 @@ TEST(Rides, AFaultInATickIsToldOnceAndTheProgramGoesOn) {
   SimulatedProgram program;
   ASSERT_TRUE(program.start());
   program.run(countdownOfTwoRows);
-  program.state().plan.planDuree[2] = "bientôt";
+  program.state().plan.rows[2].planDuree = "bientôt";
   const std::string said = program.run("advance 30\njournal fault\npress MainForm.MyButton4\nadvance 1");
   EXPECT_THAT(said, HasSubstr("bientôt"));
   EXPECT_EQ(said.find("bientôt"), said.rfind("bientôt"));

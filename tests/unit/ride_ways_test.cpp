@@ -43,7 +43,7 @@ class Ways : public testing::TestWithParam<Ride> {
   std::string run(const std::string& commands) { return program_.run(commands); }
   forms::MainForm& main() { return program_.screens().main; }
   [[nodiscard]] bool paused() { return main().Command7.caption == "REPRENDRE"; }
-  [[nodiscard]] bool riding() { return paused() || program_.state().sequenceCourante > 0; }
+  [[nodiscard]] bool riding() { return paused() || program_.state().plan.sequenceCourante > 0; }
   [[nodiscard]] bool closed() {
     return !main().MyButton1.enabled && !main().MyButton4.enabled && !main().Command7.enabled;
   }

@@ -50,7 +50,7 @@ TEST(MasterVolume, IsFixedAtItsMakingAndInertWithoutADevice) {
 struct Dialog : testing::Test, support::Rig {
   forms::VolumeGeneral& form = screens.volume;
   forms::MainForm& main = screens.main;
-  volume::VolumeGeneral logic{tools};
+  volume::VolumeGeneral logic{context};
 };
 
 TEST_F(Dialog, AdvisesByTheLevel) {
@@ -97,7 +97,7 @@ TEST_F(Dialog, TellsOnceAtTheStartWhatWouldNotBeHeard) {
            {0.0, false, false, false}};
   for (const auto& row : rows) {
     support::Rig fresh;
-    const volume::VolumeGeneral dialog(fresh.tools);
+    const volume::VolumeGeneral dialog(fresh.context);
     fresh.volume.loudness = row.level;
     fresh.volume.silent = row.mute;
     fresh.volume.present = row.present;
