@@ -25,7 +25,7 @@ Chrono::Chrono(const voice::Toolbox& tools, Advance& advance, RideWaits& waits)
   main_.Timer1.tick.handle([this] { tickChrono(); });
   main_.Timer3.tick.handle([this] { tickSurveillance(); });
   main_.Timer9.tick.handle([this] { tickEcranVeille(); });
-  main_.Timer10.tick.handle([this] { tickPanneau(); });
+  platform::once(main_.Timer10, [this] { tickPanneau(); });
   main_.Picture6.hover.handle([this] { stepAsidePanel(); });
   main_.Label40.hover.handle([this] { stepAsidePanel(); });
   main_.Label44.hover.handle([this] { stepAsidePanel(); });
@@ -102,7 +102,6 @@ void Chrono::tickSurveillance() {
 }
 
 void Chrono::tickPanneau() {
-  main_.Timer10.enabled = false;
   if (!showsEndMessage(main_)) main_.Picture6.visible = true;
 }
 

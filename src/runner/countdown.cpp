@@ -26,14 +26,8 @@ Countdown::Countdown(const voice::Toolbox& tools, Advance& advance)
     box->enter.handle([this] { takeTypedTime(); });
     box->validate.handle([this] { takeTypedTime(); });
   }
-  main_.Timer4.tick.handle([this] {
-    main_.Timer4.enabled = false;
-    main_.MyButton1.click();
-  });
-  main_.Timer6.tick.handle([this] {
-    main_.Timer6.enabled = false;
-    main_.MyButton4.click();
-  });
+  platform::once(main_.Timer4, [this] { main_.MyButton1.click(); });
+  platform::once(main_.Timer6, [this] { main_.MyButton4.click(); });
 }
 
 void Countdown::lancerCompteRebours() {
