@@ -12,15 +12,9 @@ Ambience::Ambience(const context::Context& context, voice::Voice& voice, Selecti
       selection_(selection) {
   connectMainScreen();
   form_.MyButton9.click.handle([this] { leaveLibrary(); });
-  form_.Timer12.tick.handle([this] {
-    form_.Timer12.enabled = false;
-    form_.MyButton12.click();
-  });
-  form_.Timer13.tick.handle([this] { startWholeLibrary(); });
-  form_.Timer14.tick.handle([this] {
-    form_.Timer14.enabled = false;
-    form_.Command8.click();
-  });
+  platform::once(form_.Timer12, [this] { form_.MyButton12.click(); });
+  platform::once(form_.Timer13, [this] { startWholeLibrary(); });
+  platform::once(form_.Timer14, [this] { form_.Command8.click(); });
 }
 
 void Ambience::connectMainScreen() {
@@ -57,7 +51,6 @@ void Ambience::openLibrary() {
 
 void Ambience::startWholeLibrary() {
   main_.Check10.value = 1;
-  form_.Timer13.enabled = false;
   const auto library = static_cast<int>(form_.File1.lines().size());
   int& ticked = selection_.nbMusiquesCochees;
   if (ticked == 0 || ticked == library) {

@@ -32,14 +32,8 @@ ListeningLevel::ListeningLevel(const context::Context& context)
   form_.Timer2.tick.handle([this] { apply(); });
   form_.Timer5.tick.handle([this] { fadeStep(form_.Timer5, -1, form_.VScroll1.last); });
   form_.Timer6.tick.handle([this] { fadeStep(form_.Timer6, 1, form_.VScroll1.first); });
-  form_.Timer10.tick.handle([this] {
-    form_.Timer10.enabled = false;
-    form_.MyButton1.click();
-  });
-  form_.Timer11.tick.handle([this] {
-    form_.Timer11.enabled = false;
-    form_.MyButton2.click();
-  });
+  platform::once(form_.Timer10, [this] { form_.MyButton1.click(); });
+  platform::once(form_.Timer11, [this] { form_.MyButton2.click(); });
 }
 
 void ListeningLevel::makeReady() {

@@ -19,7 +19,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTextDocument>
-#include <QTimer>
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
@@ -162,11 +161,7 @@ QStringList bindingFaults(const platform::Form& form, const QWidget& page) {
 Binder::Binder(platform::EventLoop& loop, QObject* parent) : QObject(parent), loop_(loop) {}
 
 void Binder::run(std::function<void()> action) {
-  if (loop_.blocked()) {
-    QTimer::singleShot(20, this, [this, action = std::move(action)] { run(action); });
-  } else {
-    loop_.guard(action);
-  }
+  loop_.whenFree(std::move(action));
 }
 
 void Binder::bind(platform::Form& form, QWidget& page) {

@@ -2,7 +2,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
-#include <algorithm>
+#include <utility>
 
 #include "desktop/qt_text.h"
 #include "platform/documents_folder.h"
@@ -26,10 +26,6 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
       program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_, volume_, printer_},
                {folder, VENTORIA_VERSION, {}, platform::documentsFolder()}),
       windows_(program_, system, choice) {
-  alarm_.setSingleShot(true);
-  alarm_.setTimerType(Qt::PreciseTimer);
-  connect(&alarm_, &QTimer::timeout, this, &DesktopProgram::serve);
-  program_.loop().onReschedule([this] { arm(); });
   // A handler that is long at work serves events as it goes: the rider may press what ends it.
   program_.loop().onInput([] { QCoreApplication::processEvents(); });
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
@@ -43,8 +39,7 @@ bool DesktopProgram::start() {
   // Painted before the first prompt holds everything up.
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   if (!program_.start()) return false;
-  started_ = true;
-  arm();
+  alarm_.start();
   return true;
 }
 
@@ -54,23 +49,6 @@ void DesktopProgram::wake() {
   window.show();
   window.raise();
   window.activateWindow();
-}
-
-void DesktopProgram::serve() {
-  program_.loop().fireDue();
-  arm();
-}
-
-void DesktopProgram::arm() {
-  const platform::EventLoop& loop = program_.loop();
-  const std::optional<platform::Instant> due = loop.nextDue();
-  if (!started_ || loop.quitting() || !due) {
-    alarm_.stop();
-    return;
-  }
-  // A loop that is blocked serves nothing: looking again at once would only spin.
-  const platform::Instant wait = std::max(*due - clock_.now(), platform::Instant{loop.blocked() ? 10 : 0});
-  alarm_.start(wait);
 }
 
 void DesktopProgram::endWhenQuitting() {
@@ -93,9 +71,11 @@ void DesktopProgram::repaint() {
   windows_.refresh();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers |
                                   QEventLoop::X11ExcludeTimers);
-  // What was held back meanwhile is handled once the sound has ended, also where no new event comes.
-  QTimer::singleShot(0, this, [this] {
-    if (!program_.loop().blocked()) QCoreApplication::processEvents();
+  // What Qt has held back meanwhile is handled once the sound has ended, also where no new event comes.
+  if (std::exchange(inputHeld_, true)) return;
+  program_.loop().whenFree([this] {
+    inputHeld_ = false;
+    QCoreApplication::processEvents();
   });
 }
 

@@ -1,12 +1,12 @@
-// The program on the desktop: its devices, its windows, and Qt's event loop driving the program's own.
+// The program on the desktop: its devices, its windows, and what drives its loop.
 #pragma once
 
 #include <QObject>
-#include <QTimer>
 #include <string>
 
 #include "app/program.h"
 #include "desktop/dbus_screen_saver.h"
+#include "desktop/loop_alarm.h"
 #include "desktop/mpv_media.h"
 #include "desktop/pulse_connection.h"
 #include "desktop/pulse_endpoint_volume.h"
@@ -36,8 +36,6 @@ class DesktopProgram final : public QObject {
   void addSession(const std::string& path) { windows_.addSession(path); }
 
  private:
-  void serve();
-  void arm();
   void endWhenQuitting();
   void askToClose();
   void repaint();
@@ -57,9 +55,9 @@ class DesktopProgram final : public QObject {
   QtPrinter printer_;
   app::Program program_;
   Windows windows_;
-  QTimer alarm_;
+  LoopAlarm alarm_{program_.loop()};
   bool closing_ = false;
-  bool started_ = false;
+  bool inputHeld_ = false;
 };
 
 }  // namespace desktop

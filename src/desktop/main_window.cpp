@@ -70,6 +70,11 @@ void MainWindow::restyle() {
   emit rescaled();
 }
 
+bool MainWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowUnblocked) emit unblocked();
+  return QMainWindow::event(event);
+}
+
 void MainWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   restyle();

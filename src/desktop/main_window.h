@@ -24,8 +24,11 @@ class MainWindow final : public QMainWindow {
 
  signals:
   void rescaled();
+  // A dialog over it has closed.
+  void unblocked();
 
  protected:
+  bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

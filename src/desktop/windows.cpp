@@ -71,8 +71,8 @@ Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice cho
   addShortcuts(program, binder_, window_, *mainPage_, *editorPage_);
   makeDraggable();
   offerAppearance();
-  inboxOpens_.setInterval(20);
-  connect(&inboxOpens_, &QTimer::timeout, this, &Windows::takeSessions);
+  // Queued: who opened the dialog is still in the midst of his work as it closes.
+  connect(&window_, &MainWindow::unblocked, this, &Windows::takeSessions, Qt::QueuedConnection);
   refresh();
 }
 
@@ -138,23 +138,23 @@ void Windows::setTheme(ThemeMode mode) {
 
 void Windows::addSession(const std::string& path) {
   inbox_.push_back(path);
-  inboxOpens_.start();
-  takeSessions();
+  binder_.run([this] { takeSession(); });
 }
 
+// Each in an action of its own, which is a step of the editor's history.
 void Windows::takeSessions() {
-  while (!inbox_.empty() && !program_.loop().blocked() && QApplication::activeModalWidget() == nullptr) {
-    const std::string path = inbox_.front();
-    inbox_.pop_front();
-    binder_.run([this, &path] {
-      forms::Screens& screens = program_.screens();
-      const forms::MainForm& main = screens.main;
-      const bool riding = main.Timer1.enabled || main.Timer2.enabled || main.Command7.caption != "Pause";
-      if (main.visible && !riding) main.MyButton5.click();
-      screens.editor.sessionHandedIn(path);
-    });
-  }
-  if (inbox_.empty()) inboxOpens_.stop();
+  for (std::size_t left = inbox_.size(); left > 0; --left) binder_.run([this] { takeSession(); });
+}
+
+void Windows::takeSession() {
+  if (inbox_.empty() || QApplication::activeModalWidget() != nullptr) return;
+  const std::string path = inbox_.front();
+  inbox_.pop_front();
+  forms::Screens& screens = program_.screens();
+  const forms::MainForm& main = screens.main;
+  const bool riding = main.Timer1.enabled || main.Timer2.enabled || main.Command7.caption != "Pause";
+  if (main.visible && !riding) main.MyButton5.click();
+  screens.editor.sessionHandedIn(path);
 }
 
 void Windows::makeDraggable() {

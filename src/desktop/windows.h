@@ -3,7 +3,6 @@
 
 #include <QObject>
 #include <QString>
-#include <QTimer>
 #include <deque>
 #include <memory>
 #include <string>
@@ -50,6 +49,7 @@ class Windows final : public QObject {
   void showWhatIsLeft();
   void openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way);
   void takeSessions();
+  void takeSession();
   void makeDraggable();
   void offerAppearance();
   void setTheme(ThemeMode mode);
@@ -70,8 +70,7 @@ class Windows final : public QObject {
   FormWindow filmsWindow_;
   std::unique_ptr<VolumeView> volumeView_;
   std::unique_ptr<PrintView> printView_;
-  QTimer inboxOpens_;
-  std::deque<std::string> inbox_;  // session files that wait
+  std::deque<std::string> inbox_;  // session files that wait for a dialog to close
 };
 
 }  // namespace desktop

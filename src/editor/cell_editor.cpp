@@ -41,7 +41,7 @@ CellEditor::CellEditor(const context::Context& context, heartrate::Calculator& c
     box->validate.handle([this] { finishDuration(); });
   }
   form_.Timer1.tick.handle([this] { placerEditeur(); });
-  form_.Timer2.tick.handle([this] { hideBadge(); });
+  platform::once(form_.Timer2, [this] { hideBadge(); });
   form_.Timer3.tick.handle([this] { keepDurationPanelInside(); });
 }
 
@@ -208,7 +208,6 @@ void CellEditor::showBadge(const std::string& text, const platform::Colour& colo
 void CellEditor::hideBadge() {
   form_.Combo1.visible = false;
   form_.Picture1.visible = false;
-  form_.Timer2.enabled = false;
 }
 
 void CellEditor::keepDurationPanelInside() {

@@ -228,7 +228,7 @@ struct MainForm : platform::Form {
   Timer Timer7{*this, "Timer7", 10000};       // once: closes the volume dialog
   Timer Timer8{*this, "Timer8", 100};         // once: opens the sound settings page for the editor
   Timer Timer9{*this, "Timer9", 6000};        // keeps the screen saver off
-  Timer Timer10{*this, "Timer10", 1000};      // brings the ride panel back
+  Timer Timer10{*this, "Timer10", 1000};      // once: brings the ride panel back
 };
 
 }  // namespace forms

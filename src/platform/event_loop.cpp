@@ -1,6 +1,7 @@
 #include "platform/event_loop.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/timer.h"
 
@@ -89,6 +90,7 @@ EventLoop::Entry* EventLoop::firstDue(Instant horizon) const {
 }
 
 std::optional<Instant> EventLoop::nextDue() const {
+  if (!held_.empty() && !blocked()) return clock_.now();
   for (const Entry* entry : queue_) {
     if (!entry->running) return entry->due;
   }
@@ -121,6 +123,7 @@ bool EventLoop::runs(std::uint64_t action) const {
 
 void EventLoop::serveEvents() {
   fireDue();
+  runHeld();
   if (pump_ && !blocked()) pump_();
 }
 
@@ -142,6 +145,25 @@ void EventLoop::runUntil(Instant when) {
     const Instant timer = nextDue().value_or(when);
     const Instant input = (nextInput_ ? nextInput_() : std::nullopt).value_or(when);
     clock_.sleepUntil(std::min({when, timer, input}));
+  }
+}
+
+void EventLoop::unblock() {
+  --blocked_;
+  if (!blocked() && rescheduled_) rescheduled_();
+}
+
+void EventLoop::whenFree(std::function<void()> action) {
+  held_.push_back(std::move(action));
+  runHeld();
+}
+
+void EventLoop::runHeld() {
+  // An action that waits serves events, and so lets those behind it run meanwhile.
+  while (!quitting_ && !blocked() && !held_.empty()) {
+    const std::function<void()> action = std::move(held_.front());
+    held_.pop_front();
+    guard(action);
   }
 }
 

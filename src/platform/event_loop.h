@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -30,11 +31,17 @@ class EventLoop final : public TimerScheduler {
   void fireDue();
   // Serves events until `when`, sleeping from one due time to the next. Ends early when quitting.
   void runUntil(Instant when);
-  // When the next timer that may fire falls due.
+  // When the next timer that may fire falls due; now, where something is held back that may run.
   [[nodiscard]] std::optional<Instant> nextDue() const;
 
   // Runs something on behalf of the rider or a timer: an exception ends it and goes to the fault handler.
   void guard(const std::function<void()>& action);
+  // Guards what the rider caused: at once, or, while a sound blocks the loop, where the loop next serves
+  // events after it, each in its turn. The sound's end itself runs nothing: who played it is in the midst of
+  // his work.
+  void whenFree(std::function<void()> action);
+  // Runs what was held back, for a front that handles the rider's input in a loop of its own.
+  void runHeld();
   // The number of what runs now, the innermost where waits and dialogs let others in; 0: nothing does.
   [[nodiscard]] std::uint64_t action() const { return actions_.empty() ? 0 : actions_.back(); }
   // Whether it has not come to its end yet.
@@ -46,10 +53,11 @@ class EventLoop final : public TimerScheduler {
     nextInput_ = std::move(next);
   }
   void onFault(std::function<void(const std::string&)> handler) { faultHandler_ = std::move(handler); }
-  // Told when the next due time may have changed, for a front that sleeps on a timer of its own.
+  // Told when the next due time may have changed, and when a sound no longer blocks the loop: for a front
+  // that sleeps on a timer of its own.
   void onReschedule(std::function<void()> handler) { rescheduled_ = std::move(handler); }
 
-  // Ends the program: waits and sounds return at once, no timer fires any more.
+  // Ends the program: waits and sounds return at once, no timer fires and nothing held back runs any more.
   void quit() { quitting_ = true; }
   [[nodiscard]] bool quitting() const { return quitting_; }
 
@@ -57,7 +65,7 @@ class EventLoop final : public TimerScheduler {
   class Blocking {
    public:
     explicit Blocking(EventLoop& loop) : loop_(loop) { ++loop_.blocked_; }
-    ~Blocking() { --loop_.blocked_; }
+    ~Blocking() { loop_.unblock(); }
     Blocking(const Blocking&) = delete;
     Blocking& operator=(const Blocking&) = delete;
 
@@ -77,6 +85,7 @@ class EventLoop final : public TimerScheduler {
   void schedule(Entry& entry, Instant due);
   void unschedule(Entry& entry);
   void fire(Entry& entry);
+  void unblock();
   [[nodiscard]] Entry* firstDue(Instant horizon) const;
 
   Clock& clock_;
@@ -85,6 +94,7 @@ class EventLoop final : public TimerScheduler {
   std::uint64_t created_ = 0;
   std::vector<std::uint64_t> actions_;  // what runs, each inside the one before it
   std::uint64_t lastAction_ = 0;
+  std::deque<std::function<void()>> held_;  // until no sound blocks the loop
   std::function<void()> pump_;
   std::function<std::optional<Instant>()> nextInput_;
   std::function<void(const std::string&)> faultHandler_;

@@ -1,6 +1,9 @@
 // A repeating timer of a form; the event loop fires it while it is on and its form is loaded.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "platform/form.h"
 
 namespace platform {
@@ -28,5 +31,13 @@ class Timer final : public Component {
 
   TimerScheduler* scheduler_ = nullptr;
 };
+
+// A one-shot: each time it is turned on, the timer turns itself off, and then acts.
+inline void once(Timer& timer, std::function<void()> action) {
+  timer.tick.handle([&timer, action = std::move(action)] {
+    timer.enabled = false;
+    action();
+  });
+}
 
 }  // namespace platform

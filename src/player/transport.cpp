@@ -55,23 +55,15 @@ void Transport::attachButtons() {
 
 void Transport::attachTimers() {
   // Orders from other screens: each leaves the caller's handler and becomes a press in an event of its own.
-  const auto once = [](platform::Timer& timer, const platform::Button& button) {
-    timer.tick.handle([&timer, &button] {
-      timer.enabled = false;
-      button.click();
-    });
-  };
-  once(form_.Timer2, form_.Command8);
-  once(form_.Timer3, form_.Command2);
-  once(form_.Timer4, form_.Command5);
-  once(form_.Timer5, form_.Command3);
-  once(form_.Timer6, form_.Command4);
-  form_.Timer7.tick.handle([this] {
-    form_.Timer7.enabled = false;
+  platform::once(form_.Timer2, [this] { form_.Command8.click(); });
+  platform::once(form_.Timer3, [this] { form_.Command2.click(); });
+  platform::once(form_.Timer4, [this] { form_.Command5.click(); });
+  platform::once(form_.Timer5, [this] { form_.Command3.click(); });
+  platform::once(form_.Timer6, [this] { form_.Command4.click(); });
+  platform::once(form_.Timer7, [this] {
     if (medium_.chargé) reprendre();
   });
-  form_.Timer8.tick.handle([this] {
-    form_.Timer8.enabled = false;
+  platform::once(form_.Timer8, [this] {
     if (medium_.chargé) suspendre();
   });
   form_.Timer1.tick.handle([this] { platform::eachOnItsOwn([this] { suivrePosition(); }); });

@@ -85,10 +85,7 @@ PrintForm::PrintForm(const context::Context& context)
   form_.onLoad.handle([this] { prepare(); });
   context_.screens.editor.Command35.click.handle([this] { open(); });
   context_.screens.editor.mnImprim.click.handle([this] { open(); });
-  form_.Timer1.tick.handle([this] {
-    form_.Timer1.enabled = false;
-    form_.Command2.click();
-  });
+  platform::once(form_.Timer1, [this] { form_.Command2.click(); });
   form_.Command1.click.handle([this] { printList(); });
   form_.Command2.click.handle([this] { loadList(); });
   form_.Command3.click.handle([this] { form_.unload(); });

@@ -29,7 +29,7 @@ Chrono::Chrono(const context::Context& context, Advance& advance, RideWaits& wai
   main_.Timer1.tick.handle([this] { tickChrono(); });
   main_.Timer3.tick.handle([this] { tickSurveillance(); });
   main_.Timer9.tick.handle([this] { tickEcranVeille(); });
-  main_.Timer10.tick.handle([this] { tickPanneau(); });
+  platform::once(main_.Timer10, [this] { tickPanneau(); });
   main_.Picture6.hover.handle([this] { stepAsidePanel(); });
   main_.Label40.hover.handle([this] { stepAsidePanel(); });
   main_.Label44.hover.handle([this] { stepAsidePanel(); });
@@ -106,7 +106,6 @@ void Chrono::tickSurveillance() {
 }
 
 void Chrono::tickPanneau() {
-  main_.Timer10.enabled = false;
   if (!showsEndMessage(main_)) main_.Picture6.visible = true;
 }
 

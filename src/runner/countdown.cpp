@@ -30,14 +30,8 @@ Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advan
     box->enter.handle([this] { takeTypedTime(); });
     box->validate.handle([this] { takeTypedTime(); });
   }
-  main_.Timer4.tick.handle([this] {
-    main_.Timer4.enabled = false;
-    main_.MyButton1.click();
-  });
-  main_.Timer6.tick.handle([this] {
-    main_.Timer6.enabled = false;
-    main_.MyButton4.click();
-  });
+  platform::once(main_.Timer4, [this] { main_.MyButton1.click(); });
+  platform::once(main_.Timer6, [this] { main_.MyButton4.click(); });
 }
 
 void Countdown::lancerCompteRebours() {

@@ -33,10 +33,7 @@ SettingsPage::SettingsPage(const context::Context& context, voice::Voice& voice)
   main_.MyButton16.click.handle([this] { lireParametres(); });
   main_.MyButton10.click.handle([this] { enregistrerParametres(); });
   main_.MyButton6.click.handle([this] { close(); });
-  main_.Timer8.tick.handle([this] {
-    main_.Timer8.enabled = false;
-    ouvrir();
-  });
+  platform::once(main_.Timer8, [this] { ouvrir(); });
 }
 
 void SettingsPage::coupleBoxes() {

@@ -67,10 +67,7 @@ void VolumeGeneral::connectCallers() {
     main_.Timer7.enabled = true;
     form_.show();
   });
-  main_.Timer7.tick.handle([this] {
-    form_.unload();
-    main_.Timer7.enabled = false;
-  });
+  platform::once(main_.Timer7, [this] { form_.unload(); });
   const auto openSettings = [this] { context_.outside.shell.openSoundSettings(); };
   form_.MyButton10.click.handle(openSettings);
   for (platform::MenuItem* entry : {&main_.mnAjusterAudio, &main_.mnAjustAudio, &main_.mnAjustAudio2}) {

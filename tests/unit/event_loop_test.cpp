@@ -100,6 +100,43 @@ TEST_F(Loop, ABlockingSoundStopsEverything) {
   EXPECT_THAT(fired_, ElementsAre("first500"));
 }
 
+TEST_F(Loop, WhatIsHeldBackDuringASoundRunsInOrderWhereEventsAreServed) {
+  form_.second.enabled = false;
+  int wakes = 0;
+  loop_.onReschedule([&] { ++wakes; });
+  log(form_.first);
+  const auto say = [this](const char* what) { return [this, what] { fired_.emplace_back(what); }; };
+  const auto sound = [this](Instant length, auto... during) {
+    const platform::EventLoop::Blocking outer(loop_);
+    const platform::EventLoop::Blocking inner(loop_);  // a device's own, inside the voice's
+    (loop_.whenFree(during), ...);
+    clock_.sleepUntil(clock_.now() + length);
+  };
+  const auto speaks = [&] { sound(10ms, say("during")), fired_.emplace_back("behind"); };
+  const auto waits = [&] { advance(0ms), fired_.emplace_back("waited"); };
+  loop_.guard([&] {
+    sound(
+        90ms, speaks, [] { throw std::runtime_error("plein"); }, waits, say("last"));
+    EXPECT_THAT(fired_, testing::IsEmpty()) << "on top of the caller";
+    EXPECT_EQ(wakes, 1);
+    EXPECT_EQ(loop_.nextDue(), 90ms);
+  });
+  advance(30ms);
+  EXPECT_THAT(fired_, ElementsAre("behind", "first100", "last", "during", "waited"));
+  EXPECT_THAT(faults_, ElementsAre("plein"));
+  EXPECT_EQ(loop_.nextDue(), 200ms);
+
+  fired_.clear();
+  sound(10ms, say("first"));
+  loop_.whenFree(say("second"));  // freed, and not served yet
+  EXPECT_THAT(fired_, ElementsAre("first", "second"));
+  sound(
+      10ms, [this] { loop_.quit(); }, say("too late"));
+  loop_.serveEvents();
+  loop_.whenFree(say("too late"));
+  EXPECT_EQ(fired_.size(), 2U);
+}
+
 TEST_F(Loop, AHandlerSlowerThanItsPeriodDoesNotKeepTheCallerForEver) {
   form_.second.enabled = false;
   int runs = 0;
