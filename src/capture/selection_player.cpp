@@ -1,5 +1,6 @@
 #include "capture/selection_player.h"
 
+#include "forms/music_buttons.h"
 #include "platform/text.h"
 
 namespace capture {
@@ -39,8 +40,7 @@ void SelectionPlayer::demarrer() {
   form_.Timer4.enabled = true;
   selection_.prochaineMusique = 1;
   musiqueSuivante();
-  context_.screens.main.MyButton19.visible = false;
-  context_.screens.main.MyButton21.visible = true;
+  forms::showMusicPlaying(context_.screens.main);
 }
 
 int SelectionPlayer::tickedFrom(int row) const {
