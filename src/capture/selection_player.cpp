@@ -85,8 +85,10 @@ void SelectionPlayer::watch() {
   }
   if (chosen) {
     form_.Label6.visible = true;
-    // The player holds the position at the end of a piece, so that a look each second finds it there.
-    if (form_.Label5.caption == context_.state.dureeMusique) musiqueSuivante();
+    // The player holds the position at the end of a piece, so that a look each second finds it there. Before
+    // a piece is open it has no length to be at the end of.
+    const std::string& length = context_.state.dureeMusique;
+    if (!length.empty() && form_.Label5.caption == length) musiqueSuivante();
   }
   if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) form_.Command13.enabled = false;
 }
