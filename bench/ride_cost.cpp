@@ -17,7 +17,7 @@
 #include <stdexcept>
 
 #include "desktop/desktop_program.h"
-#include "desktop/qt_text.h"
+#include "widgets/qt_text.h"
 
 namespace {
 
@@ -54,7 +54,7 @@ double processorTime(pid_t process) {
 void ride(desktop::DesktopProgram& program, const QString& session) {
   widget<QAction>("MainForm", "mnambiance").trigger();
   for (const char* name : {"Command8", "Check1", "MyButton11", "MyButton9"}) press("EnrUneAnnonce", name);
-  program.addSession(desktop::fromQt(session));
+  program.addSession(widgets::fromQt(session));
   press("CreerCycle", "MyButton5");
   const auto& startOrStop = widget<QPushButton>("MainForm", "MyButton1");
   serveUntil([&] { return startOrStop.text() == QLatin1String("Stop"); }, 10000);
@@ -80,7 +80,7 @@ int main(int count, char** words) {
 
   constexpr int untilItRuns = 30000;  // ms: the countdown and the first words
   const int seconds = arguments[3].toInt();
-  desktop::DesktopProgram program(desktop::fromQt(folder.path()), desktop::ThemeMode::Dark);
+  desktop::DesktopProgram program(widgets::fromQt(folder.path()), widgets::ThemeMode::Dark);
   if (!program.start()) return 1;
   widget<QWidget>("MainForm", "header").window()->resize(1920, 1080);
   ride(program, arguments[1]);

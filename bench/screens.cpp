@@ -5,11 +5,11 @@
 #include <QApplication>
 #include <QScrollBar>
 
-#include "desktop/grid_table.h"
 #include "desktop/windows.h"
 #include "model/grid_rows.h"
 #include "model/session_file.h"
 #include "support/simulated_program.h"
+#include "widgets/grid_table.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ struct Screens : support::SimulatedProgram {
     list().removeRow(2);  // the one that waits to be filled
     for (int number = 2; number <= rows; ++number) list().addRow(row(number));
     run("advance 2");
-    windows.emplace(program(), desktop::ThemeMode::Dark);
+    windows.emplace(program(), widgets::ThemeMode::Dark);
     windows->window().resize(size);
     windows->window().show();
     draw();
@@ -37,8 +37,8 @@ struct Screens : support::SimulatedProgram {
     windows->refresh();
     QCoreApplication::processEvents();
   }
-  desktop::GridTable& table() {
-    return *windows->page(screens().editor)->findChild<desktop::GridTable*>(QStringLiteral("ListView1"));
+  widgets::GridTable& table() {
+    return *windows->page(screens().editor)->findChild<widgets::GridTable*>(QStringLiteral("ListView1"));
   }
 
   std::optional<desktop::Windows> windows;

@@ -1,4 +1,4 @@
-# The only floors that know Qt and the audio libraries.
+# The front with a display. Only devices/ knows the audio libraries, only widgets/, desktop/ and stage/ know Qt.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg DBus Network PrintSupport)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(PULSE REQUIRED IMPORTED_TARGET libpulse)
@@ -6,27 +6,31 @@ pkg_check_modules(SNDFILE REQUIRED IMPORTED_TARGET sndfile)
 pkg_check_modules(SAMPLERATE REQUIRED IMPORTED_TARGET samplerate)
 pkg_check_modules(MPV REQUIRED IMPORTED_TARGET mpv)
 
+ventoria_floor(devices LINKS ventoria_context PkgConfig::PULSE PkgConfig::SNDFILE PkgConfig::SAMPLERATE PkgConfig::MPV)
+
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
 
-# Objects rather than an archive: a resource file registers itself only if its object is really linked.
-ventoria_floor(desktop TYPE OBJECT
-  LINKS ventoria_app Qt6::Widgets Qt6::Svg Qt6::DBus Qt6::Network Qt6::PrintSupport PkgConfig::PULSE PkgConfig::SNDFILE
-    PkgConfig::SAMPLERATE PkgConfig::MPV)
-get_target_property(desktop_kind ventoria_desktop TYPE)
-if(NOT desktop_kind STREQUAL "INTERFACE_LIBRARY")
-  file(GLOB extras CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/*.h ${PROJECT_SOURCE_DIR}/src/desktop/*.qrc)
-  file(GLOB pages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/ui/*.ui)
-  # One by one: the build loses sight of headers that AUTOUIC writes, and takes up a changed page a build late.
-  qt_wrap_ui(page_headers ${pages})
-  target_sources(ventoria_desktop PRIVATE ${extras} ${page_headers})
-  target_include_directories(ventoria_desktop PRIVATE ${PROJECT_BINARY_DIR})
-  set_target_properties(ventoria_desktop PROPERTIES AUTOGEN_BUILD_DIR ${PROJECT_BINARY_DIR}/moc)
-endif()
-ventoria_program(ventoria desktop LINKS ventoria_desktop)
+# Objects rather than archives: a resource file registers itself only if its object is really linked.
+ventoria_floor(widgets TYPE OBJECT LINKS ventoria_context Qt6::Widgets Qt6::Svg)
+ventoria_floor(desktop TYPE OBJECT LINKS ventoria_app ventoria_devices ventoria_widgets Qt6::DBus Qt6::Network Qt6::PrintSupport)
+foreach(floor widgets desktop)
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${floor}/*.h)
+  target_sources(ventoria_${floor} PRIVATE ${headers})
+  set_target_properties(ventoria_${floor} PROPERTIES AUTOGEN_BUILD_DIR ${PROJECT_BINARY_DIR}/moc-${floor})
+endforeach()
+target_sources(ventoria_widgets PRIVATE ${PROJECT_SOURCE_DIR}/src/widgets/widgets.qrc)
 
-ventoria_floor(stage LINKS ventoria_desktop ventoria_console)
-ventoria_program(ventoria-stage stage LINKS ventoria_stage ventoria_desktop)
+file(GLOB pages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/desktop/ui/*.ui)
+# One by one: the build loses sight of headers that AUTOUIC writes, and takes up a changed page a build late.
+qt_wrap_ui(page_headers ${pages})
+target_sources(ventoria_desktop PRIVATE ${page_headers})
+target_include_directories(ventoria_desktop PRIVATE ${PROJECT_BINARY_DIR})
+
+ventoria_program(ventoria desktop LINKS ventoria_desktop ventoria_widgets)
+
+ventoria_floor(stage LINKS ventoria_desktop ventoria_widgets ventoria_console)
+ventoria_program(ventoria-stage stage LINKS ventoria_stage ventoria_desktop ventoria_widgets)
 
 set(CMAKE_AUTOMOC OFF)
 set(CMAKE_AUTORCC OFF)

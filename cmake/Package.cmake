@@ -6,7 +6,7 @@ install(TARGETS ventoria ventoria-console RUNTIME DESTINATION ${CMAKE_INSTALL_BI
 install(FILES ${packaging}/ventoria.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/ventoria-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME ventoria.xml)
 install(FILES ${packaging}/example.ventoria.Ventoria.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${PROJECT_SOURCE_DIR}/src/desktop/icons/ventoria.svg
+install(FILES ${PROJECT_SOURCE_DIR}/src/widgets/icons/ventoria.svg
   DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${packaging}/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ventoria)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/assets/sessions/ DESTINATION ${CMAKE_INSTALL_DATADIR}/ventoria/sessions

@@ -6,12 +6,21 @@
 #include <cmath>
 #include <utility>
 
-#include "desktop/look.h"
-#include "desktop/qt_text.h"
+#include "devices/sound_peaks.h"
 #include "platform/each_on_its_own.h"
 #include "ui_enr_une_annonce.h"
+#include "widgets/look.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using devices::peaksOf;
+using widgets::fromQt;
+using widgets::setLook;
+using widgets::TakeRing;
+using widgets::toQt;
+using widgets::Waveform;
+
 namespace {
 
 // The number that stands in a text behind a beginning; 0 for none.

@@ -5,6 +5,9 @@
 #include <array>
 
 namespace desktop {
+
+using widgets::ThemeMode;
+
 namespace {
 
 using Choice = Appearance::Choice;

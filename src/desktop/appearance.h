@@ -3,7 +3,7 @@
 
 #include <QObject>
 
-#include "desktop/theme.h"
+#include "widgets/theme.h"
 
 class QMenu;
 class QString;
@@ -15,13 +15,14 @@ class Appearance final : public QObject {
  public:
   enum class Choice { System, Light, Dark };
 
-  explicit Appearance(ThemeMode system, Choice choice = Choice::System) : system_(system), choice_(choice) {}
-  [[nodiscard]] ThemeMode mode() const;
+  explicit Appearance(widgets::ThemeMode system, Choice choice = Choice::System)
+      : system_(system), choice_(choice) {}
+  [[nodiscard]] widgets::ThemeMode mode() const;
   [[nodiscard]] Choice choice() const { return choice_; }
-  [[nodiscard]] ThemeMode system() const { return system_; }
+  [[nodiscard]] widgets::ThemeMode system() const { return system_; }
   void choose(Choice choice);
   // What the desktop wants now.
-  void setSystem(ThemeMode mode);
+  void setSystem(widgets::ThemeMode mode);
   // Fills a menu with the choices.
   void offerIn(QMenu& menu);
   // How a choice is kept from one start to the next.
@@ -30,12 +31,12 @@ class Appearance final : public QObject {
 
  signals:
   void chosen(desktop::Appearance::Choice choice);
-  void changed(desktop::ThemeMode mode);
+  void changed(widgets::ThemeMode mode);
 
  private:
-  void update(ThemeMode before);
+  void update(widgets::ThemeMode before);
 
-  ThemeMode system_;
+  widgets::ThemeMode system_;
   Choice choice_;
 };
 

@@ -23,13 +23,20 @@
 #include <stdexcept>
 #include <utility>
 
-#include "desktop/grid_table.h"
 #include "desktop/keyboard_focus.h"
-#include "desktop/qt_text.h"
-#include "desktop/theme.h"
 #include "desktop/unseen_controls.h"
+#include "widgets/grid_table.h"
+#include "widgets/qt_text.h"
+#include "widgets/theme.h"
 
 namespace desktop {
+
+using widgets::dp;
+using widgets::fromQt;
+using widgets::GridTable;
+using widgets::onScreen;
+using widgets::toQt;
+
 namespace {
 
 using platform::Component;

@@ -6,7 +6,6 @@
 #include <utility>
 
 namespace desktop {
-
 namespace {
 
 constexpr int kPatienceMs = 300;

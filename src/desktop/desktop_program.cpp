@@ -4,10 +4,14 @@
 #include <QCoreApplication>
 #include <utility>
 
-#include "desktop/qt_text.h"
 #include "platform/documents_folder.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::ThemeMode;
+
+using widgets::toQt;
 
 DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appearance::Choice choice)
     : connection_("Ventoria"),

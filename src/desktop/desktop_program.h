@@ -7,16 +7,16 @@
 #include "app/program.h"
 #include "desktop/dbus_screen_saver.h"
 #include "desktop/loop_alarm.h"
-#include "desktop/mpv_media.h"
-#include "desktop/pulse_connection.h"
-#include "desktop/pulse_endpoint_volume.h"
-#include "desktop/pulse_output_level.h"
-#include "desktop/pulse_sound_output.h"
 #include "desktop/qt_clock.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_printer.h"
 #include "desktop/qt_shell.h"
 #include "desktop/windows.h"
+#include "devices/mpv_media.h"
+#include "devices/pulse_connection.h"
+#include "devices/pulse_endpoint_volume.h"
+#include "devices/pulse_output_level.h"
+#include "devices/pulse_sound_output.h"
 #include "platform/disk_file_system.h"
 #include "platform/media_parser.h"
 
@@ -25,7 +25,7 @@ namespace desktop {
 class DesktopProgram final : public QObject {
   Q_OBJECT
  public:
-  DesktopProgram(const std::string& folder, ThemeMode system,
+  DesktopProgram(const std::string& folder, widgets::ThemeMode system,
                  Appearance::Choice choice = Appearance::Choice::System);
 
   [[nodiscard]] Appearance& appearance() { return windows_.appearance(); }
@@ -42,16 +42,16 @@ class DesktopProgram final : public QObject {
   void repaintBlocking();
 
   QtClock clock_;
-  PulseConnection connection_;
-  PulseOutputLevel level_;
-  PulseSoundOutput sound_;
+  devices::PulseConnection connection_;
+  devices::PulseOutputLevel level_;
+  devices::PulseSoundOutput sound_;
   QtDialogs dialogs_;
   platform::DiskFileSystem files_;
   DbusScreenSaver screenSaver_;
-  MpvMedia mpv_{connection_, level_, files_};
+  devices::MpvMedia mpv_{connection_, level_, files_};
   platform::ParsedMediaCommands media_{mpv_};
   QtShell shell_;
-  PulseEndpointVolume volume_;
+  devices::PulseEndpointVolume volume_;
   QtPrinter printer_;
   app::Program program_;
   Windows windows_;

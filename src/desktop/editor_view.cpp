@@ -10,17 +10,31 @@
 #include <array>
 #include <utility>
 
-#include "desktop/free_ground.h"
-#include "desktop/look.h"
-#include "desktop/qt_text.h"
-#include "desktop/theme.h"
-#include "desktop/within.h"
 #include "model/grid_rows.h"
 #include "model/time_value.h"
 #include "platform/text.h"
 #include "ui_creer_cycle.h"
+#include "widgets/free_ground.h"
+#include "widgets/look.h"
+#include "widgets/qt_text.h"
+#include "widgets/theme.h"
+#include "widgets/within.h"
 
 namespace desktop {
+
+using widgets::dp;
+using widgets::familyColour;
+using widgets::FreeGround;
+using widgets::GridModel;
+using widgets::GridTable;
+using widgets::MovablePanel;
+using widgets::ProfileStep;
+using widgets::SessionProfile;
+using widgets::setLook;
+using widgets::toQt;
+using widgets::within;
+using widgets::ZoneBand;
+
 namespace {
 
 using model::EffortFamily;

@@ -7,8 +7,8 @@
 #include <memory>
 
 #include "desktop/binder.h"
-#include "desktop/movable_panel.h"
 #include "forms/creer_cycle.h"
+#include "widgets/movable_panel.h"
 
 namespace Ui {
 class CreerCycle;
@@ -48,7 +48,7 @@ class EditorView final : public QObject {
 
   forms::CreerCycle& form_;
   std::unique_ptr<Ui::CreerCycle> ui_;
-  MovablePanel* help_ = nullptr;
+  widgets::MovablePanel* help_ = nullptr;
   QWidget& page_;
   Binder& binder_;
   QTimer pending_;

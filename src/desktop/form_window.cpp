@@ -3,10 +3,15 @@
 #include <QCloseEvent>
 #include <QVBoxLayout>
 
-#include "desktop/qt_text.h"
 #include "desktop/window_scale.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::scaleOf;
+using widgets::ThemeMode;
+
+using widgets::toQt;
 
 FormWindow::FormWindow(platform::Form& form, const QSize& design, ThemeMode mode, QWidget& over)
     : QDialog(&over, Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),

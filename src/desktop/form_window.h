@@ -4,8 +4,8 @@
 #include <QDialog>
 #include <functional>
 
-#include "desktop/theme.h"
 #include "platform/form.h"
+#include "widgets/theme.h"
 
 namespace desktop {
 
@@ -13,11 +13,11 @@ class FormWindow final : public QDialog {
   Q_OBJECT
  public:
   // `design` is its size beside a main window of 1280 x 800.
-  FormWindow(platform::Form& form, const QSize& design, ThemeMode mode, QWidget& over);
+  FormWindow(platform::Form& form, const QSize& design, widgets::ThemeMode mode, QWidget& over);
   [[nodiscard]] QWidget& page() const { return *page_; }
   // The page is complete: it takes the window's scale, and the form's state.
   void whenBound();
-  void setTheme(ThemeMode mode);
+  void setTheme(widgets::ThemeMode mode);
   // What leaves the form when the window is closed or Escape pressed.
   void onClose(std::function<void()> asked) { closeAsked_ = std::move(asked); }
 
@@ -37,7 +37,7 @@ class FormWindow final : public QDialog {
   QWidget& over_;
   QWidget* page_;
   QSize design_;
-  ThemeMode mode_;
+  widgets::ThemeMode mode_;
   double scale_ = 0;
   std::function<void()> closeAsked_;
 };

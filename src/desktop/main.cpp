@@ -8,11 +8,11 @@
 #include <iostream>
 
 #include "desktop/desktop_program.h"
-#include "desktop/qt_text.h"
 #include "desktop/single_instance.h"
 #include "desktop/system_look.h"
-#include "desktop/theme.h"
 #include "platform/program_folder.h"
+#include "widgets/qt_text.h"
+#include "widgets/theme.h"
 
 namespace {
 
@@ -68,7 +68,7 @@ int main(int count, char** words) {
                                QStringLiteral("[séance]"));
   parser.process(application);
 
-  const std::string asked = desktop::fromQt(parser.value(folderOption));
+  const std::string asked = widgets::fromQt(parser.value(folderOption));
   const std::string folder = std::filesystem::absolute(asked.empty() ? platform::programFolder() : asked)
                                  .lexically_normal()
                                  .string();
@@ -76,10 +76,10 @@ int main(int count, char** words) {
                               ? QString()
                               : QFileInfo(parser.positionalArguments().constFirst()).absoluteFilePath();
   desktop::DesktopProgram* running = nullptr;
-  const desktop::SingleInstance instance(desktop::toQt(folder), [&running](const QString& path) {
+  const desktop::SingleInstance instance(widgets::toQt(folder), [&running](const QString& path) {
     if (running == nullptr) return;
     running->wake();
-    if (!path.isEmpty()) running->addSession(desktop::fromQt(path));
+    if (!path.isEmpty()) running->addSession(widgets::fromQt(path));
   });
   if (!instance.first()) {
     instance.wakeFirst(session);
@@ -87,11 +87,11 @@ int main(int count, char** words) {
   }
 
   desktop::SystemLook system;
-  desktop::DesktopProgram program(folder, system.colours().value_or(desktop::platformTheme()),
+  desktop::DesktopProgram program(folder, system.colours().value_or(widgets::platformTheme()),
                                   choiceOf(parser.value(themeOption)));
   running = &program;
   follow(system, program.appearance());
   if (!program.start()) return 1;
-  if (!session.isEmpty()) program.addSession(desktop::fromQt(session));
+  if (!session.isEmpty()) program.addSession(widgets::fromQt(session));
   return QApplication::exec();
 }

@@ -2,15 +2,22 @@
 
 #include <QGuiApplication>
 
-#include "desktop/fade_away.h"
 #include "desktop/keyboard_focus.h"
-#include "desktop/look.h"
-#include "desktop/qt_text.h"
-#include "desktop/theme.h"
 #include "model/training_model.h"
 #include "ui_main_form.h"
+#include "widgets/fade_away.h"
+#include "widgets/look.h"
+#include "widgets/qt_text.h"
+#include "widgets/theme.h"
 
 namespace desktop {
+
+using widgets::FadeAway;
+using widgets::ProfileStep;
+namespace role = widgets::role;
+using widgets::setLook;
+using widgets::toQt;
+
 namespace {
 
 std::size_t at(int row) {

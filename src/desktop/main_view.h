@@ -8,9 +8,9 @@
 #include <memory>
 #include <vector>
 
-#include "desktop/effort_views.h"
 #include "forms/main_form.h"
 #include "model/training_model.h"
+#include "widgets/effort_views.h"
 
 namespace Ui {
 class MainForm;

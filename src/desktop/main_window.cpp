@@ -7,6 +7,9 @@
 #include "desktop/window_scale.h"
 
 namespace desktop {
+
+using widgets::ThemeMode;
+
 namespace {
 
 constexpr QSize design(1280, 800);

@@ -5,18 +5,18 @@
 #include <QStackedWidget>
 #include <functional>
 
-#include "desktop/theme.h"
+#include "widgets/theme.h"
 
 namespace desktop {
 
 class MainWindow final : public QMainWindow {
   Q_OBJECT
  public:
-  explicit MainWindow(ThemeMode mode);
+  explicit MainWindow(widgets::ThemeMode mode);
 
   void addPage(QWidget* page);
   void showPage(QWidget* page);
-  void setTheme(ThemeMode mode);
+  void setTheme(widgets::ThemeMode mode);
   // Shows the window no larger than the screen leaves room, its frame included.
   void showFitting();
   // The rider wants to close the window; it closes by itself only where nobody is asked.
@@ -38,7 +38,7 @@ class MainWindow final : public QMainWindow {
   void fitScreen();
 
   QStackedWidget pages_;
-  ThemeMode mode_;
+  widgets::ThemeMode mode_;
   double scale_ = 0;
   std::function<void()> closeAsked_;
 };

@@ -6,10 +6,14 @@
 #include <QPushButton>
 #include <array>
 
-#include "desktop/qt_text.h"
 #include "platform/text.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::fromQt;
+using widgets::toQt;
+
 namespace {
 
 using platform::Answer;

@@ -6,11 +6,17 @@
 #include <QStandardPaths>
 #include <algorithm>
 
-#include "desktop/page_painter.h"
-#include "desktop/qt_text.h"
 #include "platform/fault.h"
+#include "widgets/page_painter.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::fromQt;
+using widgets::paintGrid;
+using widgets::paintLine;
+
+using widgets::toQt;
 
 namespace {
 

@@ -9,9 +9,11 @@
 #include <algorithm>
 #include <array>
 
-#include "desktop/qt_text.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::toQt;
 
 namespace {
 

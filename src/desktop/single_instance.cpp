@@ -9,7 +9,6 @@
 #include <utility>
 
 namespace desktop {
-
 namespace {
 
 constexpr int kPatienceMs = 1000;

@@ -5,6 +5,9 @@
 #include <QDBusMetaType>
 
 namespace desktop {
+
+using widgets::ThemeMode;
+
 namespace {
 
 constexpr auto service = "org.freedesktop.portal.Desktop";

@@ -8,7 +8,7 @@
 #include <QVariantMap>
 #include <optional>
 
-#include "desktop/theme.h"
+#include "widgets/theme.h"
 
 namespace desktop {
 
@@ -16,7 +16,7 @@ class SystemLook final : public QObject {
   Q_OBJECT
  public:
   explicit SystemLook(const QDBusConnection& bus = QDBusConnection::sessionBus());
-  [[nodiscard]] std::optional<ThemeMode> colours() const;
+  [[nodiscard]] std::optional<widgets::ThemeMode> colours() const;
   [[nodiscard]] bool animations() const;
 
  signals:

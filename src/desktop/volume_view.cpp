@@ -1,9 +1,11 @@
 #include "desktop/volume_view.h"
 
-#include "desktop/qt_text.h"
 #include "ui_volume_general.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::toQt;
 
 VolumeView::VolumeView(forms::VolumeGeneral& form, forms::MainForm& main, QWidget& page)
     : form_(form), main_(main), ui_(std::make_unique<Ui::VolumeGeneral>()) {

@@ -6,6 +6,10 @@
 #include <cmath>
 
 namespace desktop {
+
+using widgets::ThemeMode;
+using widgets::themeStyleSheet;
+
 namespace {
 
 constexpr double step = 0.05;  // a new style sheet for every pixel of a drag would stutter

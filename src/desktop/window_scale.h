@@ -4,7 +4,7 @@
 #include <QSize>
 #include <QWidget>
 
-#include "desktop/theme.h"
+#include "widgets/theme.h"
 
 namespace desktop {
 
@@ -14,6 +14,6 @@ constexpr double smallestScale = 0.45;
 // How much larger than its design a window is, in steps that keep a drag from stuttering.
 [[nodiscard]] double fittingScale(const QSize& size, const QSize& design);
 // Shows all of `contents` at that scale, under the style sheet of its window.
-void scaleWindow(QWidget& window, QWidget& contents, ThemeMode mode, double scale);
+void scaleWindow(QWidget& window, QWidget& contents, widgets::ThemeMode mode, double scale);
 
 }  // namespace desktop

@@ -7,12 +7,18 @@
 #include <QWindow>
 #include <array>
 
-#include "desktop/accessible_faces.h"
-#include "desktop/qt_text.h"
 #include "desktop/shortcuts.h"
 #include "ui_aide_tq.h"
+#include "widgets/accessible_faces.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::applyTheme;
+using widgets::installAccessibleFaces;
+using widgets::ThemeMode;
+using widgets::toQt;
+
 namespace {
 
 // What the window can be dragged by; a press there does nothing else.

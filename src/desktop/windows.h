@@ -24,7 +24,8 @@ class Windows final : public QObject {
   Q_OBJECT
  public:
   // `system` is what the desktop wants, `choice` what the rider does.
-  Windows(app::Program& program, ThemeMode system, Appearance::Choice choice = Appearance::Choice::System);
+  Windows(app::Program& program, widgets::ThemeMode system,
+          Appearance::Choice choice = Appearance::Choice::System);
   ~Windows() override;
 
   [[nodiscard]] MainWindow& window() { return window_; }
@@ -52,7 +53,7 @@ class Windows final : public QObject {
   void takeSession();
   void makeDraggable();
   void offerAppearance();
-  void setTheme(ThemeMode mode);
+  void setTheme(widgets::ThemeMode mode);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   app::Program& program_;

@@ -16,15 +16,15 @@
 #include <array>
 #include <utility>
 
-#include "desktop/chronometer.h"
-#include "desktop/elided_label.h"
-#include "desktop/fit_label.h"
-#include "desktop/grid_table.h"
-#include "desktop/picture.h"
-#include "desktop/qt_text.h"
-#include "desktop/step_button.h"
 #include "platform/controls.h"
 #include "stage/contrast.h"
+#include "widgets/chronometer.h"
+#include "widgets/elided_label.h"
+#include "widgets/fit_label.h"
+#include "widgets/grid_table.h"
+#include "widgets/picture.h"
+#include "widgets/qt_text.h"
+#include "widgets/step_button.h"
 
 namespace stage {
 namespace {
@@ -59,11 +59,11 @@ class Audit {
            qobject_cast<const QAbstractSlider*>(&widget) != nullptr ||
            qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
            qobject_cast<const QProgressBar*>(&widget) != nullptr ||
-           QLatin1String(widget.metaObject()->className()).startsWith(QLatin1String("desktop::"));
+           QLatin1String(widget.metaObject()->className()).startsWith(QLatin1String("widgets::"));
   }
 
   void fault(const QWidget& widget, const QString& what) {
-    faults_ << desktop::toQt(form_.name()) + QLatin1Char('.') + widget.objectName() + QStringLiteral(" ") +
+    faults_ << widgets::toQt(form_.name()) + QLatin1Char('.') + widget.objectName() + QStringLiteral(" ") +
                    what;
   }
 
@@ -105,7 +105,7 @@ class Audit {
   }
   // A list's cell editors lie over it.
   static bool isEditorOf(const QWidget& widget, const QWidget& top) {
-    if (qobject_cast<const desktop::GridTable*>(&widget) == nullptr) return false;
+    if (qobject_cast<const widgets::GridTable*>(&widget) == nullptr) return false;
     for (const QWidget* over = &top; over != nullptr; over = over->parentWidget()) {
       if (over->property("over").toString() == QLatin1String("list")) return true;
     }
@@ -155,8 +155,8 @@ class Audit {
     if (!text.isEmpty() && !textFits(widget, text)) fault(widget, QStringLiteral("cuts its text: ") + text);
   }
   static bool textFits(const QWidget& widget, const QString& text) {
-    if (const auto* step = qobject_cast<const desktop::StepButton*>(&widget)) return step->textFits();
-    if (const auto* fit = qobject_cast<const desktop::FitLabel*>(&widget)) return fit->textFits();
+    if (const auto* step = qobject_cast<const widgets::StepButton*>(&widget)) return step->textFits();
+    if (const auto* fit = qobject_cast<const widgets::FitLabel*>(&widget)) return fit->textFits();
     if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
       const int room = box->lineEdit() != nullptr ? box->lineEdit()->width() - 4 : box->width() - 30;
       return box->fontMetrics().horizontalAdvance(text) <= room;
@@ -170,7 +170,7 @@ class Audit {
   }
   // A text that is the program's own. What may be of any length is elided, and read in full on hover.
   static bool hasFixedText(const QWidget& widget) {
-    return qobject_cast<const desktop::ElidedLabel*>(&widget) == nullptr &&
+    return qobject_cast<const widgets::ElidedLabel*>(&widget) == nullptr &&
            qobject_cast<const QLineEdit*>(&widget) == nullptr &&
            qobject_cast<const QToolButton*>(&widget) == nullptr;
   }
@@ -207,7 +207,7 @@ class Audit {
     if (made || isPressed(widget)) fault(widget, QStringLiteral("is out of the keyboard's reach"));
   }
   [[nodiscard]] bool isPressed(const QWidget& widget) const {
-    const std::string name = desktop::fromQt(widget.objectName());
+    const std::string name = widgets::fromQt(widget.objectName());
     for (platform::Component* component : form_.components()) {
       const auto* control = dynamic_cast<const platform::Control*>(component);
       if (control != nullptr && control->name() == name) return control->click.handled();
@@ -222,7 +222,7 @@ class Audit {
     return inkContrast(picture_, QRectF(exact.topLeft() * ratio, exact.size() * ratio).toAlignedRect());
   }
 
-  void checkCells(const desktop::GridTable& table) {
+  void checkCells(const widgets::GridTable& table) {
     const QPoint corner = table.viewport()->mapTo(&window_, QPoint(0, 0));
     for (int row = 0; row < table.model()->rowCount(); ++row) {
       for (int column = 0; column < table.model()->columnCount(); ++column) {
@@ -242,13 +242,13 @@ class Audit {
 
   void checkContrast(const QWidget& widget) {
     if (!widget.isEnabled() || widget.fontMetrics().height() * picture_.devicePixelRatio() < solidInk) return;
-    if (const auto* table = qobject_cast<const desktop::GridTable*>(&widget)) checkCells(*table);
-    const bool drawn = qobject_cast<const desktop::Picture*>(&widget) != nullptr ||
-                       qobject_cast<const desktop::PictureButton*>(&widget) != nullptr;
+    if (const auto* table = qobject_cast<const widgets::GridTable*>(&widget)) checkCells(*table);
+    const bool drawn = qobject_cast<const widgets::Picture*>(&widget) != nullptr ||
+                       qobject_cast<const widgets::PictureButton*>(&widget) != nullptr;
     const bool written = !widget.property("text").toString().trimmed().isEmpty();
     if (!drawn && !written) return;
     const double found = inkIn(QRect(widget.mapTo(&window_, QPoint(0, 0)), widget.size()));
-    const bool large = qobject_cast<const desktop::ChronoDigits*>(&widget) != nullptr;
+    const bool large = qobject_cast<const widgets::ChronoDigits*>(&widget) != nullptr;
     if (found < (drawn || large ? visible : readable)) {
       fault(widget, QStringLiteral("has a contrast of %1").arg(found, 0, 'f', 1));
     }

@@ -7,8 +7,8 @@
 #include <iostream>
 
 #include "console/arguments.h"
-#include "desktop/qt_text.h"
 #include "stage/audit.h"
+#include "widgets/qt_text.h"
 
 namespace stage {
 namespace {
@@ -34,12 +34,12 @@ void Camera::take(const platform::Form& form, const std::string& path) {
   if (checks_) {
     for (const QString& fault : faultsOf(form, *window, picture.toImage())) {
       foundFaults_ = true;
-      std::cout << std::filesystem::path(path).filename().string() << ": " << desktop::fromQt(fault) << '\n';
+      std::cout << std::filesystem::path(path).filename().string() << ": " << widgets::fromQt(fault) << '\n';
     }
     return;
   }
   addMenus(picture, *window);
-  if (!picture.save(desktop::toQt(path))) throw console::CommandError("cannot write " + path);
+  if (!picture.save(widgets::toQt(path))) throw console::CommandError("cannot write " + path);
 }
 
 }  // namespace stage

@@ -8,18 +8,18 @@
 
 #include "console/names.h"
 #include "console/session.h"
-#include "desktop/qt_text.h"
-#include "desktop/theme.h"
 #include "desktop/windows.h"
 #include "platform/program_folder.h"
 #include "stage/camera.h"
 #include "stage/widget_hands.h"
+#include "widgets/qt_text.h"
+#include "widgets/theme.h"
 
 namespace {
 
 struct StageOptions {
   console::Options console;
-  desktop::ThemeMode theme = desktop::ThemeMode::Dark;
+  widgets::ThemeMode theme = widgets::ThemeMode::Dark;
   QSize size{1280, 800};
   bool check = false;
 };
@@ -35,9 +35,9 @@ StageOptions parse(std::vector<std::string> words) {
     return value;
   };
   options.check = std::erase(words, "--check") > 0;
-  if (const auto theme = take("--theme"); theme == "light") options.theme = desktop::ThemeMode::Light;
+  if (const auto theme = take("--theme"); theme == "light") options.theme = widgets::ThemeMode::Light;
   if (const auto size = take("--size")) {
-    const QStringList sides = desktop::toQt(*size).split(QLatin1Char('x'));
+    const QStringList sides = widgets::toQt(*size).split(QLatin1Char('x'));
     if (sides.size() == 2) options.size = QSize(sides[0].toInt(), sides[1].toInt());
   }
   options.console = console::parseOptions(words);
@@ -66,7 +66,7 @@ int run(const StageOptions& options) {
   });
   // What a voice would say just then: the simulated one has spoken before anybody can look.
   session.interpreter().add(
-      "speak", [&](console::Arguments& arguments) { windows.speak(desktop::toQt(arguments.text())); });
+      "speak", [&](console::Arguments& arguments) { windows.speak(widgets::toQt(arguments.text())); });
   windows.window().resize(options.size);
   windows.window().show();
   QCoreApplication::processEvents();

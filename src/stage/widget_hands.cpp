@@ -11,16 +11,16 @@
 #include <QMouseEvent>
 #include <QRadioButton>
 
-#include "desktop/check_list.h"
-#include "desktop/grid_table.h"
-#include "desktop/qt_text.h"
+#include "widgets/check_list.h"
+#include "widgets/grid_table.h"
+#include "widgets/qt_text.h"
 
 namespace stage {
 namespace {
 
-using desktop::CheckList;
-using desktop::GridTable;
-using desktop::toQt;
+using widgets::CheckList;
+using widgets::GridTable;
+using widgets::toQt;
 
 // Lets the windows catch up with what has happened.
 void settle() {

@@ -16,10 +16,16 @@
 
 #include "desktop/desktop_program.h"
 #include "desktop/loudspeaker.h"
-#include "desktop/qt_text.h"
 #include "platform/recording.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using devices::WavDecoder;
+using widgets::fromQt;
+using widgets::ThemeMode;
+using widgets::toQt;
+
 namespace {
 
 using support::Recording;

@@ -11,6 +11,9 @@
 #include "support/simulated_program.h"
 
 namespace desktop {
+
+using widgets::ThemeMode;
+
 namespace {
 
 using Settings = QMap<QString, QVariantMap>;

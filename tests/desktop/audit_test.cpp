@@ -9,10 +9,10 @@
 #include <QPushButton>
 #include <functional>
 
-#include "desktop/accessible_faces.h"
-#include "desktop/chronometer.h"
-#include "desktop/theme.h"
 #include "platform/controls.h"
+#include "widgets/accessible_faces.h"
+#include "widgets/chronometer.h"
+#include "widgets/theme.h"
 
 namespace {
 
@@ -29,7 +29,7 @@ struct Page : platform::Form {
 class AuditTest : public testing::Test {
  protected:
   AuditTest() {
-    desktop::installAccessibleFaces();
+    widgets::installAccessibleFaces();
     window_.resize(400, 200);
     window_.setStyleSheet(
         QStringLiteral("QWidget { background: #000000; color: #ffffff; font-size: 32px; }"));
@@ -78,7 +78,7 @@ TEST_F(AuditTest, EachFaultIsNamed) {
        },
        "Page.box has a field without a name"},
       {[&] {
-         auto* drawn = new desktop::CountdownRing(&window_);
+         auto* drawn = new widgets::CountdownRing(&window_);
          drawn->setObjectName(QStringLiteral("ring"));
          drawn->setText(QStringLiteral("16"));
          drawn->setAccessibleName(drawn->text());

@@ -14,12 +14,12 @@
 #include <QTest>
 
 #include "desktop/editor_view.h"
-#include "desktop/grid_table.h"
 #include "desktop/loop_alarm.h"
 #include "desktop/main_view.h"
 #include "desktop/unseen_controls.h"
 #include "forms/screens.h"
 #include "platform/clock.h"
+#include "widgets/grid_table.h"
 
 namespace {
 
@@ -162,7 +162,7 @@ TEST_F(BinderTest, TheGridTakesManyRowsAtOnceAndRepaintsOnlyWhatChanged) {
   binder_.bind(screens_.editor, editor_);
   platform::Grid& grid = screens_.editor.ListView1;
   for (int c = 0; c < 13; ++c) grid.addColumn({"c", 1000, platform::Alignment::Centre});
-  desktop::GridModel& model = *widget<desktop::GridTable>(editor_, "ListView1").gridModel();
+  widgets::GridModel& model = *widget<widgets::GridTable>(editor_, "ListView1").gridModel();
   model.flush();
   int insertions = 0;
   std::vector<std::pair<int, int>> changed;

@@ -1,13 +1,13 @@
 // All that a sound holds, as it is played; empty if it cannot be.
 #pragma once
 
-#include "desktop/wav_decoder.h"
+#include "devices/wav_decoder.h"
 
 namespace support {
 
 template <class Sound>  // the bytes of a file, or its path
 std::vector<std::int16_t> decodeWav(const Sound& sound, std::size_t pieceSize = 8192) {
-  desktop::WavDecoder decoder(sound);
+  devices::WavDecoder decoder(sound);
   std::vector<std::int16_t> samples;
   std::vector<std::int16_t> piece(pieceSize);
   while (const std::size_t count = decoder.read(piece))

@@ -10,9 +10,9 @@
 #include <string>
 #include <thread>
 
-#include "desktop/pulse_endpoint_volume.h"
+#include "devices/pulse_endpoint_volume.h"
 
-namespace desktop {
+namespace devices {
 namespace {
 
 using namespace std::chrono_literals;
@@ -99,4 +99,4 @@ TEST_F(EndpointVolume, OvercomesAServerThatDies) {
 }
 
 }  // namespace
-}  // namespace desktop
+}  // namespace devices

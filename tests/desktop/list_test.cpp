@@ -7,12 +7,12 @@
 #include <QWheelEvent>
 #include <fstream>
 
-#include "desktop/grid_table.h"
 #include "desktop/qt_dialogs.h"
-#include "desktop/qt_text.h"
 #include "desktop/windows_test_base.h"
 #include "model/grid_rows.h"
 #include "model/training_model.h"
+#include "widgets/grid_table.h"
+#include "widgets/qt_text.h"
 
 namespace {
 
@@ -52,7 +52,7 @@ class ListTest : public WindowsTestBase {
 
   forms::CreerCycle& form_ = screens_.editor;
   platform::Grid& grid_ = form_.ListView1;
-  desktop::GridTable& table_ = widget<desktop::GridTable>(form_, "ListView1");
+  widgets::GridTable& table_ = widget<widgets::GridTable>(form_, "ListView1");
   QComboBox& box_ = widget<QComboBox>(form_, "Combo1");
 };
 
@@ -60,7 +60,7 @@ TEST_F(ListTest, AWheelOverAClosedBoxChangesNothingButTheViewOfTheList) {
   for (const platform::Form* form : screens_.all()) {
     if (windows_->page(*form) == nullptr) continue;
     for (QComboBox* box : windows_->page(*form)->findChildren<QComboBox*>()) {
-      auto& control = dynamic_cast<platform::ComboBox&>(form->find(desktop::fromQt(box->objectName())));
+      auto& control = dynamic_cast<platform::ComboBox&>(form->find(widgets::fromQt(box->objectName())));
       if (control.lines().empty()) control.setLines({"1", "2", "3"});
       control.index = 1;
       roll(*box);

@@ -19,13 +19,13 @@
 #include <thread>
 #include <vector>
 
-#include "desktop/wav_decoder.h"
+#include "devices/wav_decoder.h"
 
 namespace support {
 
 using Samples = std::vector<std::int16_t>;
 
-inline constexpr std::size_t kPerMs = desktop::WavDecoder::kRate * desktop::WavDecoder::kChannels / 1000;
+inline constexpr std::size_t kPerMs = devices::WavDecoder::kRate * devices::WavDecoder::kChannels / 1000;
 
 inline pid_t serverPid() {
   pid_t pid = 0;

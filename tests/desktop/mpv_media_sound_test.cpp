@@ -12,11 +12,11 @@
 #include <thread>
 
 #include "desktop/loudspeaker.h"
-#include "desktop/mpv_media.h"
+#include "devices/mpv_media.h"
 #include "platform/disk_file_system.h"
 #include "platform/media_parser.h"
 
-namespace desktop {
+namespace devices {
 namespace {
 
 namespace fs = std::filesystem;
@@ -171,4 +171,4 @@ TEST_F(MpvMediaTest, RunsWithoutAServer) {
 }
 
 }  // namespace
-}  // namespace desktop
+}  // namespace devices

@@ -12,9 +12,9 @@
 
 #include "desktop/decode_wav.h"
 #include "desktop/loudspeaker.h"
-#include "desktop/pulse_sound_output.h"
+#include "devices/pulse_sound_output.h"
 
-namespace desktop {
+namespace devices {
 namespace {
 
 using support::decodeWav;
@@ -208,4 +208,4 @@ TEST_F(PulseSound, AServerThatDiesOrHangsIsOvercome) {
 }
 
 }  // namespace
-}  // namespace desktop
+}  // namespace devices

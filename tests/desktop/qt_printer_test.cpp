@@ -5,11 +5,16 @@
 #include <QFile>
 #include <QImage>
 
-#include "desktop/page_painter.h"
-#include "desktop/qt_text.h"
 #include "platform/fault.h"
+#include "widgets/page_painter.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::paintGrid;
+using widgets::paintLine;
+using widgets::toQt;
+
 namespace {
 
 platform::PageGrid gridOf(int rows) {

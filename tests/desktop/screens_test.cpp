@@ -9,8 +9,8 @@
 #include <QSlider>
 #include <QTest>
 
-#include "desktop/check_list.h"
 #include "desktop/windows_test_base.h"
+#include "widgets/check_list.h"
 
 namespace {
 
@@ -53,7 +53,7 @@ TEST_F(ScreensTest, TheListOfMusicIsTickedByItsBoxesAndBySpace) {
   settle();
   widget<QPushButton>(form, "Command8").click();
   settle();
-  auto& list = widget<desktop::CheckList>(form, "ListView1");
+  auto& list = widget<widgets::CheckList>(form, "ListView1");
   EXPECT_EQ(list.model()->rowCount(), 5000);
 
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.boxRect(2).center());
@@ -213,7 +213,7 @@ TEST_F(ScreensTest, TheCalculatorsHelpGoesAtItsFreeGroundAndByEscape) {
 }
 
 TEST(FirstWindow, FitsItsScreenWithItsFrame) {
-  desktop::MainWindow window(desktop::ThemeMode::Dark);
+  desktop::MainWindow window(widgets::ThemeMode::Dark);
   window.showFitting();
   EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
   const QRect room = window.screen()->availableGeometry();

@@ -12,9 +12,14 @@
 #include <cstdlib>
 
 #include "desktop/desktop_program.h"
-#include "desktop/qt_text.h"
+#include "widgets/qt_text.h"
 
 namespace desktop {
+
+using widgets::fromQt;
+using widgets::ThemeMode;
+using widgets::toQt;
+
 namespace {
 
 void pactl(const char* words) {

@@ -8,10 +8,10 @@
 #include <numbers>
 
 #include "desktop/decode_wav.h"
-#include "desktop/take_views.h"
+#include "devices/sound_peaks.h"
 #include "platform/recording.h"
 
-namespace desktop {
+namespace devices {
 namespace {
 
 using Bytes = std::vector<unsigned char>;
@@ -106,4 +106,4 @@ TEST(Waveform, HasTheLoudestOfEachPartOfAFile) {
 }
 
 }  // namespace
-}  // namespace desktop
+}  // namespace devices

@@ -14,7 +14,7 @@ class WindowsTestBase : public testing::Test {
  protected:
   WindowsTestBase() {
     EXPECT_TRUE(program_.start());
-    windows_.emplace(program_.program(), desktop::ThemeMode::Dark);
+    windows_.emplace(program_.program(), widgets::ThemeMode::Dark);
     windows_->window().show();
   }
   template <class Widget>

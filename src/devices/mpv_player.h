@@ -1,0 +1,63 @@
+// One piece of music or one take, played by libmpv without a window.
+#pragma once
+
+#include <mpv/client.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace devices {
+
+class MpvPlayer {
+ public:
+  enum class Mode { Stopped, Paused, Playing };
+
+  // A file's path, or any other address that the library takes. Waits until the length is known.
+  explicit MpvPlayer(std::string address);
+  // False: there is nothing in it to play.
+  [[nodiscard]] bool opened() const { return opened_; }
+
+  void play();
+  void stop() { hold(Mode::Stopped); }
+  void pause();
+  void seek(std::int64_t milliseconds);  // leaves it stopped
+  void setSpeed(double factor);
+  void setVolume(double amplitude);  // 1 is the piece's own
+  void setAudible(bool audible);
+  // Whether what is played goes nowhere, since no sound server took it.
+  [[nodiscard]] bool unheard();
+  // Waits until the stream of sound is open, at the server or to nowhere; nothing of it has sounded yet.
+  void awaitOutput();
+  // Looks for a sound server anew; what it had been given already is not played again.
+  void reopenOutput();
+
+  [[nodiscard]] Mode mode();
+  [[nodiscard]] std::int64_t length() const { return length_; }  // ms
+  // The length exactly once the piece has ended, and only then.
+  [[nodiscard]] std::int64_t position();
+
+ private:
+  struct Destroy {
+    void operator()(mpv_handle* handle) const { mpv_terminate_destroy(handle); }
+  };
+
+  bool load(std::int64_t from);
+  void hold(Mode mode);
+  void setFlag(const char* property, bool on);
+  void takeEvents();
+  void await(std::int64_t position);
+  void take(const mpv_event& event);
+
+  std::string address_;
+  std::unique_ptr<mpv_handle, Destroy> handle_;
+  bool opened_ = false;
+  bool loaded_ = false;
+  bool ended_ = false;
+  std::int64_t length_ = 0;
+  std::int64_t sought_ = -1;  // where it stands, or will once it has got there, until it plays on; -1: none
+  bool arrived_ = false;
+  Mode mode_ = Mode::Stopped;
+};
+
+}  // namespace devices

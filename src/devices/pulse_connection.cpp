@@ -1,0 +1,134 @@
+#include "devices/pulse_connection.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace devices {
+
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr milliseconds kAttemptPatience{500};
+constexpr milliseconds kAttemptPause{1000};  // the volume is asked for several times a second
+constexpr milliseconds kTick{10};
+constexpr milliseconds kAnswerPatience{500};
+// What the servers show in place of a card where there is none.
+constexpr std::string_view kNoCard = "auto_null";
+
+}  // namespace
+
+void PulseConnection::FreeLoop::operator()(pa_threaded_mainloop* loop) const {
+  pa_threaded_mainloop_stop(loop);
+  pa_threaded_mainloop_free(loop);
+}
+
+void PulseConnection::FreeContext::operator()(pa_context* context) const {
+  pa_context_set_state_callback(context, nullptr, nullptr);
+  pa_context_disconnect(context);
+  pa_context_unref(context);
+}
+
+PulseConnection::PulseConnection(std::string applicationName)
+    : applicationName_(std::move(applicationName)), loop_(pa_threaded_mainloop_new()) {
+  if (loop_ && pa_threaded_mainloop_start(loop_.get()) < 0) loop_.reset();
+}
+
+PulseConnection::~PulseConnection() {
+  if (!loop_) return;
+  const Lock lock(*this);
+  context_.reset();
+}
+
+bool PulseConnection::alive() const {
+  return context_ && PA_CONTEXT_IS_GOOD(pa_context_get_state(context_.get()));
+}
+
+void PulseConnection::connect() {
+  attemptedAt_ = steady_clock::now();
+  context_.reset(pa_context_new(pa_threaded_mainloop_get_api(loop_.get()), applicationName_.c_str()));
+  if (!context_) return;
+  pa_context_set_state_callback(
+      context_.get(), [](pa_context*, void* self) { static_cast<PulseConnection*>(self)->notify(); }, this);
+  pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr);
+}
+
+bool PulseConnection::ready() {
+  if (!loop_) return false;
+  {
+    const Lock lock(*this);
+    if (!alive() && (!context_ || steady_clock::now() - attemptedAt_ >= kAttemptPause)) connect();
+  }
+  const auto isReady = [this] {
+    return context_ && pa_context_get_state(context_.get()) == PA_CONTEXT_READY;
+  };
+  const auto left =
+      std::chrono::duration_cast<milliseconds>(attemptedAt_ + kAttemptPatience - steady_clock::now());
+  waitUntil([&] { return isReady() || !alive(); }, std::max(left, 0ms));
+  const Lock lock(*this);
+  return isReady();
+}
+
+bool PulseConnection::hasLoudspeaker() {
+  if (!ready()) return false;
+  bool found = false;
+  pa_operation* request = nullptr;
+  {
+    const Lock lock(*this);
+    request = pa_context_get_sink_info_list(
+        context_.get(),
+        [](pa_context*, const pa_sink_info* sink, int, void* answer) {
+          if (sink && sink->name != kNoCard) *static_cast<bool*>(answer) = true;
+        },
+        &found);
+  }
+  return finish(request, kAnswerPatience) && found;
+}
+
+void PulseConnection::notify() {
+  {
+    const std::lock_guard guard(mutex_);
+    ++changes_;
+  }
+  changed_.notify_all();
+}
+
+bool PulseConnection::waitUntil(const std::function<bool()>& done, milliseconds timeout,
+                                const std::function<bool()>& goOn) {
+  const auto deadline = steady_clock::now() + timeout;
+  for (;;) {
+    std::unique_lock guard(mutex_);
+    const unsigned seen = changes_;
+    guard.unlock();
+    {
+      const Lock lock(*this);
+      if (done()) return true;
+    }
+    const auto now = steady_clock::now();
+    if (now >= deadline || (goOn && !goOn())) return false;
+    guard.lock();
+    changed_.wait_until(guard, std::min(deadline, now + kTick), [&] { return changes_ != seen; });
+  }
+}
+
+bool PulseConnection::finish(pa_operation* operation, milliseconds timeout,
+                             const std::function<bool()>& goOn) {
+  if (!operation) return false;
+  {
+    const Lock lock(*this);
+    pa_operation_set_state_callback(
+        operation, [](pa_operation*, void* self) { static_cast<PulseConnection*>(self)->notify(); }, this);
+  }
+  waitUntil([&] { return pa_operation_get_state(operation) != PA_OPERATION_RUNNING; }, timeout, goOn);
+  const Lock lock(*this);
+  const bool done = pa_operation_get_state(operation) == PA_OPERATION_DONE;
+  pa_operation_set_state_callback(operation, nullptr, nullptr);
+  if (!done) pa_operation_cancel(operation);
+  pa_operation_unref(operation);
+  return done;
+}
+
+}  // namespace devices

@@ -1,0 +1,172 @@
+#include "devices/pulse_endpoint_volume.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+namespace devices {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 500ms;
+// What the servers show in place of a card where there is none.
+constexpr std::string_view kNoCard = "auto_null";
+
+double fractionOf(const pa_cvolume& volume) {
+  return double(pa_cvolume_max(&volume)) / PA_VOLUME_NORM;
+}
+
+}  // namespace
+
+PulseEndpointVolume::~PulseEndpointVolume() {
+  forget();
+}
+
+void PulseEndpointVolume::forget() {
+  if (!followed_) return;
+  const PulseConnection::Lock lock(connection_);
+  pa_context_set_subscribe_callback(followed_, nullptr, nullptr);
+  for (pa_operation* request : requests_) {
+    pa_operation_cancel(request);
+    pa_operation_unref(request);
+  }
+  requests_.clear();
+  pa_context_unref(followed_);
+  followed_ = nullptr;
+  device_.reset();
+  writes_ = 0;
+}
+
+void PulseEndpointVolume::answered(pa_context*, const pa_sink_info* sink, int end, void* self) {
+  auto& volume = *static_cast<PulseEndpointVolume*>(self);
+  if (end < 0) volume.device_.reset();
+  if (!sink || volume.writes_ > 0) return;
+  volume.device_ = Device{sink->volume, sink->mute != 0, sink->description ? sink->description : ""};
+}
+
+void PulseEndpointVolume::changed(pa_context*, pa_subscription_event_type_t, uint32_t, void* self) {
+  auto& volume = *static_cast<PulseEndpointVolume*>(self);
+  volume.keep(volume.query());
+}
+
+void PulseEndpointVolume::done(pa_context* context, int, void* self) {
+  auto& volume = *static_cast<PulseEndpointVolume*>(self);
+  if (context == volume.followed_ && --volume.writes_ == 0) changed(context, {}, 0, self);
+}
+
+pa_operation* PulseEndpointVolume::query() {
+  if (sink_.empty()) return nullptr;
+  return pa_context_get_sink_info_by_name(followed_, sink_.c_str(), &answered, this);
+}
+
+bool PulseEndpointVolume::follow() {
+  if (!connection_.ready()) {
+    forget();
+    return false;
+  }
+  if (followed_ == connection_.context()) return true;
+  forget();
+  pa_operation* request = nullptr;
+  {
+    const PulseConnection::Lock lock(connection_);
+    followed_ = pa_context_ref(connection_.context());
+    pa_context_set_subscribe_callback(followed_, &changed, this);
+    keep(pa_context_subscribe(followed_, PA_SUBSCRIPTION_MASK_SINK, nullptr, nullptr));
+    request = query();
+  }
+  connection_.finish(request, kPatience);
+  return true;
+}
+
+bool PulseEndpointVolume::open() {
+  if (!follow()) return false;
+  std::string found;
+  pa_operation* request = nullptr;
+  {
+    const PulseConnection::Lock lock(connection_);
+    request = pa_context_get_server_info(
+        followed_,
+        [](pa_context*, const pa_server_info* server, void* name) {
+          if (server && server->default_sink_name)
+            *static_cast<std::string*>(name) = server->default_sink_name;
+        },
+        &found);
+  }
+  connection_.finish(request, kPatience);
+  {
+    const PulseConnection::Lock lock(connection_);
+    sink_ = found == kNoCard ? std::string() : found;
+    device_.reset();
+    request = query();
+  }
+  connection_.finish(request, kPatience);
+  return look().has_value();
+}
+
+std::optional<PulseEndpointVolume::Device> PulseEndpointVolume::look() {
+  seen_ = false;
+  if (!follow()) return std::nullopt;
+  const PulseConnection::Lock lock(connection_);
+  seen_ = device_.has_value();
+  return device_;
+}
+
+bool PulseEndpointVolume::muted() {
+  const std::optional<Device> device = look();
+  return device && device->muted;
+}
+
+double PulseEndpointVolume::level() {
+  const std::optional<Device> device = look();
+  return device ? fractionOf(device->volume) : 0;
+}
+
+int PulseEndpointVolume::channels() {
+  const std::optional<Device> device = look();
+  return device ? device->volume.channels : 0;
+}
+
+std::string PulseEndpointVolume::deviceName() {
+  const std::optional<Device> device = look();
+  return device ? device->description : std::string();
+}
+
+PulseEndpointVolume::Device* PulseEndpointVolume::known() {
+  const bool alive = followed_ && PA_CONTEXT_IS_GOOD(pa_context_get_state(followed_));
+  return seen_ && alive && device_ ? &*device_ : nullptr;
+}
+
+void PulseEndpointVolume::keep(pa_operation* request) {
+  std::erase_if(requests_, [](pa_operation* old) {
+    if (pa_operation_get_state(old) == PA_OPERATION_RUNNING) return false;
+    pa_operation_unref(old);
+    return true;
+  });
+  if (request) requests_.push_back(request);
+}
+
+void PulseEndpointVolume::setMuted(bool muted) {
+  if (!followed_) return;
+  const PulseConnection::Lock lock(connection_);
+  Device* device = known();
+  if (!device || device->muted == muted) return;
+  device->muted = muted;
+  ++writes_;
+  keep(pa_context_set_sink_mute_by_name(followed_, sink_.c_str(), muted, &done, this));
+}
+
+void PulseEndpointVolume::setLevel(double level) {
+  if (!followed_) return;
+  const PulseConnection::Lock lock(connection_);
+  Device* device = known();
+  // A level that was read, and comes back rounded, leaves the finer or louder one as it is.
+  constexpr double halfPercent = 0.005;
+  if (!device || std::abs(std::min(fractionOf(device->volume), 1.0) - level) <= halfPercent) return;
+  pa_cvolume_scale(&device->volume, static_cast<pa_volume_t>(std::lround(level * PA_VOLUME_NORM)));
+  ++writes_;
+  keep(pa_context_set_sink_volume_by_name(followed_, sink_.c_str(), &device->volume, &done, this));
+}
+
+}  // namespace devices

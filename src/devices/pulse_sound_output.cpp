@@ -1,0 +1,99 @@
+#include "devices/pulse_sound_output.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+#include "devices/wav_decoder.h"
+
+namespace devices {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kTick = 10ms;
+
+std::vector<std::int16_t> makeBeep() {
+  constexpr double kPitch = 880;
+  constexpr double kLevel = 8000;
+  constexpr int kFrames = WavDecoder::kRate / 5;
+  constexpr int kRamp = WavDecoder::kRate / 200;  // without it the ends click
+  std::vector<std::int16_t> samples;
+  samples.reserve(kFrames * 2);
+  for (int frame = 0; frame < kFrames; ++frame) {
+    const double edge = std::min({1.0, double(frame) / kRamp, double(kFrames - frame) / kRamp});
+    const double wave = std::sin(2 * std::numbers::pi * kPitch * frame / WavDecoder::kRate);
+    samples.insert(samples.end(), 2, static_cast<std::int16_t>(std::lrint(kLevel * edge * wave)));
+  }
+  return samples;
+}
+
+}  // namespace
+
+PulseSoundOutput::PulseSoundOutput(PulseConnection& connection, const PulseOutputLevel& level,
+                                   SoundHooks hooks)
+    : connection_(connection),
+      hooks_(std::move(hooks)),
+      stream_(connection, level, [this] { return goOn(); }) {}
+
+bool PulseSoundOutput::goOn() {
+  const auto now = std::chrono::steady_clock::now();
+  if (hooks_.whileBlocking && now - repaintedAt_ >= kTick) {
+    repaintedAt_ = now;
+    hooks_.whileBlocking();
+  }
+  return !(hooks_.giveUp && hooks_.giveUp());
+}
+
+bool PulseSoundOutput::hasDevice() {
+  return connection_.hasLoudspeaker();
+}
+
+std::size_t PulseSoundOutput::Prompt::read(std::size_t from, std::span<std::int16_t> piece) {
+  if (from == samples.size() && decoder) {
+    const std::size_t count = decoder->read(piece);
+    samples.insert(samples.end(), piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(count));
+    if (count == 0) decoder.reset();
+    return count;
+  }
+  const std::size_t count = std::min(piece.size(), samples.size() - from);
+  std::copy_n(samples.begin() + static_cast<std::ptrdiff_t>(from), count, piece.begin());
+  return count;
+}
+
+void PulseSoundOutput::beep() {
+  std::vector<std::int16_t> samples = makeBeep();
+  stream_.play([&samples](std::span<std::int16_t> piece) {
+    const std::size_t count = std::min(piece.size(), samples.size());
+    std::copy_n(samples.begin(), count, piece.begin());
+    samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(count));
+    return count;
+  });
+}
+
+void PulseSoundOutput::play(const platform::SoundClip& clip) {
+  if (!hasDevice()) return;
+  Prompt& prompt = prompts_.try_emplace(clip.wav.data(), clip.wav).first->second;
+  if (prompt.decoder && !prompt.decoder->opened()) return;
+  if (hooks_.onSpeaking) hooks_.onSpeaking(&clip);
+  stream_.play([&prompt, at = std::size_t{0}](std::span<std::int16_t> piece) mutable {
+    const std::size_t count = prompt.read(at, piece);
+    at += count;
+    return count;
+  });
+  if (hooks_.onSpeaking) hooks_.onSpeaking(nullptr);
+}
+
+void PulseSoundOutput::playFile(const std::string& path) {
+  if (!hasDevice()) return;
+  WavDecoder decoder(path);
+  if (decoder.opened()) {
+    stream_.play([&decoder](std::span<std::int16_t> piece) { return decoder.read(piece); });
+  } else {
+    beep();
+  }
+}
+
+}  // namespace devices

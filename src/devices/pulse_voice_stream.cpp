@@ -1,0 +1,156 @@
+#include "devices/pulse_voice_stream.h"
+
+#include <algorithm>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "devices/wav_decoder.h"
+
+namespace devices {
+
+namespace {
+
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr std::int64_t kBytesPerMs = WavDecoder::kRate * WavDecoder::kChannels * 2 / 1000;
+constexpr std::int64_t kBuffer = 40 * kBytesPerMs;
+constexpr std::int64_t kLead = 30 * kBytesPerMs;
+constexpr std::int64_t kAhead = 1000 * kBytesPerMs;  // a repaint may take this long before a file stutters
+constexpr std::size_t kPiece = WavDecoder::kRate / 4 * WavDecoder::kChannels;
+constexpr milliseconds kTick{10};
+constexpr milliseconds kTail{60};        // what the server and the card still hold when all has been taken
+constexpr milliseconds kPatience{2000};  // with a server that has stopped taking sound
+
+}  // namespace
+
+void PulseVoiceStream::FreeStream::operator()(pa_stream* stream) const {
+  pa_stream_set_state_callback(stream, nullptr, nullptr);
+  pa_stream_disconnect(stream);
+  pa_stream_unref(stream);
+}
+
+PulseVoiceStream::PulseVoiceStream(PulseConnection& connection, const PulseOutputLevel& level,
+                                   std::function<bool()> goOn)
+    : connection_(connection), level_(level), goOn_(std::move(goOn)) {}
+
+PulseVoiceStream::~PulseVoiceStream() {
+  settle();
+  drop();
+}
+
+void PulseVoiceStream::drop() {
+  if (!stream_) return;
+  const PulseConnection::Lock lock(connection_);
+  stream_.reset();
+}
+
+bool PulseVoiceStream::broken() const {
+  return !PA_STREAM_IS_GOOD(pa_stream_get_state(stream_.get()));
+}
+
+bool PulseVoiceStream::open() {
+  if (!connection_.ready()) {
+    drop();
+    return false;
+  }
+  {
+    const PulseConnection::Lock lock(connection_);
+    if (stream_ && !broken()) return true;
+    const pa_sample_spec format{PA_SAMPLE_S16LE, WavDecoder::kRate, WavDecoder::kChannels};
+    stream_.reset(pa_stream_new(connection_.context(), "Voix", &format, nullptr));
+    if (!stream_) return false;
+    pa_stream_set_state_callback(
+        stream_.get(), [](pa_stream*, void* owner) { static_cast<PulseConnection*>(owner)->notify(); },
+        &connection_);
+    constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
+    const pa_buffer_attr buffer{kServersChoice, kBuffer, 0, kServersChoice, kServersChoice};
+    const pa_cvolume volume = level_.volumeOf(*pa_stream_get_channel_map(stream_.get()));
+    pa_stream_connect_playback(stream_.get(), nullptr, &buffer, PA_STREAM_ADJUST_LATENCY, &volume, nullptr);
+  }
+  const auto isOpen = [this] { return pa_stream_get_state(stream_.get()) == PA_STREAM_READY; };
+  bool opened = false;
+  connection_.waitUntil([&] { return (opened = isOpen()) || broken(); }, kPatience, goOn_);
+  if (!opened) drop();
+  return opened;
+}
+
+// Where the server stands; none when it does not say.
+std::optional<PulseVoiceStream::Position> PulseVoiceStream::position(const std::function<bool()>& goOn) {
+  pa_operation* request = nullptr;
+  {
+    const PulseConnection::Lock lock(connection_);
+    if (!broken()) request = pa_stream_update_timing_info(stream_.get(), nullptr, nullptr);
+  }
+  if (!connection_.finish(request, kPatience, goOn)) return {};
+  const PulseConnection::Lock lock(connection_);
+  const pa_timing_info* timing = pa_stream_get_timing_info(stream_.get());
+  if (!timing || timing->read_index_corrupt != 0 || timing->write_index_corrupt != 0) return {};
+  return Position{timing->read_index, timing->write_index};
+}
+
+bool PulseVoiceStream::write(std::span<const std::int16_t> samples, const Position& at) {
+  const PulseConnection::Lock lock(connection_);
+  // The stream runs on in silence after the last prompt, so the place to write at may lie in the past.
+  const auto from = at.read > at.write ? PA_SEEK_RELATIVE_ON_READ : PA_SEEK_RELATIVE;
+  return !broken() &&
+         pa_stream_write(stream_.get(), samples.data(), samples.size_bytes(), nullptr, 0, from) == 0;
+}
+
+void PulseVoiceStream::flush() {
+  pa_operation* request = nullptr;
+  {
+    const PulseConnection::Lock lock(connection_);
+    if (!broken()) request = pa_stream_flush(stream_.get(), nullptr, nullptr);
+  }
+  connection_.finish(request, kPatience);
+}
+
+// True unless the stream broke.
+bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std::function<bool()>& goOn) {
+  std::vector<std::int16_t> piece(kPiece);
+  bool ended = false;
+  std::int64_t lastRead = -1;
+  auto movedAt = steady_clock::now();
+  for (;;) {
+    const auto at = position(goOn);
+    if (!at) return false;
+    if (goOn && !goOn()) {
+      flush();
+      return true;
+    }
+    const std::int64_t queued = at->write - at->read;
+    if (!ended && queued < kAhead) {
+      const std::size_t count = source(piece);
+      ended = count == 0;
+      if (!ended && !write({piece.data(), count}, *at)) return false;
+      if (!ended) continue;
+    }
+    if (ended && queued <= lead) return true;
+    const auto now = steady_clock::now();
+    if (at->read != lastRead) movedAt = now;
+    if (now - movedAt > kPatience) return false;
+    lastRead = at->read;
+    const milliseconds rest = ended ? milliseconds((queued - lead) / kBytesPerMs + 1) : kTick;
+    connection_.waitUntil([this] { return broken(); }, std::min(rest, kTick), goOn);
+  }
+}
+
+void PulseVoiceStream::play(const Source& source) {
+  if (open() && !playTo(source, kLead, goOn_)) drop();
+}
+
+void PulseVoiceStream::settle() {
+  if (!stream_) return;
+  std::size_t silence = 10 * kBytesPerMs / 2;
+  const auto source = [&silence](std::span<std::int16_t> samples) {
+    const std::size_t count = std::exchange(silence, 0);
+    std::fill_n(samples.begin(), count, std::int16_t{0});
+    return count;
+  };
+  if (playTo(source, 0, {})) std::this_thread::sleep_for(kTail);
+}
+
+}  // namespace devices

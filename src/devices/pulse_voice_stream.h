@@ -1,0 +1,58 @@
+// The one playback stream that stays open from prompt to prompt, so that the next joins the last without a
+// gap: a play returns a lead before its last sample is taken, and what comes next is written behind it.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+
+#include "devices/pulse_connection.h"
+#include "devices/pulse_output_level.h"
+
+namespace devices {
+
+class PulseVoiceStream {
+ public:
+  // Fills a piece with 44100 Hz stereo samples and returns how many; 0 at the end.
+  using Source = std::function<std::size_t(std::span<std::int16_t>)>;
+
+  // `goOn` is asked about every 10 ms while a play waits; false ends the play and silences it.
+  PulseVoiceStream(PulseConnection& connection, const PulseOutputLevel& level, std::function<bool()> goOn);
+  // Lets the tail sound to its end.
+  ~PulseVoiceStream();
+  PulseVoiceStream(const PulseVoiceStream&) = delete;
+  PulseVoiceStream& operator=(const PulseVoiceStream&) = delete;
+
+  // Returns when all but the lead has been taken, or at once if the stream cannot be had or breaks; a broken
+  // one is dropped, and the next play opens another.
+  void play(const Source& source);
+  // Returns when nothing of the last play is left to hear.
+  void settle();
+
+ private:
+  struct FreeStream {
+    void operator()(pa_stream* stream) const;
+  };
+  struct Position {  // in bytes since the stream was opened
+    std::int64_t read = 0;
+    std::int64_t write = 0;
+  };
+
+  bool open();
+  void drop();
+  [[nodiscard]] bool broken() const;
+  std::optional<Position> position(const std::function<bool()>& goOn);
+  bool write(std::span<const std::int16_t> samples, const Position& at);
+  void flush();
+  bool playTo(const Source& source, std::int64_t lead, const std::function<bool()>& goOn);
+
+  PulseConnection& connection_;
+  const PulseOutputLevel& level_;
+  std::function<bool()> goOn_;
+  std::unique_ptr<pa_stream, FreeStream> stream_;
+};
+
+}  // namespace devices

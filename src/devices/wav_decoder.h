@@ -1,0 +1,57 @@
+// A WAV file, in memory or on disk, read piece by piece as 44100 Hz stereo s16, whatever it holds.
+#pragma once
+
+#include <samplerate.h>
+#include <sndfile.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace devices {
+
+class WavDecoder {
+ public:
+  static constexpr int kRate = 44100;
+  static constexpr int kChannels = 2;
+
+  // The bytes are read while the decoder lives.
+  explicit WavDecoder(std::span<const unsigned char> wav);
+  explicit WavDecoder(const std::string& path);
+  WavDecoder(const WavDecoder&) = delete;
+  WavDecoder& operator=(const WavDecoder&) = delete;
+
+  // False: nothing that can be played.
+  [[nodiscard]] bool opened() const { return file_ != nullptr; }
+  // The next samples, left and right in turn. Returns how many; 0 at the end.
+  std::size_t read(std::span<std::int16_t> samples);
+
+ private:
+  struct Memory {
+    std::span<const unsigned char> bytes;
+    std::size_t at = 0;
+  };
+  struct CloseFile {
+    void operator()(SNDFILE* file) const { sf_close(file); }
+  };
+  struct FreeConverter {
+    void operator()(SRC_STATE* state) const { src_delete(state); }
+  };
+
+  static SF_VIRTUAL_IO memoryFile();
+  void prepare();
+  long fill(float** data, std::size_t wanted);
+
+  Memory memory_;
+  SF_INFO info_{};
+  std::unique_ptr<SNDFILE, CloseFile> file_;
+  std::unique_ptr<SRC_STATE, FreeConverter> converter_;  // none where the rate is right already
+  int channels_ = 0;                                     // that are kept: 1 or 2
+  std::vector<float> input_;
+  std::vector<float> output_;
+};
+
+}  // namespace devices

@@ -1,0 +1,14 @@
+// What the program's own widgets are to somebody who does not see them: a role, and a name that says what
+// stands there.
+#pragma once
+
+class QWidget;
+
+namespace widgets {
+
+// For the whole application; asking again changes nothing.
+void installAccessibleFaces();
+// What is drawn there is another text now.
+void tellNewText(QWidget& drawn);
+
+}  // namespace widgets

@@ -1,0 +1,51 @@
+// The large digits of a ride, and the ring of the start countdown.
+#pragma once
+
+#include <QWidget>
+
+namespace widgets {
+
+// Two digits of the chronometer; a leading "00" can be dimmed. Its colon stands before it.
+class ChronoDigits final : public QWidget {
+  Q_OBJECT
+  Q_PROPERTY(QString text READ text WRITE setText)
+  Q_PROPERTY(bool leading MEMBER leading_)  // no colon, and dim while it reads "00"
+
+ public:
+  explicit ChronoDigits(QWidget* parent = nullptr);
+  [[nodiscard]] QString text() const { return text_; }
+  void setText(const QString& text);
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  QString text_ = QStringLiteral("00");
+  bool leading_ = false;
+};
+
+// The seconds left before the start, in a ring that empties.
+class CountdownRing final : public QWidget {
+  Q_OBJECT
+  Q_PROPERTY(QString text READ text WRITE setText)
+  Q_PROPERTY(int total READ total WRITE setTotal)
+
+ public:
+  explicit CountdownRing(QWidget* parent = nullptr);
+  [[nodiscard]] QString text() const { return text_; }
+  void setText(const QString& text);
+  [[nodiscard]] int total() const { return total_; }
+  void setTotal(int total);
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  QString text_;
+  int total_ = 16;
+};
+
+}  // namespace widgets

@@ -1,0 +1,16 @@
+// A widget's look in the style sheet, changed while it is shown.
+#pragma once
+
+#include <QStyle>
+#include <QWidget>
+
+namespace widgets {
+
+inline void setLook(QWidget& widget, const QString& look) {
+  if (widget.property("look").toString() == look) return;
+  widget.setProperty("look", look);
+  widget.style()->unpolish(&widget);
+  widget.style()->polish(&widget);
+}
+
+}  // namespace widgets

@@ -1,0 +1,49 @@
+// The program's own drawings: SVG files whose colours are names of the theme.
+#pragma once
+
+#include <QIcon>
+#include <QToolButton>
+#include <QWidget>
+
+namespace widgets {
+
+// The drawing of a name, at a size, in the palette's colours; empty for an unknown name.
+[[nodiscard]] QPixmap drawing(const QString& name, const QSize& size, const QPalette& palette,
+                              double ratio = 1);
+
+// A drawing as large as its place; mouse events go to whoever watches it.
+class Picture final : public QWidget {
+  Q_OBJECT
+  Q_PROPERTY(QString picture READ picture WRITE setPicture)
+
+ public:
+  explicit Picture(QWidget* parent = nullptr);
+  [[nodiscard]] QString picture() const { return picture_; }
+  void setPicture(const QString& name);
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  QString picture_;
+};
+
+// The same as a button: an icon that can be pressed.
+class PictureButton final : public QToolButton {
+  Q_OBJECT
+  Q_PROPERTY(QString picture READ picture WRITE setPicture)
+
+ public:
+  explicit PictureButton(QWidget* parent = nullptr);
+  [[nodiscard]] QString picture() const { return picture_; }
+  void setPicture(const QString& name);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString picture_;
+};
+
+}  // namespace widgets
