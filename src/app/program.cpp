@@ -1,10 +1,11 @@
 #include "app/program.h"
 
-#include "capture/page.h"
+#include "announcements/page.h"
 #include "context/context.h"
 #include "editor/page.h"
 #include "help/films.h"
 #include "help/web.h"
+#include "music/library.h"
 #include "platform/fault.h"
 #include "player/file_information.h"
 #include "player/player.h"
@@ -35,11 +36,19 @@ struct Program::Logic {
                    player::informationFichier(player::programFile(), setup.version).FileVersion),
         editorPage(context, voice),
         player(context),
-        announcementsPage(context, voice, setup.documentsFolder),
+        library(context, voice, setup.documentsFolder),
+        announcementsPage(context, voice),
         volumeGeneral(context),
         printForm(context),
         films(context),
-        web(context) {}
+        web(context) {
+    // One page for two trades; left with an empty list of music it is loaded anew, and starts as it first
+    // did.
+    context.screens.announcements.onLoad.handle([this] {
+      library.makeReady();
+      announcementsPage.makeReady();
+    });
+  }
 
   context::Context context;
   voice::Voice voice;
@@ -53,7 +62,8 @@ struct Program::Logic {
   runner::MainScreen mainScreen;
   editor::Page editorPage;
   player::Player player;
-  capture::Page announcementsPage;
+  music::Library library;
+  announcements::Page announcementsPage;
   volume::VolumeGeneral volumeGeneral;
   print::PrintForm printForm;
   help::Films films;

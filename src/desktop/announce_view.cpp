@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "devices/sound_peaks.h"
+#include "forms/enr_une_annonce_words.h"
 #include "platform/each_on_its_own.h"
 #include "ui_enr_une_annonce.h"
 #include "widgets/look.h"
@@ -51,7 +52,7 @@ void keepPlace(QWidget& widget) {
 
 AnnounceView::AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState& state, QWidget& page,
                            Binder& binder)
-    : form_(form), state_(state), ui_(std::make_unique<Ui::EnrUneAnnonce>()) {
+    : page_(form), state_(state), ui_(std::make_unique<Ui::EnrUneAnnonce>()) {
   ui_->setupUi(&page);
   for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label16, ui_->Label17, ui_->musicTimes})
     keepPlace(*widget);
@@ -86,29 +87,29 @@ void AnnounceView::refresh() {
 
 void AnnounceView::refreshPanels() {
   // What is covered must not take the keyboard.
-  ui_->recordingPlace->setVisible(!form_.MyFrame1.visible);
-  ui_->libraryHome->setVisible(!form_.MyFrame5.visible);
-  const bool info = form_.MyFrame4.visible;
+  ui_->recordingPlace->setVisible(!page_.MyFrame1.visible);
+  ui_->libraryHome->setVisible(!page_.MyFrame5.visible);
+  const bool info = page_.MyFrame4.visible;
   if (info == !ui_->infoPlace->isHidden()) return;
   ui_->infoPlace->setVisible(info);
   if (info) ui_->MyButton3->setFocus();
 }
 
 int AnnounceView::takeSeconds() const {
-  const std::string& message = form_.Label14.caption.get();
+  const std::string& message = page_.Label14.caption.get();
   if (recording()) return numberBehind(message, QStringLiteral("Durée de l'Annonce ("));
   if (listening()) return numberBehind(message, QStringLiteral("en Lecture ("));
   return static_cast<int>(std::lround(takeLength()));
 }
 
 double AnnounceView::takeLength() const {
-  return numberBehind(form_.Label3.caption.get(), QStringLiteral("Milliseconds =")) / 1000.0;
+  return numberBehind(page_.Label3.caption.get(), QStringLiteral("Milliseconds =")) / 1000.0;
 }
 
 // Where the take was saved to; empty while it only is in the device.
 std::string AnnounceView::takeFile() const {
   const QRegularExpression saved(QStringLiteral("^\\((.*)\\)Enregistrée$"));
-  const auto match = saved.match(toQt(form_.Label14.caption.get()));
+  const auto match = saved.match(toQt(page_.Label14.caption.get()));
   return match.hasMatch() ? state_.dossierAnnonces + fromQt(match.captured(1)) + ".wav" : std::string();
 }
 
@@ -122,8 +123,8 @@ void AnnounceView::refreshTake() {
   const std::pair<QWidget*, bool> steps[] = {
       {ui_->Command3, recording()},
       {ui_->Command4, listening()},
-      {ui_->Command1, !recording() && !listening() && form_.Command1.enabled},
-      {ui_->Command2, !recording() && !listening() && !form_.Command1.enabled},
+      {ui_->Command1, !recording() && !listening() && page_.Command1.enabled},
+      {ui_->Command2, !recording() && !listening() && !page_.Command1.enabled},
   };
   for (const auto& [button, leads] : steps) setLook(*button, leads ? QStringLiteral("primary") : QString());
 }
@@ -144,31 +145,31 @@ void AnnounceView::drawTake() {
   } else if (!file.empty() && file != takeShown_) {
     takeShown_ = file;
     ui_->takeWave->setPeaks(peaksOf(file, Waveform::parts));
-  } else if (form_.Label3.caption.get().empty()) {  // no take, or none any more
+  } else if (page_.Label3.caption.get().empty()) {  // no take, or none any more
     takeShown_.clear();
     ui_->takeWave->setPeaks({});
   }
 }
 
 void AnnounceView::refreshStored() {
-  const std::string& path = form_.Label15.caption.get();
-  const std::string shown = form_.Label9.caption == "Lire une Annonce Enregistrée" ? std::string() : path;
+  const std::string& path = page_.Label15.caption.get();
+  const std::string shown = page_.Label9.caption == "Lire une Annonce Enregistrée" ? std::string() : path;
   if (shown != storedShown_) {
     storedShown_ = shown;
     ui_->storedWave->setPeaks(shown.empty() ? std::vector<float>() : peaksOf(shown, Waveform::parts));
   }
-  ui_->storedWave->setHeard(shareOf(form_.Label17.caption.get(), form_.Label16.caption.get()));
+  ui_->storedWave->setHeard(shareOf(page_.Label17.caption.get(), page_.Label16.caption.get()));
 }
 
 void AnnounceView::refreshMusic() {
-  const bool chosen = form_.Label6.caption != "Actuellement Aucune Ambiance Musicale Choisie";
+  const bool chosen = forms::musicChosen(page_);
   ui_->Label6->setProperty("tone", chosen ? QStringLiteral("text") : QStringLiteral("second"));
-  ui_->musicTimes->setVisible(form_.Label5.visible || form_.Label7.visible);
-  ui_->musicBar->setShare(chosen ? shareOf(form_.Label5.caption.get(), form_.Label7.caption.get()) : 0);
-  const bool empty = form_.File1.lines().empty();
+  ui_->musicTimes->setVisible(page_.Label5.visible || page_.Label7.visible);
+  ui_->musicBar->setShare(chosen ? shareOf(page_.Label5.caption.get(), page_.Label7.caption.get()) : 0);
+  const bool empty = page_.File1.lines().empty();
   setLook(*ui_->MyButton4, empty ? QStringLiteral("primary") : QString());
   setLook(*ui_->Command8, empty ? QString() : QStringLiteral("primary"));
-  setLook(*ui_->MyButton12, form_.MyButton12.enabled ? QStringLiteral("primary") : QString());
+  setLook(*ui_->MyButton12, page_.MyButton12.enabled ? QStringLiteral("primary") : QString());
 }
 
 }  // namespace desktop

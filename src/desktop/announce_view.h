@@ -35,13 +35,13 @@ class AnnounceView final : public QObject {
   void drawTake();
   void refreshStored();
   void refreshMusic();
-  [[nodiscard]] bool recording() const { return form_.Timer3.enabled; }
-  [[nodiscard]] bool listening() const { return form_.Timer8.enabled; }
+  [[nodiscard]] bool recording() const { return page_.Timer3.enabled; }
+  [[nodiscard]] bool listening() const { return page_.Timer8.enabled; }
   [[nodiscard]] int takeSeconds() const;    // that the ring shows
   [[nodiscard]] double takeLength() const;  // s
   [[nodiscard]] std::string takeFile() const;
 
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& page_;
   const model::SharedState& state_;
   std::unique_ptr<Ui::EnrUneAnnonce> ui_;
   QTimer pending_;

@@ -1,9 +1,10 @@
-#include "capture/selection_player.h"
+#include "music/selection_player.h"
 
+#include "forms/enr_une_annonce_words.h"
 #include "forms/music_buttons.h"
 #include "platform/text.h"
 
-namespace capture {
+namespace music {
 namespace {
 
 constexpr int largestSize = 14;      // points
@@ -26,85 +27,85 @@ void fitName(forms::EnrUneAnnonce& form, const std::string& name) {
 }
 
 SelectionPlayer::SelectionPlayer(const context::Context& context, SelectionList& list, Selection& selection)
-    : context_(context), form_(context.screens.announcements), list_(list), selection_(selection) {
-  form_.Label23.width = nameWidth;
-  form_.MyButton12.click.handle([this] { demarrer(); });
-  form_.Timer4.tick.handle([this] { watch(); });
-  form_.mnEcouter.click.handle([this] { ecouter(); });
+    : context_(context), library_(context.screens.announcements), list_(list), selection_(selection) {
+  library_.Label23.width = nameWidth;
+  library_.MyButton12.click.handle([this] { demarrer(); });
+  library_.Timer4.tick.handle([this] { watch(); });
+  library_.mnEcouter.click.handle([this] { ecouter(); });
 }
 
 void SelectionPlayer::demarrer() {
   context_.state.selectionEnCours = "oui";
   selection_.listeChargee = "";
   selection_.nbMusiquesJouees = 0;
-  form_.Timer4.enabled = true;
+  library_.Timer4.enabled = true;
   selection_.prochaineMusique = 1;
   musiqueSuivante();
   forms::showMusicPlaying(context_.screens.main);
 }
 
 int SelectionPlayer::tickedFrom(int row) const {
-  while (row <= form_.ListView1.rowCount() && !form_.ListView1.checked(row)) ++row;
-  return row <= form_.ListView1.rowCount() ? row : 0;
+  while (row <= library_.ListView1.rowCount() && !library_.ListView1.checked(row)) ++row;
+  return row <= library_.ListView1.rowCount() ? row : 0;
 }
 
 void SelectionPlayer::musiqueSuivante() {
   if (selection_.nbMusiquesCochees == 0) {
-    form_.Timer4.enabled = false;
+    library_.Timer4.enabled = false;
     return;
   }
-  if (form_.ListView1.rowCount() == 0) return;
+  if (library_.ListView1.rowCount() == 0) return;
   int indexMusique = tickedFrom(selection_.prochaineMusique);
-  if (indexMusique == 0 && form_.Check2.value != 0) indexMusique = tickedFrom(1);
+  if (indexMusique == 0 && library_.Check2.value != 0) indexMusique = tickedFrom(1);
   if (indexMusique == 0) {
-    form_.Timer4.enabled = false;
+    library_.Timer4.enabled = false;
     return;
   }
   ++selection_.nbMusiquesJouees;
   selection_.prochaineMusique = indexMusique + 1;
-  play(form_.ListView1.text(indexMusique, 1));
+  play(library_.ListView1.text(indexMusique, 1));
 }
 
 // The player does it in an event of its own, once this handler is through.
 void SelectionPlayer::play(const std::string& name) {
   context_.screens.player.Text1.text = list_.pathOf(name);
   context_.screens.player.Timer2.enabled = true;
-  form_.Label6.caption = name;
-  form_.Label23.caption = name;
-  fitName(form_, name);
-  form_.Label23.visible = true;
+  library_.Label6.caption = name;
+  library_.Label23.caption = name;
+  fitName(library_, name);
+  library_.Label23.visible = true;
 }
 
 void SelectionPlayer::watch() {
-  const bool chosen = form_.Label6.caption != noMusicChosen;
-  form_.Label5.visible = chosen;
-  form_.Label7.visible = chosen;
-  for (platform::Button* button :
-       {&form_.Command9, &form_.Command10, &form_.Command11, &form_.Command12, &form_.Command13}) {
+  const bool chosen = forms::musicChosen(library_);
+  library_.Label5.visible = chosen;
+  library_.Label7.visible = chosen;
+  for (platform::Button* button : {&library_.Command9, &library_.Command10, &library_.Command11,
+                                   &library_.Command12, &library_.Command13}) {
     button->enabled = chosen;
   }
   if (chosen) {
-    form_.Label6.visible = true;
+    library_.Label6.visible = true;
     // The player holds the position at the end of a piece, so that a look each second finds it there. Before
     // a piece is open it has no length to be at the end of.
     const std::string& length = context_.state.dureeMusique;
-    if (!length.empty() && form_.Label5.caption == length) musiqueSuivante();
+    if (!length.empty() && library_.Label5.caption == length) musiqueSuivante();
   }
-  if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) form_.Command13.enabled = false;
+  if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) library_.Command13.enabled = false;
 }
 
 void SelectionPlayer::ecouter() {
-  const int row = form_.ListView1.selectedRow();
+  const int row = library_.ListView1.selectedRow();
   if (row == 0) return;
   context_.state.selectionEnCours = "";
-  const std::string& name = form_.ListView1.text(row, 1);
+  const std::string& name = library_.ListView1.text(row, 1);
   if (!context_.outside.files.exists(list_.pathOf(name))) {
     context_.outside.dialogs.message({platform::MessageKind::Information, platform::MessageButtons::Ok,
                                       "Musique Introuvable...", "Cette Musique a été Supprimée..."});
     return;
   }
   play(name);
-  form_.Timer4.enabled = true;
+  library_.Timer4.enabled = true;
 }
 
-}  // namespace capture
+}  // namespace music

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "capture/selection_list.h"
+#include "music/selection_list.h"
 
-namespace capture {
+namespace music {
 
 class MusicDeletion {
  public:
@@ -17,10 +17,10 @@ class MusicDeletion {
   void deleteAll();
 
   context::Context context_;
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& library_;
   SelectionList& list_;
   Selection& selection_;
   std::string nomMusique_;  // the row just taken out of the list
 };
 
-}  // namespace capture
+}  // namespace music

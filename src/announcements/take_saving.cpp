@@ -1,10 +1,10 @@
-#include "capture/take_saving.h"
+#include "announcements/take_saving.h"
 
 #include "platform/each_on_its_own.h"
 #include "platform/file_copy.h"
 #include "platform/text.h"
 
-namespace capture {
+namespace announcements {
 namespace {
 
 constexpr std::string_view extension = ".wav";
@@ -16,8 +16,8 @@ std::string twoDigits(long value) {
 }  // namespace
 
 TakeSaving::TakeSaving(const context::Context& context)
-    : context_(context), form_(context.screens.announcements) {
-  form_.Command1.click.handle([this] { save(); });
+    : context_(context), page_(context.screens.announcements) {
+  page_.Command1.click.handle([this] { save(); });
 }
 
 // "Annonce du 16 11 26 à 20 31 05"
@@ -75,15 +75,15 @@ void TakeSaving::save() {
   const std::optional<std::string> name = askName();
   if (!name) return;
   if (!write(*name)) {
-    form_.Label14.caption = "(" + *name + ") n'a pas pu être écrite sur le Disque";
+    page_.Label14.caption = "(" + *name + ") n'a pas pu être écrite sur le Disque";
     return;
   }
-  for (platform::Button* button : {&form_.Command2, &form_.MyButton10, &form_.Command4})
+  for (platform::Button* button : {&page_.Command2, &page_.MyButton10, &page_.Command4})
     button->enabled = true;
-  form_.Command3.enabled = false;
-  form_.Command1.enabled = false;
-  form_.Label1.caption = "Prêt pour Enregistrer une Annonce";
-  form_.Label14.caption = "(" + *name + ")Enregistrée";
+  page_.Command3.enabled = false;
+  page_.Command1.enabled = false;
+  page_.Label1.caption = "Prêt pour Enregistrer une Annonce";
+  page_.Label14.caption = "(" + *name + ")Enregistrée";
 }
 
-}  // namespace capture
+}  // namespace announcements

@@ -1,10 +1,10 @@
-#include "capture/stored_announcements.h"
+#include "announcements/stored_announcements.h"
 
 #include "model/numbers.h"
 #include "platform/each_on_its_own.h"
 #include "platform/text.h"
 
-namespace capture {
+namespace announcements {
 namespace {
 
 constexpr const char* nothingOpened = "Lire une Annonce Enregistrée";
@@ -30,21 +30,21 @@ const std::string alias = aliasVideo;
 }  // namespace
 
 StoredAnnouncements::StoredAnnouncements(const context::Context& context)
-    : context_(context), form_(context.screens.announcements) {
-  form_.Command6.click.handle([this] { ouvrir(); });
-  form_.Command7.click.handle([this] { play(); });
-  form_.Command15.click.handle([this] { pause(); });
-  form_.Command14.click.handle([this] { stop(); });
-  form_.MyButton5.click.handle([this] { replay(); });
-  form_.MyButton8.click.handle([this] { destroy(); });
-  form_.Timer9.tick.handle([this] { follow(); });
+    : context_(context), page_(context.screens.announcements) {
+  page_.Command6.click.handle([this] { ouvrir(); });
+  page_.Command7.click.handle([this] { play(); });
+  page_.Command15.click.handle([this] { pause(); });
+  page_.Command14.click.handle([this] { stop(); });
+  page_.MyButton5.click.handle([this] { replay(); });
+  page_.MyButton8.click.handle([this] { destroy(); });
+  page_.Timer9.tick.handle([this] { follow(); });
 }
 
 void StoredAnnouncements::makeReady() {
-  form_.Timer9.enabled = false;
-  form_.MyButton8.enabled = false;
-  form_.Label9.caption = nothingOpened;
-  form_.Label15.caption = "";
+  page_.Timer9.enabled = false;
+  page_.MyButton8.enabled = false;
+  page_.Label9.caption = nothingOpened;
+  page_.Label15.caption = "";
 }
 
 void StoredAnnouncements::ouvrir() {
@@ -54,17 +54,17 @@ void StoredAnnouncements::ouvrir() {
   if (chosen.empty() || chosen.front().empty()) return;
   const std::string& path = chosen.front();
   const std::string name = path.substr(path.rfind('/') + 1);
-  form_.Label15.caption = path;
+  page_.Label15.caption = path;
   const std::size_t characters = platform::length(name);
-  form_.Label9.caption = "(" + platform::left(name, characters < 4 ? 0 : characters - 4) + ")";
+  page_.Label9.caption = "(" + platform::left(name, characters < 4 ? 0 : characters - 4) + ")";
   if (context_.outside.files.exists(path)) {
     send("stop " + alias);
     send("close " + alias);
     if (!lireAnnonce()) tellWhyNot(path);
   }
-  form_.VScroll1.focus();
-  form_.Command7.enabled = false;
-  enable({&form_.Command14, &form_.MyButton8}, true);
+  page_.VScroll1.focus();
+  page_.Command7.enabled = false;
+  enable({&page_.Command14, &page_.MyButton8}, true);
 }
 
 // The player does not say what it misses: the disk does, or else it is the file's own fault.
@@ -86,71 +86,71 @@ void StoredAnnouncements::tellWhyNot(const std::string& path) {
 }
 
 bool StoredAnnouncements::lireAnnonce() {
-  send("open MPEGVideo!" + form_.Label15.caption.get() + " alias " + alias + " parent 0 Style 1073741824");
+  send("open MPEGVideo!" + page_.Label15.caption.get() + " alias " + alias + " parent 0 Style 1073741824");
   context_.loop.serveEvents();
   send("play " + alias + " from 0");
   send("set " + alias + " time format milliseconds");
   const std::string length = send("status " + alias + " length");
-  form_.Label16.visible = true;
-  form_.Label17.visible = true;
-  form_.Label16.caption = formatTemps(model::lenientNumber(length));
-  form_.Timer9.enabled = true;
+  page_.Label16.visible = true;
+  page_.Label17.visible = true;
+  page_.Label16.caption = formatTemps(model::lenientNumber(length));
+  page_.Timer9.enabled = true;
   return !length.empty();
 }
 
 // Positions are compared as texts of one width.
 void StoredAnnouncements::follow() {
-  const std::string& length = form_.Label16.caption;
-  form_.Label17.caption = formatTemps(model::lenientNumber(send("status " + alias + " position notify")));
-  const std::string& position = form_.Label17.caption;
-  form_.Command14.enabled = position < length;
-  if (position > length) form_.Label17.caption = length;
+  const std::string& length = page_.Label16.caption;
+  page_.Label17.caption = formatTemps(model::lenientNumber(send("status " + alias + " position notify")));
+  const std::string& position = page_.Label17.caption;
+  page_.Command14.enabled = position < length;
+  if (position > length) page_.Label17.caption = length;
   if (position != length) return;
-  form_.Timer9.enabled = false;
-  form_.MyButton5.enabled = true;
+  page_.Timer9.enabled = false;
+  page_.MyButton5.enabled = true;
 }
 
 void StoredAnnouncements::play() {
-  form_.Command7.enabled = false;
-  enable({&form_.Command15, &form_.Command14, &form_.MyButton5, &form_.MyButton6}, true);
+  page_.Command7.enabled = false;
+  enable({&page_.Command15, &page_.Command14, &page_.MyButton5, &page_.MyButton6}, true);
   send("play " + alias);
-  form_.VScroll1.focus();
+  page_.VScroll1.focus();
 }
 
 void StoredAnnouncements::pause() {
   send("pause " + alias);
-  enable({&form_.Command7, &form_.Command14, &form_.MyButton5, &form_.MyButton6}, true);
-  form_.Command15.enabled = false;
+  enable({&page_.Command7, &page_.Command14, &page_.MyButton5, &page_.MyButton6}, true);
+  page_.Command15.enabled = false;
 }
 
 void StoredAnnouncements::stop() {
   send("stop " + alias);
   send("close " + alias);
-  form_.Timer9.enabled = false;
-  enable({&form_.Command7, &form_.Command15, &form_.Command14}, false);
-  enable({&form_.MyButton5, &form_.MyButton6}, true);
-  form_.Label16.caption = "";
-  form_.Label17.caption = "";
+  page_.Timer9.enabled = false;
+  enable({&page_.Command7, &page_.Command15, &page_.Command14}, false);
+  enable({&page_.MyButton5, &page_.MyButton6}, true);
+  page_.Label16.caption = "";
+  page_.Label17.caption = "";
 }
 
 void StoredAnnouncements::replay() {
-  form_.Command7.enabled = false;
-  enable({&form_.Command15, &form_.Command14}, true);
+  page_.Command7.enabled = false;
+  enable({&page_.Command15, &page_.Command14}, true);
   lireAnnonce();
 }
 
 // The file goes before the player lets go of it, and nobody is asked.
 void StoredAnnouncements::destroy() {
-  enable({&form_.Command7, &form_.Command14, &form_.MyButton8}, false);
-  const std::string annonceADetruire = form_.Label15.caption;
+  enable({&page_.Command7, &page_.Command14, &page_.MyButton8}, false);
+  const std::string annonceADetruire = page_.Label15.caption;
   platform::eachOnItsOwn([&] {
     if (context_.outside.files.exists(annonceADetruire)) context_.outside.files.remove(annonceADetruire);
   });
-  form_.Label16.caption = "0";
-  form_.Label17.caption = "0";
-  form_.Command14.click();
-  form_.MyButton5.enabled = false;
-  form_.Label9.caption = nothingOpened;
+  page_.Label16.caption = "0";
+  page_.Label17.caption = "0";
+  page_.Command14.click();
+  page_.MyButton5.enabled = false;
+  page_.Label9.caption = nothingOpened;
 }
 
-}  // namespace capture
+}  // namespace announcements

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "capture/selection_list.h"
+#include "music/selection_list.h"
 
-namespace capture {
+namespace music {
 
 class MusicImport {
  public:
@@ -20,7 +20,7 @@ class MusicImport {
   void rebuild();
 
   context::Context context_;
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& library_;
   SelectionList& list_;
   Selection& selection_;
   std::string documentsFolder_;
@@ -31,4 +31,4 @@ class MusicImport {
   std::string why_;     // the first of them
 };
 
-}  // namespace capture
+}  // namespace music

@@ -3,7 +3,7 @@
 
 #include "context/context.h"
 
-namespace capture {
+namespace music {
 
 class Transport {
  public:
@@ -14,9 +14,9 @@ class Transport {
   void showLength();
   void volumeMoved();
 
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& library_;
   forms::LectMCI& player_;
   forms::VolumeGeneral& volume_;
 };
 
-}  // namespace capture
+}  // namespace music

@@ -3,7 +3,7 @@
 
 #include "context/context.h"
 
-namespace capture {
+namespace announcements {
 
 class TakeFigures {
  public:
@@ -13,8 +13,8 @@ class TakeFigures {
   void show();
   double ask(const char* figure);
 
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& page_;
   platform::MediaCommands& media_;
 };
 
-}  // namespace capture
+}  // namespace announcements

@@ -5,7 +5,7 @@
 
 #include "context/context.h"
 
-namespace capture {
+namespace announcements {
 
 // The name under which this page's player goes.
 inline constexpr const char* aliasVideo = "video001";
@@ -30,7 +30,7 @@ class StoredAnnouncements {
   std::string send(const std::string& command) { return context_.outside.media.send(command); }
 
   context::Context context_;
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& page_;
 };
 
-}  // namespace capture
+}  // namespace announcements

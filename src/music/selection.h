@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace capture {
+namespace music {
 
 struct Selection {
   int nbMusiquesCochees = 0;  // ticked, as the start button says; removing rows may put it out of step
@@ -12,6 +12,4 @@ struct Selection {
   std::string listeChargee;   // "ok": the list keeps its ticks; empty: it is made anew at the next visit
 };
 
-inline constexpr const char* noMusicChosen = "Actuellement Aucune Ambiance Musicale Choisie";
-
-}  // namespace capture
+}  // namespace music

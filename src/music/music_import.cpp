@@ -1,27 +1,27 @@
-#include "capture/music_import.h"
+#include "music/music_import.h"
 
 #include "platform/file_copy.h"
 
-namespace capture {
+namespace music {
 
 MusicImport::MusicImport(const context::Context& context, SelectionList& list, Selection& selection,
                          std::string documentsFolder)
     : context_(context),
-      form_(context.screens.announcements),
+      library_(context.screens.announcements),
       list_(list),
       selection_(selection),
       documentsFolder_(std::move(documentsFolder)) {
-  form_.MyButton4.click.handle([this] { importer(); });
-  form_.MyButton16.click.handle([this] { givenUp_ = true; });
+  library_.MyButton4.click.handle([this] { importer(); });
+  library_.MyButton16.click.handle([this] { givenUp_ = true; });
 }
 
 void MusicImport::importer() {
-  form_.MyButton13.click();
+  library_.MyButton13.click();
   const std::vector<std::string> chosen = context_.outside.dialogs.chooseFiles(
       {platform::FilePurpose::OpenSeveral, "Importer une Musique", documentsFolder_,
        "Fichiers (Musiques) mp3|*.mp3|Musiques wma|*.wma", ""});
   if (chosen.empty()) return;
-  form_.MyButton4.enabled = false;  // events are served while it copies
+  library_.MyButton4.enabled = false;  // events are served while it copies
   failed_.clear();
   copyAll(chosen);
   rebuild();
@@ -29,10 +29,10 @@ void MusicImport::importer() {
 }
 
 void MusicImport::rebuild() {
-  form_.MyFrame6.visible = false;
-  form_.MyButton4.enabled = true;
+  library_.MyFrame6.visible = false;
+  library_.MyButton4.enabled = true;
   selection_.listeChargee = "";
-  form_.Command8.click();
+  library_.Command8.click();
   list_.readLibrary();
 }
 
@@ -59,15 +59,15 @@ void MusicImport::copyAll(const std::vector<std::string>& chosen) {
 }
 
 void MusicImport::copyOne(const std::string& from, const std::string& to, const std::string& name) {
-  form_.Label27.caption = "Copie de (" + name + ")";
-  form_.MyFrame6.visible = true;
+  library_.Label27.caption = "Copie de (" + name + ")";
+  library_.MyFrame6.visible = true;
   const auto show = [this](std::uint64_t done, std::uint64_t total) {
     const std::uint64_t part = total == 0 ? 100 : done * 100 / total;
-    form_.ProgressBar1.value = static_cast<int>((copied_ * 100 + part) / nbFichiersChoisis_);
+    library_.ProgressBar1.value = static_cast<int>((copied_ * 100 + part) / nbFichiersChoisis_);
     context_.loop.serveEvents();
     return !givenUp_ && !context_.loop.quitting();
   };
   if (show(0, 1)) platform::copyFile(context_.outside.files, from, to, show);
 }
 
-}  // namespace capture
+}  // namespace music

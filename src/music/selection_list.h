@@ -3,10 +3,10 @@
 
 #include <string>
 
-#include "capture/selection.h"
 #include "context/context.h"
+#include "music/selection.h"
 
-namespace capture {
+namespace music {
 
 class SelectionList {
  public:
@@ -32,9 +32,9 @@ class SelectionList {
   int recount();
 
   context::Context context_;
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& library_;
   platform::Grid& list_;
   Selection& selection_;
 };
 
-}  // namespace capture
+}  // namespace music

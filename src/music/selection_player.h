@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "capture/selection_list.h"
+#include "music/selection_list.h"
 
-namespace capture {
+namespace music {
 
 class SelectionPlayer {
  public:
@@ -20,7 +20,7 @@ class SelectionPlayer {
   [[nodiscard]] int tickedFrom(int row) const;
 
   context::Context context_;
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& library_;
   SelectionList& list_;
   Selection& selection_;
 };
@@ -28,4 +28,4 @@ class SelectionPlayer {
 // The name of the chosen piece in the largest size that lets it fit its place.
 void fitName(forms::EnrUneAnnonce& form, const std::string& name);
 
-}  // namespace capture
+}  // namespace music

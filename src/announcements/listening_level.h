@@ -3,7 +3,7 @@
 
 #include "context/context.h"
 
-namespace capture {
+namespace announcements {
 
 inline constexpr int usualListeningLevel = 7;
 
@@ -20,8 +20,8 @@ class ListeningLevel {
   void fadeIn();
   void fadeStep(platform::Timer& timer, int step, int last);
 
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& page_;
   platform::OutputLevel& output_;
 };
 
-}  // namespace capture
+}  // namespace announcements

@@ -6,7 +6,7 @@
 
 #include "context/context.h"
 
-namespace capture {
+namespace announcements {
 
 class TakeSaving {
  public:
@@ -22,7 +22,7 @@ class TakeSaving {
   [[nodiscard]] std::string pathOf(const std::string& name) const;
 
   context::Context context_;
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& page_;
 };
 
-}  // namespace capture
+}  // namespace announcements

@@ -1,10 +1,10 @@
-#include "capture/take_figures.h"
+#include "announcements/take_figures.h"
 
 #include <cmath>
 
 #include "model/numbers.h"
 
-namespace capture {
+namespace announcements {
 namespace {
 
 // With two decimals at least and at most.
@@ -17,8 +17,8 @@ std::string megabytes(double value) {
 }  // namespace
 
 TakeFigures::TakeFigures(const context::Context& context)
-    : form_(context.screens.announcements), media_(context.outside.media) {
-  form_.Command5.click.handle([this] { show(); });
+    : page_(context.screens.announcements), media_(context.outside.media) {
+  page_.Command5.click.handle([this] { show(); });
 }
 
 double TakeFigures::ask(const char* figure) {
@@ -29,14 +29,14 @@ void TakeFigures::show() {
   media_.send("set capture time format ms");
   std::string lines = "Milliseconds = " + model::plainNumber(ask("length")) + "\n";
   media_.send("set capture time format bytes");
-  form_.Label8.caption = megabytes(ask("length") / 1024 / 1024);
-  lines += "Mo = " + form_.Label8.caption.get() + "\n";
+  page_.Label8.caption = megabytes(ask("length") / 1024 / 1024);
+  lines += "Mo = " + page_.Label8.caption.get() + "\n";
   const double channels = ask("channels");
   if (channels == 1) lines += "Channels = 1 (mono)\n";
   if (channels == 2) lines += "Cannaux = 2 (stereo)\n";
   lines += "Bits per sample = " + model::plainNumber(ask("bitspersample")) + "\n";
   lines += "Bytes per second = " + model::plainNumber(ask("bytespersec")) + "\n";
-  form_.Label3.caption = lines;
+  page_.Label3.caption = lines;
 }
 
-}  // namespace capture
+}  // namespace announcements

@@ -7,7 +7,7 @@
 #include "platform/clock.h"
 #include "voice/voice.h"
 
-namespace capture {
+namespace announcements {
 
 class Recorder {
  public:
@@ -35,7 +35,7 @@ class Recorder {
 
   context::Context context_;
   voice::Voice& voice_;
-  forms::EnrUneAnnonce& form_;
+  forms::EnrUneAnnonce& page_;
   int secondesEnregistrees_ = 0;  // since the last press of Command2
   int secondesEcoutees_ = 0;      // since listening began
   std::string ecouteApresArret_;  // "oui" until the first stop has played the take back
@@ -44,4 +44,4 @@ class Recorder {
   unsigned take_ = 0;  // another one for each take, and for none
 };
 
-}  // namespace capture
+}  // namespace announcements
