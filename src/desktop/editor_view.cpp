@@ -47,7 +47,7 @@ constexpr std::array<const char*, 14> headButtons{
 }  // namespace
 
 EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
-    : form_(form), ui_(std::make_unique<Ui::CreerCycle>()), page_(page), binder_(binder) {
+    : editor_(form), ui_(std::make_unique<Ui::CreerCycle>()), page_(page), binder_(binder) {
   ui_->setupUi(&page);
   // Beside the list, not in it: what is inside a list is nothing but cells to somebody who does not see it.
   for (auto* floating : std::initializer_list<QWidget*>{ui_->Navette, ui_->Combo1, ui_->Picture2,
@@ -70,8 +70,8 @@ EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
           &SessionProfile::selectRow);
   connect(ui_->editorProfile, &SessionProfile::rowPressed, this, [this, &binder](int row) {
     binder.run([this, row] {
-      form_.ListView1.select(row);
-      form_.ListView1.reveal(row);
+      editor_.ListView1.select(row);
+      editor_.ListView1.reveal(row);
     });
   });
   ui_->editorProfile->setClickable(true);
@@ -125,13 +125,13 @@ void EditorView::focusCellEditor() {
 }
 
 bool EditorView::editing() const {
-  return form_.Combo1.visible || form_.Picture2.visible || form_.Combo13.visible;
+  return editor_.Combo1.visible || editor_.Picture2.visible || editor_.Combo13.visible;
 }
 
 void EditorView::leaveCellEditor() {
   binder_.run([this] {
-    form_.Command1.click();
-    form_.Combo13.visible = false;
+    editor_.Command1.click();
+    editor_.Combo13.visible = false;
   });
   ui_->ListView1->setFocus();
 }
@@ -139,17 +139,17 @@ void EditorView::leaveCellEditor() {
 // Otherwise leaving would take it.
 void EditorView::dropTypedDuration() {
   binder_.run([this] {
-    const std::string& kept = form_.Label7.caption;
-    form_.Combo2.text = platform::left(kept, 2);
-    form_.Combo3.text = platform::mid(kept, 4, 2);
-    form_.Combo4.text = platform::mid(kept, 7, 2);
+    const std::string& kept = editor_.Label7.caption;
+    editor_.Combo2.text = platform::left(kept, 2);
+    editor_.Combo3.text = platform::mid(kept, 4, 2);
+    editor_.Combo4.text = platform::mid(kept, 7, 2);
   });
 }
 
 // The calculator's picture comes back in place of a help text; false where there is none.
 bool EditorView::leaveHelp() {
-  if (!form_.Picture8.visible || form_.Image11.visible) return false;
-  binder_.run([this] { form_.Picture8.hover(); });
+  if (!editor_.Picture8.visible || editor_.Image11.visible) return false;
+  binder_.run([this] { editor_.Picture8.hover(); });
   return true;
 }
 
@@ -187,12 +187,12 @@ void EditorView::setListMode(bool whole) {
 void EditorView::refresh() {
   pending_.stop();
   ui_->ListView1->gridModel()->flush();
-  ui_->calculatorPlace->setVisible(form_.Picture8.visible);
+  ui_->calculatorPlace->setVisible(editor_.Picture8.visible);
   refreshFilms();
   refreshProfile();
   refreshCalculator();
   // White is for a refusal; the rest is a tip.
-  const bool refusal = form_.Label4.colour == platform::Colour::rgb(255, 255, 255);
+  const bool refusal = editor_.Label4.colour == platform::Colour::rgb(255, 255, 255);
   setLook(*ui_->Label4, refusal ? QStringLiteral("badge") : QStringLiteral("tip"));
   placeFloating();
   // A cell editor that has gone hands the keyboard back to the list.
@@ -201,15 +201,15 @@ void EditorView::refresh() {
 
 // A narrow box in the header, with a list as wide as its titles.
 void EditorView::refreshFilms() {
-  ui_->filmsBox->setVisible(!form_.Combo6.lines().empty());
+  ui_->filmsBox->setVisible(!editor_.Combo6.lines().empty());
   QAbstractItemView& titles = *ui_->Combo6->view();
   titles.setMinimumWidth(titles.sizeHintForColumn(0) + dp(&titles, 24));
 }
 
 // By the form's word: the keys and the pointer of the list may be elsewhere by now.
 int EditorView::columnUnder(const platform::Control& over) const {
-  int column = form_.ListView1.columnCount();
-  while (column > 1 && form_.ListView1.columnLeft(column) > over.left) --column;
+  int column = editor_.ListView1.columnCount();
+  while (column > 1 && editor_.ListView1.columnLeft(column) > over.left) --column;
   return column;
 }
 
@@ -217,8 +217,8 @@ void EditorView::placeFloating() {
   const GridTable& table = *ui_->ListView1;
   const QSize room = table.viewport()->size();
   const QPoint corner = table.viewport()->mapTo(ui_->MyFrame2, QPoint(0, 0));
-  const int row = form_.ListView1.selectedRow();
-  const QRect cell = table.cellRect(row, columnUnder(form_.Combo1));
+  const int row = editor_.ListView1.selectedRow();
+  const QRect cell = table.cellRect(row, columnUnder(editor_.Combo1));
   const auto put = [&](QWidget& widget, const QRect& over, int least) {
     QSize size(std::max(over.width(), least), std::max(over.height(), widget.minimumSizeHint().height()));
     QRect place(QPoint(0, 0), size);
@@ -232,14 +232,14 @@ void EditorView::placeFloating() {
   if (!duration.isNull()) put(*ui_->Picture2, duration, ui_->Picture2->sizeHint().width());
   const QRect method = table.cellRect(1, model::column::heartRate);
   if (!method.isNull()) put(*ui_->Combo13, method, dp(&table, 240));
-  const QRect badge = table.cellRect(table.pressedRow(), columnUnder(form_.Picture1));
+  const QRect badge = table.cellRect(table.pressedRow(), columnUnder(editor_.Picture1));
   if (!badge.isNull()) put(*ui_->Picture1, badge, ui_->Picture1->sizeHint().width());
-  const QRect pointed = table.cellRect(form_.ListView1.pointedRow(), form_.ListView1.pointedColumn());
+  const QRect pointed = table.cellRect(editor_.ListView1.pointedRow(), editor_.ListView1.pointedColumn());
   if (!pointed.isNull()) ui_->Navette->setGeometry(pointed.adjusted(1, 1, -1, -1).translated(corner));
 }
 
 void EditorView::refreshProfile() {
-  const platform::Grid& grid = form_.ListView1;
+  const platform::Grid& grid = editor_.ListView1;
   std::vector<ProfileStep> steps;
   for (int row = 2; row <= grid.rowCount(); ++row) {
     if (!model::isSequence(grid, row)) continue;
@@ -258,7 +258,7 @@ void EditorView::refreshCalculator() {
     const platform::Control* control;
   };
   // The rows of the two rates stay: their help does.
-  for (const Row& input : {Row{ui_->ageRow, &form_.Combo7}, Row{ui_->sexRow, &form_.Combo10}}) {
+  for (const Row& input : {Row{ui_->ageRow, &editor_.Combo7}, Row{ui_->sexRow, &editor_.Combo10}}) {
     input.row->setVisible(input.control->visible);
   }
   struct Band {
@@ -266,18 +266,18 @@ void EditorView::refreshCalculator() {
     const platform::Label* label;
     EffortFamily family;
   };
-  for (const Band& zone : {Band{ui_->band50, &form_.Label50, EffortFamily::Endurance},
-                           Band{ui_->band52, &form_.Label52, EffortFamily::Recovery},
-                           Band{ui_->band53, &form_.Label53, EffortFamily::Warmth},
-                           Band{ui_->band54, &form_.Label54, EffortFamily::Strength},
-                           Band{ui_->band55, &form_.Label55, EffortFamily::Speed}}) {
+  for (const Band& zone : {Band{ui_->band50, &editor_.Label50, EffortFamily::Endurance},
+                           Band{ui_->band52, &editor_.Label52, EffortFamily::Recovery},
+                           Band{ui_->band53, &editor_.Label53, EffortFamily::Warmth},
+                           Band{ui_->band54, &editor_.Label54, EffortFamily::Strength},
+                           Band{ui_->band55, &editor_.Label55, EffortFamily::Speed}}) {
     zone.band->show(toQt(zone.label->caption.get()), familyColour(QGuiApplication::palette(), zone.family));
   }
 }
 
 QString EditorView::headerTip(int column) const {
   if (column < 3 || column >= static_cast<int>(headButtons.size())) return {};
-  const auto& button = form_.find(headButtons.at(static_cast<std::size_t>(column)));
+  const auto& button = editor_.find(headButtons.at(static_cast<std::size_t>(column)));
   return toQt(static_cast<const platform::Control&>(button).toolTip.get());
 }
 

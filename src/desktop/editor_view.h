@@ -46,7 +46,7 @@ class EditorView final : public QObject {
   void refreshCalculator();
   [[nodiscard]] QString headerTip(int column) const;
 
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   std::unique_ptr<Ui::CreerCycle> ui_;
   widgets::MovablePanel* help_ = nullptr;
   QWidget& page_;

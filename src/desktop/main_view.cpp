@@ -38,7 +38,7 @@ bool says(const std::string& text) {
 }  // namespace
 
 MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidget& page)
-    : form_(form), state_(state), ui_(std::make_unique<Ui::MainForm>()) {
+    : main_(form), state_(state), ui_(std::make_unique<Ui::MainForm>()) {
   ui_->setupUi(&page);
   for (QWidget* widget :
        std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1, ui_->Label2,
@@ -84,51 +84,51 @@ void MainView::refresh() {
 }
 
 void MainView::refreshPages() {
-  const bool settings = form_.Picture1.visible;
-  ui_->countdownPage->setVisible(form_.MyFrame2.visible && !settings);
-  ui_->ridePage->setVisible(!form_.MyFrame2.visible && !settings);
+  const bool settings = main_.Picture1.visible;
+  ui_->countdownPage->setVisible(main_.MyFrame2.visible && !settings);
+  ui_->ridePage->setVisible(!main_.MyFrame2.visible && !settings);
   // A title that only repeats the product's name beside it says nothing.
-  const bool titled = form_.MyFrame1.caption != form_.Label30.caption;
-  ui_->MyFrame1->setText(titled ? toQt(form_.MyFrame1.caption.get()) : QString());
-  ui_->timeBoxes->setVisible(form_.Combo1.visible || form_.Combo2.visible || form_.Combo3.visible);
+  const bool titled = main_.MyFrame1.caption != main_.Label30.caption;
+  ui_->MyFrame1->setText(titled ? toQt(main_.MyFrame1.caption.get()) : QString());
+  ui_->timeBoxes->setVisible(main_.Combo1.visible || main_.Combo2.visible || main_.Combo3.visible);
   const bool volumeKnown =
-      !form_.Label36.caption.get().empty() || form_.Label38.caption != "Volume Actuel ()";
+      !main_.Label36.caption.get().empty() || main_.Label38.caption != "Volume Actuel ()";
   ui_->volumeBox->setVisible(volumeKnown);
-  ui_->contactScrim->setVisible(form_.Picture12.visible);
-  ui_->noticePicture->setPicture(toQt(form_.Image18.visible ? "sound-off" : "sound-on"));
+  ui_->contactScrim->setVisible(main_.Picture12.visible);
+  ui_->noticePicture->setPicture(toQt(main_.Image18.visible ? "sound-off" : "sound-on"));
   // What the ride's panel covers must not shine through its corners, nor take the keyboard.
-  if (form_.Picture6.visible) leaveKeyboard(*ui_->buttonRow);
-  ui_->buttonRow->setVisible(!form_.Picture6.visible);
+  if (main_.Picture6.visible) leaveKeyboard(*ui_->buttonRow);
+  ui_->buttonRow->setVisible(!main_.Picture6.visible);
   // What leads on stands out: the start where a duration stands, else the way to the sessions.
-  const bool startable = form_.MyButton1.enabled && form_.MyButton1.caption == "Start";
+  const bool startable = main_.MyButton1.enabled && main_.MyButton1.caption == "Start";
   setLook(*ui_->MyButton1, startable ? QStringLiteral("primary") : QString());
-  setLook(*ui_->MyButton5, form_.MyButton1.enabled ? QString() : QStringLiteral("primary"));
+  setLook(*ui_->MyButton5, main_.MyButton1.enabled ? QString() : QStringLiteral("primary"));
 }
 
 void MainView::refreshRide() {
-  const model::EffortFamily family = model::effortFamily(form_.Label11.caption.get());
-  ui_->kindChip->setVisible(form_.Label11.visible);
-  ui_->kindChip->show(family, form_.Label11.visible);
+  const model::EffortFamily family = model::effortFamily(main_.Label11.caption.get());
+  ui_->kindChip->setVisible(main_.Label11.visible);
+  ui_->kindChip->show(family, main_.Label11.visible);
   ui_->sequenceBar->setVisible(riding());
   ui_->sequenceBar->show(family, state_.dureeSequence > 0 ? state_.ecouleSequence / state_.dureeSequence : 0);
   // A message of the start or the end; in a ride the same label says in its card that there is no target.
-  const bool message = form_.Label44.visible && form_.Label44.size == 18 && !riding();
-  ui_->banner->setText(message ? toQt(form_.Label44.caption.get()) : QString());
+  const bool message = main_.Label44.visible && main_.Label44.size == 18 && !riding();
+  ui_->banner->setText(message ? toQt(main_.Label44.caption.get()) : QString());
   ui_->banner->setVisible(message);
 }
 
 void MainView::refreshCards() {
-  const bool gear = form_.Label15.visible || form_.Label20.visible || form_.Label39.visible;
-  ui_->cadenceCard->setVisible(form_.Label10.visible);
+  const bool gear = main_.Label15.visible || main_.Label20.visible || main_.Label39.visible;
+  ui_->cadenceCard->setVisible(main_.Label10.visible);
   ui_->gearCard->setVisible(gear);
-  ui_->gearCross->setVisible(form_.Label15.visible && form_.Label20.visible && says(form_.Label15.caption) &&
-                             says(form_.Label20.caption));
+  ui_->gearCross->setVisible(main_.Label15.visible && main_.Label20.visible && says(main_.Label15.caption) &&
+                             says(main_.Label20.caption));
   // Numbers stand close together, words share the place.
-  const bool words = form_.Label20.caption.get().size() > 2 || form_.Label15.caption.get().size() > 2;
+  const bool words = main_.Label20.caption.get().size() > 2 || main_.Label15.caption.get().size() > 2;
   ui_->gearLine->setStretch(0, words ? 1 : 0);
   ui_->Label20->setSizePolicy(words ? QSizePolicy::Ignored : QSizePolicy::Maximum, QSizePolicy::Preferred);
   ui_->Label15->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  ui_->targetCard->setVisible(form_.Label44.visible && riding());
+  ui_->targetCard->setVisible(main_.Label44.visible && riding());
 }
 
 int MainView::nextRow() const {
@@ -178,7 +178,7 @@ void MainView::refreshProfile() {
 }
 
 void MainView::refreshCountdown() {
-  ui_->Label9->setTotal(form_.Combo5.text.get().empty() ? 16 : toQt(form_.Combo5.text.get()).toInt());
+  ui_->Label9->setTotal(main_.Combo5.text.get().empty() ? 16 : toQt(main_.Combo5.text.get()).toInt());
   const bool planned = !ui_->countdownProfile->steps().empty();
   ui_->firstText->setText(planned ? QStringLiteral("D'abord : ") + describe(1) : QString());
 }

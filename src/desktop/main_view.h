@@ -37,7 +37,7 @@ class MainView final : public QObject {
   [[nodiscard]] QString describe(int number) const;
   [[nodiscard]] int nextRow() const;
 
-  forms::MainForm& form_;
+  forms::MainForm& main_;
   const model::SharedState& state_;
   std::unique_ptr<Ui::MainForm> ui_;
   QTimer pending_;

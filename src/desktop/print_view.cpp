@@ -6,7 +6,7 @@
 namespace desktop {
 
 PrintView::PrintView(forms::ImprimerTQ1& form, QWidget& page)
-    : form_(form), ui_(std::make_unique<Ui::ImprimerTQ1>()) {
+    : print_(form), ui_(std::make_unique<Ui::ImprimerTQ1>()) {
   ui_->setupUi(&page);
   pending_.setSingleShot(true);
   pending_.setInterval(0);
@@ -25,12 +25,12 @@ PrintView::~PrintView() = default;
 
 void PrintView::refresh() {
   pending_.stop();
-  ui_->Grid->setColoured(form_.Option1.value);
+  ui_->Grid->setColoured(print_.Option1.value);
   if (!std::exchange(listMoved_, false)) return;
   std::vector<platform::PageGrid> pages;
-  const int rows = form_.Grid.rowCount();
+  const int rows = print_.Grid.rowCount();
   for (int row = 1; rows > 0 && row <= rows + 1; row += print::rowsPerPage) {
-    pages.push_back(print::pageFrom(form_, row));
+    pages.push_back(print::pageFrom(print_, row));
   }
   ui_->Grid->setPages(std::move(pages));
 }

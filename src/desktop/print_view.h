@@ -21,7 +21,7 @@ class PrintView final : public QObject {
   void refresh();
 
  private:
-  forms::ImprimerTQ1& form_;
+  forms::ImprimerTQ1& print_;
   std::unique_ptr<Ui::ImprimerTQ1> ui_;
   QTimer pending_;
   bool listMoved_ = true;

@@ -8,7 +8,7 @@ namespace desktop {
 using widgets::toQt;
 
 VolumeView::VolumeView(forms::VolumeGeneral& form, forms::MainForm& main, QWidget& page)
-    : form_(form), main_(main), ui_(std::make_unique<Ui::VolumeGeneral>()) {
+    : volume_(form), main_(main), ui_(std::make_unique<Ui::VolumeGeneral>()) {
   ui_->setupUi(&page);
   for (platform::Component* shown :
        std::initializer_list<platform::Component*>{&form.VScroll1, &main.Label34, &main.Label36}) {
@@ -19,7 +19,7 @@ VolumeView::VolumeView(forms::VolumeGeneral& form, forms::MainForm& main, QWidge
 VolumeView::~VolumeView() = default;
 
 void VolumeView::refresh() {
-  ui_->gauge->setPercent(form_.VScroll1.value);
+  ui_->gauge->setPercent(volume_.VScroll1.value);
   ui_->advice->setText(toQt(main_.Label36.caption.get()));
   ui_->soundState->setText(toQt(main_.Label34.caption.get()));
 }

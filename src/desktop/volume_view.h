@@ -21,7 +21,7 @@ class VolumeView final : public QObject {
   void refresh();
 
  private:
-  forms::VolumeGeneral& form_;
+  forms::VolumeGeneral& volume_;
   forms::MainForm& main_;
   std::unique_ptr<Ui::VolumeGeneral> ui_;
 };

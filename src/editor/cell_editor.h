@@ -44,7 +44,7 @@ class CellEditor {
 
   context::Context context_;
   heartrate::Calculator& calculator_;
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   platform::Grid& grid_;
   int colonneCliquee_ = 0;  // under the pointer at its last move
   int colonneEdit_ = 0;     // of the open editor

@@ -30,24 +30,24 @@ bool changesTexts(platform::GridChange::What what) {
 
 History::History(const context::Context& context)
     : loop_(context.loop),
-      form_(context.screens.editor),
-      grid_(form_.ListView1),
+      editor_(context.screens.editor),
+      grid_(editor_.ListView1),
       state_(context.state),
-      captions_{&form_.Label8.caption, &form_.Label9.caption, &context.screens.main.MyFrame1.caption,
-                &form_.MyButton3.caption, &form_.MyButton4.caption} {
+      captions_{&editor_.Label8.caption, &editor_.Label9.caption, &context.screens.main.MyFrame1.caption,
+                &editor_.MyButton3.caption, &editor_.MyButton4.caption} {
   grid_.watchGrid([this](const platform::GridChange& change) { note(change); });
   for (platform::Component* said : std::initializer_list<platform::Component*>{
-           &form_.Label8, &form_.Label9, &context.screens.main.MyFrame1, &form_.MyButton3,
-           &form_.MyButton4}) {
+           &editor_.Label8, &editor_.Label9, &context.screens.main.MyFrame1, &editor_.MyButton3,
+           &editor_.MyButton4}) {
     said->watch([this](platform::Component&, platform::Prop prop) {
       if (prop != platform::Prop::Caption) return;
       beginStep();
       saying_ = words();
     });
   }
-  form_.TimerUndoStep.tick.handle([this] { endStep(); });
-  form_.mnUndo.click.handle([this] { undo(); });
-  form_.mnRedo.click.handle([this] { redo(); });
+  editor_.TimerUndoStep.tick.handle([this] { endStep(); });
+  editor_.mnUndo.click.handle([this] { undo(); });
+  editor_.mnRedo.click.handle([this] { redo(); });
 }
 
 History::Cells History::cellsOf(int row) const {
@@ -68,7 +68,7 @@ History::Words History::words() const {
 void History::beginStep() {
   if (loop_.action() != action_) closeStep();
   action_ = loop_.action();
-  form_.TimerUndoStep.enabled = true;
+  editor_.TimerUndoStep.enabled = true;
 }
 
 // A step ends when the action that made it does, however long it waits or asks the rider in between.
@@ -77,8 +77,8 @@ void History::endStep() {
     closeStep();
     return;
   }
-  if (!form_.mnUndo.enabled) form_.mnUndo.enabled = hasEffect();
-  form_.TimerUndoStep.interval = whileItRuns;
+  if (!editor_.mnUndo.enabled) editor_.mnUndo.enabled = hasEffect();
+  editor_.TimerUndoStep.interval = whileItRuns;
 }
 
 void History::note(const platform::GridChange& change) {
@@ -117,8 +117,8 @@ void History::noteText(int row, int col) {
 }
 
 void History::closeStep() {
-  form_.TimerUndoStep.enabled = false;
-  form_.TimerUndoStep.interval = atOnce;
+  editor_.TimerUndoStep.enabled = false;
+  editor_.TimerUndoStep.interval = atOnce;
   if (hasEffect()) {
     undo_.push_back({std::move(open_), said_, saying_});
     redo_.clear();
@@ -185,7 +185,7 @@ void History::say(const Words& from, const Words& to) {
 }
 
 void History::play(std::deque<Step>& from, std::deque<Step>& to, bool backwards) {
-  form_.Command1.click();
+  editor_.Command1.click();
   closeStep();
   if (from.empty()) return;
   Step step = std::move(from.back());
@@ -199,8 +199,8 @@ void History::play(std::deque<Step>& from, std::deque<Step>& to, bool backwards)
     say(step.before, step.after);
   }
   playing_ = false;
-  recalerColonnes(form_);
-  form_.Timer4.tick();
+  recalerColonnes(editor_);
+  editor_.Timer4.tick();
   said_ = saying_ = words();
   to.push_back(std::move(step));
   showWhatIsPossible();
@@ -222,8 +222,8 @@ void History::forget() {
 }
 
 void History::showWhatIsPossible() {
-  form_.mnUndo.enabled = !undo_.empty();
-  form_.mnRedo.enabled = !redo_.empty();
+  editor_.mnUndo.enabled = !undo_.empty();
+  editor_.mnRedo.enabled = !redo_.empty();
 }
 
 }  // namespace editor

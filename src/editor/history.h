@@ -56,7 +56,7 @@ class History {
   [[nodiscard]] Words words() const;
 
   platform::EventLoop& loop_;
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   platform::Grid& grid_;
   model::SharedState& state_;
   std::array<platform::Property<std::string>*, 5> captions_;

@@ -15,20 +15,20 @@ namespace column = model::column;
 
 Lines::Lines(const context::Context& context)
     : context_(context),
-      form_(context.screens.editor),
-      grid_(form_.ListView1),
+      editor_(context.screens.editor),
+      grid_(editor_.ListView1),
       main_(context.screens.main),
       state_(context.state) {
-  form_.MyButton2.click.handle([this] { creerSeance(); });
-  form_.MyButton3.click.handle([this] { basculerCycle(); });
-  form_.MyButton1.click.handle([this] { ajouterSequence(); });
-  form_.Command4.click.handle([this] { viderListe(); });
-  form_.mnsupprim.click.handle([this] { supprimerLigne(); });
-  form_.mnAjouterLigne.click.handle([this] { insererLigne(); });
+  editor_.MyButton2.click.handle([this] { creerSeance(); });
+  editor_.MyButton3.click.handle([this] { basculerCycle(); });
+  editor_.MyButton1.click.handle([this] { ajouterSequence(); });
+  editor_.Command4.click.handle([this] { viderListe(); });
+  editor_.mnsupprim.click.handle([this] { supprimerLigne(); });
+  editor_.mnAjouterLigne.click.handle([this] { insererLigne(); });
 }
 
 void Lines::preambule() {
-  form_.Command1.click();
+  editor_.Command1.click();
   dernierClic_ = "onclic";
   if (forms::musicLoaded(context_.screens.player)) context_.screens.player.Timer3.enabled = true;
   forms::showMusicStopped(context_.screens.main);
@@ -37,37 +37,38 @@ void Lines::preambule() {
 
 void Lines::creerSeance() {
   preambule();
-  form_.Label8.caption = "Aucune Séance Programmée";
+  editor_.Label8.caption = "Aucune Séance Programmée";
   main_.MyFrame1.caption = "Aucune Séance Programmée";
-  recalerColonnes(form_);
-  form_.Label7.caption = "00:00:00";
+  recalerColonnes(editor_);
+  editor_.Label7.caption = "00:00:00";
   if (grid_.rowCount() > 0) {
     // A new session ends cycle mode, too; its column stays until the list is rebuilt.
-    grid_.setColumnWidth(column::cycleName, inCycleMode(form_) ? model::cycleColumnWidth : 0);
-    form_.MyButton3.caption = "Créer un Cycle";
+    grid_.setColumnWidth(column::cycleName, inCycleMode(editor_) ? model::cycleColumnWidth : 0);
+    editor_.MyButton3.caption = "Créer un Cycle";
     if (model::lastRowUnfinished(grid_)) {
       refuseUnfinished("Vous voulez Créer une Nouvelle (Séance), mais l'Actuelle n'est pas Terminée...!",
                        "Vous devez finir celle en cours...");
       return;
     }
   }
-  form_.Timer1.enabled = false;
-  form_.Combo1.visible = false;
-  form_.Label9.caption = "Création d'une Séance d'Entraînement";
+  editor_.Timer1.enabled = false;
+  editor_.Combo1.visible = false;
+  editor_.Label9.caption = "Création d'une Séance d'Entraînement";
   compteLignes_ = 0;
   buildList();
-  form_.Timer3.enabled = false;
-  form_.Picture2.visible = false;
+  editor_.Timer3.enabled = false;
+  editor_.Picture2.visible = false;
   grid_.select(1);
-  recalerColonnes(form_);
+  recalerColonnes(editor_);
   showTotalTitle();
 }
 
 void Lines::buildList() {
   grid_.clearRows();
   grid_.clearColumns();
-  for (platform::GridColumn& made : model::gridColumns(inCycleMode(form_))) grid_.addColumn(std::move(made));
-  form_.File2.refresh();
+  for (platform::GridColumn& made : model::gridColumns(inCycleMode(editor_)))
+    grid_.addColumn(std::move(made));
+  editor_.File2.refresh();
   grid_.addRow(model::firstRow());
   grid_.setLook(1, column::cycleName, column::duration, model::look::firstRow);
   grid_.addRow(model::handMadeRow(2, std::string(model::noMeaning)));
@@ -77,7 +78,7 @@ void Lines::buildList() {
 void Lines::showTotalTitle() {
   const std::string name = state_.seanceTitre.empty() ? "Aucune Séance Programmée" : state_.seanceTitre;
   const std::string title = "(" + name + ")  =>  (Durée : " + grid_.text(1, column::duration) + ")";
-  form_.Label8.caption = title;
+  editor_.Label8.caption = title;
   main_.MyFrame1.caption = title;
 }
 
@@ -86,7 +87,7 @@ void Lines::viderListe() {
   main_.Timer6.enabled = true;
   state_.seanceTitre = "";
   grid_.clearRows();
-  form_.Label8.caption = "Ventoria";
+  editor_.Label8.caption = "Ventoria";
   main_.MyFrame1.caption = "Ventoria";
   creerSeance();
 }
@@ -97,8 +98,8 @@ void Lines::refuseUnfinished(const std::string& text, const std::string& title) 
 }
 
 void Lines::refuseAddition() {
-  form_.Label24.visible = false;
-  form_.Label23.caption =
+  editor_.Label24.visible = false;
+  editor_.Label23.caption =
       "Pour Ajouter une Nouvelle Séquence à votre Liste, vous devez d'abord finir celle en cours.";
   refuseUnfinished("Vous voulez Ajouter une Nouvelle (Séquence), mais l'Actuelle n'est pas Terminée...!",
                    "Données Manquantes...");
@@ -122,12 +123,12 @@ bool Lines::lastRowClosed() const {
 
 void Lines::ajouterSequence() {
   preambule();
-  recalerColonnes(form_);
-  form_.Label7.caption = "00:00:00";
-  form_.Label9.caption = "Ajouter une Séquence d'Entraînement";
+  recalerColonnes(editor_);
+  editor_.Label7.caption = "00:00:00";
+  editor_.Label9.caption = "Ajouter une Séquence d'Entraînement";
   if (announcementMissing()) {
-    form_.Label24.visible = false;
-    form_.Label23.caption =
+    editor_.Label24.visible = false;
+    editor_.Label23.caption =
         "Pour Ajouter une Nouvelle Séquence à votre Liste, vous devez d'abord finir celle en cours, il vous "
         "reste à choisir l'annonce en question...";
     return;
@@ -151,7 +152,7 @@ void Lines::forgetNameForOwnRows() {
   }
   if (compteLignes_ == 0) return;
   state_.seanceTitre = model::untitledSession;
-  form_.Label8.caption = std::string(model::untitledSession);
+  editor_.Label8.caption = std::string(model::untitledSession);
   main_.MyFrame1.caption = "Ventoria";
 }
 
@@ -162,9 +163,9 @@ void Lines::appendBlankRow(const platform::CellLook& look) {
 
 void Lines::ajouterSequenceVariante() {
   preambule();
-  recalerColonnes(form_);
-  form_.Label7.caption = "00:00:00";
-  form_.Label9.caption = "Ajouter une Séquence d'Entraînement";
+  recalerColonnes(editor_);
+  editor_.Label7.caption = "00:00:00";
+  editor_.Label9.caption = "Ajouter une Séquence d'Entraînement";
   const bool spoken = grid_.text(grid_.rowCount(), column::sequence) == model::vocalAnnouncement;
   if (!spoken && model::lastRowUnfinished(grid_)) {
     refuseAddition();
@@ -172,7 +173,7 @@ void Lines::ajouterSequenceVariante() {
   }
   ++compteLignes_;
   appendBlankRow(model::look::finished);
-  recalerColonnes(form_);
+  recalerColonnes(editor_);
 }
 
 // A row is inserted by moving what stands behind it, and the place comes from the number in the first column,
@@ -221,24 +222,24 @@ void Lines::supprimerLigne() {
 
 void Lines::basculerCycle() {
   preambule();
-  form_.Label9.caption = "Création d'un Cycle d'Entraînement";
-  if (!inCycleMode(form_)) {
-    form_.MyButton3.caption = "Annuler ce Cycle";
-    form_.MyButton4.caption = "Ajouter une Séance";
+  editor_.Label9.caption = "Création d'un Cycle d'Entraînement";
+  if (!inCycleMode(editor_)) {
+    editor_.MyButton3.caption = "Annuler ce Cycle";
+    editor_.MyButton4.caption = "Ajouter une Séance";
     grid_.setColumnWidth(column::cycleName, model::cycleColumnWidth);
-    sizeGrid(form_);
+    sizeGrid(editor_);
   } else {
-    form_.Timer4.enabled = false;
+    editor_.Timer4.enabled = false;
     grid_.clearRows();
-    form_.MyButton3.caption = "Créer un Cycle";
-    form_.MyButton4.caption = "Ajouter une Séquence";
-    form_.Label9.caption = "Création d'une Séance d'Entraînement";
+    editor_.MyButton3.caption = "Créer un Cycle";
+    editor_.MyButton4.caption = "Ajouter une Séquence";
+    editor_.Label9.caption = "Création d'une Séance d'Entraînement";
     grid_.setColumnWidth(column::cycleName, 0);
     grid_.setColumnWidth(column::sessionName, 0);
     creerSeance();
   }
   grid_.setColumnWidth(column::sequence, 1250);
-  recalerColonnes(form_);
+  recalerColonnes(editor_);
 }
 
 }  // namespace editor

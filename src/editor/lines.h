@@ -33,7 +33,7 @@ class Lines {
   void appendBlankRow(const platform::CellLook& look);
 
   context::Context context_;
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   platform::Grid& grid_;
   forms::MainForm& main_;
   model::SharedState& state_;

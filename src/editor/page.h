@@ -25,7 +25,7 @@ class Page {
   void leave();
 
   context::Context context_;
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   heartrate::Calculator calculator_;
   Lines lines_;
   CellEditor cells_;

@@ -27,23 +27,23 @@ SessionFiles::SessionFiles(const context::Context& context, voice::Voice& voice,
     : context_(context),
       voice_(voice),
       lines_(lines),
-      form_(context.screens.editor),
+      editor_(context.screens.editor),
       main_(context.screens.main),
       state_(context.state) {
-  form_.MyButton4.click.handle([this] { addByCaption(); });
-  form_.Command5.click.handle([this] {
-    form_.Command1.click();
+  editor_.MyButton4.click.handle([this] { addByCaption(); });
+  editor_.Command5.click.handle([this] {
+    editor_.Command1.click();
     addByCaption();
   });
-  form_.Command6.click.handle([this] { enregistrerListe(); });
-  form_.sessionHandedIn.handle([this](const std::string& path) {
+  editor_.Command6.click.handle([this] { enregistrerListe(); });
+  editor_.sessionHandedIn.handle([this](const std::string& path) {
     prepareAddition();
     add(path);
   });
 }
 
 void SessionFiles::addByCaption() {
-  if (form_.MyButton4.caption == "Ajouter une Séance") {
+  if (editor_.MyButton4.caption == "Ajouter une Séance") {
     ajouterUneSeance();
   } else {
     lines_.ajouterSequenceVariante();
@@ -52,8 +52,8 @@ void SessionFiles::addByCaption() {
 
 void SessionFiles::prepareAddition() {
   lines_.preambule();
-  recalerColonnes(form_);
-  form_.Label7.caption = "00:00:00";
+  recalerColonnes(editor_);
+  editor_.Label7.caption = "00:00:00";
 }
 
 void SessionFiles::ajouterUneSeance() {
@@ -68,17 +68,17 @@ void SessionFiles::add(const std::string& chosen) {
   const std::optional<std::string> name = model::sessionName(chosen);
   if (!name) return;
   state_.seanceTitre = *name;
-  form_.Label8.caption = "Dernière Séance Ajoutée (" + *name + ")";
+  editor_.Label8.caption = "Dernière Séance Ajoutée (" + *name + ")";
   // The duration is that of the last hand-over, not of what is being added.
   main_.MyFrame1.caption =
       "Ventoria avec (" + *name + ") (Durée : " + model::formatTime(state_.dureeTotale) + ")";
   const std::optional<std::string> path = presentVersion(chosen);
   if (!path) return;
-  tellMissing(*path, model::ajouterSeance(context_.outside.files, *path, form_.ListView1));
-  form_.Timer4.enabled = true;
+  tellMissing(*path, model::ajouterSeance(context_.outside.files, *path, editor_.ListView1));
+  editor_.Timer4.enabled = true;
   voice_.attendre(1);
-  recalerColonnes(form_);
-  form_.Timer4.enabled = false;
+  recalerColonnes(editor_);
+  editor_.Timer4.enabled = false;
 }
 
 // A file that was cut short: its blank rows stand in the list, red, to be filled or taken away.
@@ -94,7 +94,7 @@ void SessionFiles::tellMissing(const std::string& path, const model::FoundSequen
 
 std::optional<std::string> SessionFiles::presentVersion(std::string path) {
   while (!model::lireEnTete(context_.outside.files, path).present()) {
-    form_.Timer4.enabled = false;
+    editor_.Timer4.enabled = false;
     const platform::Answer answer = context_.outside.dialogs.message(
         {platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,
          "Fichier non compatible avec cette Version...",
@@ -114,7 +114,7 @@ std::optional<std::string> SessionFiles::presentVersion(std::string path) {
 
 void SessionFiles::enregistrerListe() {
   lines_.preambule();
-  if (model::lastRowUnfinished(form_.ListView1)) {
+  if (model::lastRowUnfinished(editor_.ListView1)) {
     context_.outside.dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok,
                                       "Données Manquantes...",
                                       "Vous voulez (Enregistrer), mais une Ligne n'est pas Terminée...!"});
@@ -123,7 +123,7 @@ void SessionFiles::enregistrerListe() {
   const std::optional<std::string> path = askPath();
   if (!path) return;
   write(*path);
-  form_.File2.refresh();
+  editor_.File2.refresh();
   lines_.creerSeance();
 }
 
@@ -154,7 +154,7 @@ void SessionFiles::write(const std::string& path) {
     const bool replacing = context_.outside.files.exists(path);
     (void)context_.outside.files.open(path, platform::OpenMode::ReadWriteCreate);
     touched = replacing;
-    model::ecrireSeance(context_.outside.files, path, form_.ListView1);
+    model::ecrireSeance(context_.outside.files, path, editor_.ListView1);
   } catch (const platform::FileFault& fault) {
     const std::string lost =
         touched ? " L'ancienne séance de ce fichier est peut-être en partie remplacée." : "";

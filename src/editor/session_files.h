@@ -33,7 +33,7 @@ class SessionFiles {
   context::Context context_;
   voice::Voice& voice_;
   Lines& lines_;
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   forms::MainForm& main_;
   model::SharedState& state_;
 };

@@ -19,11 +19,11 @@ constexpr int cellMargin = 100;      // twips
 
 }  // namespace
 
-Totals::Totals(const context::Context& context) : form_(context.screens.editor), grid_(form_.ListView1) {
-  form_.Timer4.tick.handle([this] { calculerTotal(); });
-  form_.Timer6.tick.handle([this] { verifierLignes(); });
-  form_.Timer7.tick.handle([this] { blink(); });
-  form_.Timer9.tick.handle([this] { survolerCellule(); });
+Totals::Totals(const context::Context& context) : editor_(context.screens.editor), grid_(editor_.ListView1) {
+  editor_.Timer4.tick.handle([this] { calculerTotal(); });
+  editor_.Timer6.tick.handle([this] { verifierLignes(); });
+  editor_.Timer7.tick.handle([this] { blink(); });
+  editor_.Timer9.tick.handle([this] { survolerCellule(); });
   grid_.watchGrid([this](const platform::GridChange& change) { note(change); });
 }
 
@@ -71,23 +71,23 @@ void Totals::verifierLignes() {
     looksStale_ = false;
   }
   const bool complete = unfinished_ == 0;
-  form_.MyButton5.visible = complete;
-  form_.Command35.visible = complete;
-  form_.Command6.visible = complete;
+  editor_.MyButton5.visible = complete;
+  editor_.Command35.visible = complete;
+  editor_.Command6.visible = complete;
   if (complete) {
-    form_.MyButton11.visible = false;
-    form_.Timer7.enabled = false;
+    editor_.MyButton11.visible = false;
+    editor_.Timer7.enabled = false;
     return;
   }
   // Once it blinks, its timer alone shows and hides it.
-  if (!form_.Timer7.enabled) form_.MyButton11.visible = true;
-  form_.Timer7.enabled = true;
-  form_.MyButton11.caption = std::to_string(unfinished_) + " Séquence(s) en (Rouge) non Terminée(s)...";
+  if (!editor_.Timer7.enabled) editor_.MyButton11.visible = true;
+  editor_.Timer7.enabled = true;
+  editor_.MyButton11.caption = std::to_string(unfinished_) + " Séquence(s) en (Rouge) non Terminée(s)...";
 }
 
 void Totals::blink() {
-  form_.MyButton11.visible = !form_.MyButton11.visible;
-  form_.Timer7.interval = form_.MyButton11.visible ? warningShown : warningHidden;
+  editor_.MyButton11.visible = !editor_.MyButton11.visible;
+  editor_.Timer7.interval = editor_.MyButton11.visible ? warningShown : warningHidden;
 }
 
 void Totals::survolerCellule() {
@@ -95,13 +95,13 @@ void Totals::survolerCellule() {
   const int col = grid_.pointedColumn();
   if (row == 0 || col < 1 || col > grid_.columnCount()) return;
   const std::string text = platform::trim(grid_.text(row, col));
-  form_.Label29.caption = text;
+  editor_.Label29.caption = text;
   const int width = grid_.column(col).width;
   const bool cut = static_cast<int>(platform::length(text)) * characterWidth > width - cellMargin;
   grid_.toolTip = cut ? text : std::string();
-  form_.Navette.left = grid_.columnLeft(col);
-  form_.Navette.width = width;
-  form_.Navette.visible = grid_.rowShows(row);
+  editor_.Navette.left = grid_.columnLeft(col);
+  editor_.Navette.width = width;
+  editor_.Navette.visible = grid_.rowShows(row);
 }
 
 }  // namespace editor

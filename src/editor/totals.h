@@ -20,7 +20,7 @@ class Totals {
   [[nodiscard]] int paintRows();
   void blink();
 
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   platform::Grid& grid_;
   // Whether the list has changed since it was last summed or painted: a look at an unchanged list costs
   // nothing.

@@ -23,28 +23,28 @@ std::vector<std::string> behindBlank(std::vector<std::string> lines) {
 }  // namespace
 
 Calculator::Calculator(const context::Context& context)
-    : form_(context.screens.editor),
+    : editor_(context.screens.editor),
       personal_(context, figures_),
       column_(context, figures_),
       screen_(context, figures_) {
-  attachHelp(form_);
+  attachHelp(editor_);
 }
 
 void Calculator::chargerListes() {
   figures_.formeEnChargement = "oui";
-  form_.Combo7.setLines(behindBlank(model::numbers(10, 110)));
-  form_.Combo8.setLines({methodCaptions.begin(), methodCaptions.end()});
-  form_.Combo9.setLines(behindBlank(model::numbers(50, 100, 5)));
-  form_.Combo10.setLines(behindBlank({"Féminin", "Masculin"}));
-  form_.Combo11.setLines(behindBlank(model::numbers(100, 230)));
-  form_.Combo12.setLines(behindBlank(model::numbers(10, 100)));
-  form_.Combo13.setLines({methodCaptions.begin(), methodCaptions.end()});
+  editor_.Combo7.setLines(behindBlank(model::numbers(10, 110)));
+  editor_.Combo8.setLines({methodCaptions.begin(), methodCaptions.end()});
+  editor_.Combo9.setLines(behindBlank(model::numbers(50, 100, 5)));
+  editor_.Combo10.setLines(behindBlank({"Féminin", "Masculin"}));
+  editor_.Combo11.setLines(behindBlank(model::numbers(100, 230)));
+  editor_.Combo12.setLines(behindBlank(model::numbers(10, 100)));
+  editor_.Combo13.setLines({methodCaptions.begin(), methodCaptions.end()});
 }
 
 void Calculator::finirChargement() {
   screen_.clearDesignTexts();
   figures_.formeEnChargement.clear();
-  if (!platform::trim(figures_.persoAge).empty()) form_.MyButton38.click();
+  if (!platform::trim(figures_.persoAge).empty()) editor_.MyButton38.click();
 }
 
 }  // namespace heartrate

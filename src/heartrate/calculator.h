@@ -28,7 +28,7 @@ class Calculator {
   [[nodiscard]] const Figures& figures() const { return figures_; }
 
  private:
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   Figures figures_;
   PersonalParameters personal_;
   TargetColumn column_;

@@ -46,114 +46,115 @@ constexpr std::array<BoxesOfMethod, methodCount> boxesOfMethods{ofAgeMethod,
 }  // namespace
 
 CalculatorScreen::CalculatorScreen(const context::Context& context, Figures& figures)
-    : context_(context), form_(context.screens.editor), figures_(figures) {
-  form_.MyButton25.click.handle([this] { ouvrirCalculateur(); });
-  form_.MyButton38.click.handle([this] { calculerFrequences(); });
-  form_.Command2.click.handle([this] { fermer(); });
-  form_.Timer10.tick.handle([this] { surveiller(); });
+    : context_(context), editor_(context.screens.editor), figures_(figures) {
+  editor_.MyButton25.click.handle([this] { ouvrirCalculateur(); });
+  editor_.MyButton38.click.handle([this] { calculerFrequences(); });
+  editor_.Command2.click.handle([this] { fermer(); });
+  editor_.Timer10.tick.handle([this] { surveiller(); });
   attachInputs();
 }
 
 void CalculatorScreen::attachInputs() {
-  form_.Combo8.click.handle([this] { choisirMethode(); });
-  form_.Combo7.click.handle([this] {
-    if (!byReserve(form_.Combo8.index)) calculerFrequences();
+  editor_.Combo8.click.handle([this] { choisirMethode(); });
+  editor_.Combo7.click.handle([this] {
+    if (!byReserve(editor_.Combo8.index)) calculerFrequences();
   });
-  for (platform::ComboBox* box : {&form_.Combo11, &form_.Combo12}) {
+  for (platform::ComboBox* box : {&editor_.Combo11, &editor_.Combo12}) {
     box->click.handle([this] {
-      if (byReserve(form_.Combo8.index)) calculerFrequences();
+      if (byReserve(editor_.Combo8.index)) calculerFrequences();
     });
   }
 }
 
 void CalculatorScreen::clearDesignTexts() {
-  if (form_.Label50.caption != "Label50") return;
-  for (const auto label : valueLabels) (form_.*label).caption = "";
+  if (editor_.Label50.caption != "Label50") return;
+  for (const auto label : valueLabels) (editor_.*label).caption = "";
 }
 
 void CalculatorScreen::ouvrirCalculateur() {
-  form_.Command1.click();
-  form_.Combo1.visible = false;
-  form_.Combo13.visible = false;
-  hideHelp(form_);
-  platform::Frame& panel = form_.Picture8;
-  const platform::Frame& window = form_.MyFrame2;  // takes the form's size when that is maximised
-  panel.left = form_.maximised ? std::max(0, (window.width - panel.width) / 2) : 0;
-  panel.top = form_.maximised ? std::max(0, (window.height - panel.height) / 2) : topInNormalWindow;
+  editor_.Command1.click();
+  editor_.Combo1.visible = false;
+  editor_.Combo13.visible = false;
+  hideHelp(editor_);
+  platform::Frame& panel = editor_.Picture8;
+  const platform::Frame& window = editor_.MyFrame2;  // takes the form's size when that is maximised
+  panel.left = editor_.maximised ? std::max(0, (window.width - panel.width) / 2) : 0;
+  panel.top = editor_.maximised ? std::max(0, (window.height - panel.height) / 2) : topInNormalWindow;
   panel.visible = true;
-  form_.Timer10.enabled = true;
+  editor_.Timer10.enabled = true;
 }
 
 void CalculatorScreen::calculerFrequences() {
   if (figures_.loading()) return;
-  form_.Combo9.text = "100";
-  if (!hasItsFigures(context_.outside.dialogs, form_)) return;
+  editor_.Combo9.text = "100";
+  if (!hasItsFigures(context_.outside.dialogs, editor_)) return;
   // From here it is the method in use that counts, which the grid's own box may have set.
   const int methode = figures_.methodeFC;
   if (!byAge(methode) && !byReserve(methode)) return;
-  if (byAge(methode) && isBlank(form_.Combo7)) return;
+  if (byAge(methode) && isBlank(editor_.Combo7)) return;
   platform::eachOnItsOwn([&] {
-    const auto fcMax =
-        fcMaxMethode(methode, form_.Combo7.text.get(), form_.Combo12.text.get(), form_.Combo9.text.get());
-    if (fcMax) form_.Combo11.text = *fcMax;
+    const auto fcMax = fcMaxMethode(methode, editor_.Combo7.text.get(), editor_.Combo12.text.get(),
+                                    editor_.Combo9.text.get());
+    if (fcMax) editor_.Combo11.text = *fcMax;
   });
-  const double fcMax = model::lenientNumber(form_.Combo11.text.get());
-  const double fcRepos = model::lenientNumber(form_.Combo12.text.get());
-  form_.Label56.caption = reserveText(fcMax, fcRepos);
+  const double fcMax = model::lenientNumber(editor_.Combo11.text.get());
+  const double fcRepos = model::lenientNumber(editor_.Combo12.text.get());
+  editor_.Label56.caption = reserveText(fcMax, fcRepos);
   for (const BandLine& line : bandLines) {
-    (form_.*line.value).caption = bandText(methode, fcMax, fcRepos, line.band);
+    (editor_.*line.value).caption = bandText(methode, fcMax, fcRepos, line.band);
   }
-  form_.Label57.caption =
-      workRateText(methode, fcMax, fcRepos, model::lenientNumber(form_.Combo9.text.get()));
+  editor_.Label57.caption =
+      workRateText(methode, fcMax, fcRepos, model::lenientNumber(editor_.Combo9.text.get()));
 }
 
 void CalculatorScreen::choisirMethode() {
   if (figures_.loading()) return;
-  const int methode = form_.Combo8.index;
+  const int methode = editor_.Combo8.index;
   // Before the check: what it finds missing is entered in the boxes of the method that was picked.
   showBoxesOf(methode);
-  if (!hasItsFigures(context_.outside.dialogs, form_)) return;
-  if (methode < 0 && isBlank(form_.Combo7)) {
-    form_.MyButton41.click();
+  if (!hasItsFigures(context_.outside.dialogs, editor_)) return;
+  if (methode < 0 && isBlank(editor_.Combo7)) {
+    editor_.MyButton41.click();
     return;
   }
   figures_.methodeFC = methode;
-  if (!isBlank(form_.Combo7)) calculerFrequences();
+  if (!isBlank(editor_.Combo7)) calculerFrequences();
 }
 
 void CalculatorScreen::showBoxesOf(int methode) {
   if (methode >= 0 && methode < methodCount) {
     const BoxesOfMethod& boxes = boxesOfMethods.at(static_cast<std::size_t>(methode));
-    form_.Combo7.visible = boxes.age;
-    form_.Combo10.visible = boxes.sex;
-    form_.Combo11.visible = boxes.fcMax;
-    form_.Combo12.visible = boxes.fcRepos;
-    form_.Label62.visible = boxes.note;
+    editor_.Combo7.visible = boxes.age;
+    editor_.Combo10.visible = boxes.sex;
+    editor_.Combo11.visible = boxes.fcMax;
+    editor_.Combo12.visible = boxes.fcRepos;
+    editor_.Label62.visible = boxes.note;
   }
   if (methode != ownFigures) {
-    form_.Label58.visible = false;
-    form_.Combo9.visible = false;
+    editor_.Label58.visible = false;
+    editor_.Combo9.visible = false;
   }
 }
 
 // Saving is offered only on the rider's own figures, and only where the screen differs from the file.
 void CalculatorScreen::surveiller() {
-  if (form_.Check1.value == 0 && form_.Check2.value == 0 && form_.Check3.value == 0) form_.Check1.value = 1;
-  if (form_.Combo8.index != ownFigures) {
-    form_.MyButton40.visible = false;
+  if (editor_.Check1.value == 0 && editor_.Check2.value == 0 && editor_.Check3.value == 0)
+    editor_.Check1.value = 1;
+  if (editor_.Combo8.index != ownFigures) {
+    editor_.MyButton40.visible = false;
     return;
   }
-  const bool same = holds(form_.Combo7, figures_.persoAge) && holds(form_.Combo10, figures_.persoSexe) &&
-                    holds(form_.Combo11, figures_.persoFCMax) &&
-                    holds(form_.Combo12, figures_.persoFCRepos) &&
+  const bool same = holds(editor_.Combo7, figures_.persoAge) && holds(editor_.Combo10, figures_.persoSexe) &&
+                    holds(editor_.Combo11, figures_.persoFCMax) &&
+                    holds(editor_.Combo12, figures_.persoFCRepos) &&
                     model::lenientInteger(figures_.persoMethode) == ownFigures;
-  if (same) form_.MyButton38.visible = false;  // and nothing shows it again
-  form_.MyButton40.visible = !same;
+  if (same) editor_.MyButton38.visible = false;  // and nothing shows it again
+  editor_.MyButton40.visible = !same;
 }
 
 void CalculatorScreen::fermer() {
-  const bool same = holds(form_.Combo7, figures_.persoAge) && holds(form_.Combo11, figures_.persoFCMax) &&
-                    holds(form_.Combo12, figures_.persoFCRepos);
+  const bool same = holds(editor_.Combo7, figures_.persoAge) && holds(editor_.Combo11, figures_.persoFCMax) &&
+                    holds(editor_.Combo12, figures_.persoFCRepos);
   if (!same) {
     const platform::Answer answer = context_.outside.dialogs.message(
         {platform::MessageKind::Information, platform::MessageButtons::YesNoCancel,
@@ -161,10 +162,10 @@ void CalculatorScreen::fermer() {
          "Vous avez Modifié certaines Données par rapport à vos (Paramètres Persos)...\n"
          "Voulez les Enregistrer O/N...?"});
     if (answer == platform::Answer::Cancel) return;
-    if (answer == platform::Answer::Yes) form_.MyButton40.click();
+    if (answer == platform::Answer::Yes) editor_.MyButton40.click();
   }
-  form_.Picture8.visible = false;
-  form_.Timer10.enabled = false;
+  editor_.Picture8.visible = false;
+  editor_.Timer10.enabled = false;
 }
 
 }  // namespace heartrate

@@ -23,7 +23,7 @@ class CalculatorScreen {
   void fermer();
 
   context::Context context_;
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   Figures& figures_;
 };
 

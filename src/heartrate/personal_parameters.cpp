@@ -19,11 +19,11 @@ void show(platform::ComboBox& box, const std::string& text) {
 
 PersonalParameters::PersonalParameters(const context::Context& context, Figures& figures)
     : context_(context),
-      form_(context.screens.editor),
+      editor_(context.screens.editor),
       figures_(figures),
-      modes_{&form_.Check1, &form_.Check2, &form_.Check3} {
-  form_.MyButton40.click.handle([this] { enregistrerParPerso(); });
-  form_.MyButton41.click.handle([this] { chargerParPerso(); });
+      modes_{&editor_.Check1, &editor_.Check2, &editor_.Check3} {
+  editor_.MyButton40.click.handle([this] { enregistrerParPerso(); });
+  editor_.MyButton41.click.handle([this] { chargerParPerso(); });
   coupleModes();
 }
 
@@ -61,24 +61,24 @@ void PersonalParameters::montrer(const model::PersonalFigures& saved) {
   figures_.persoFCMax = fresh ? nothing : saved.fcMax;
   figures_.persoFCRepos = fresh ? nothing : saved.fcRepos;
   figures_.persoMethode = fresh ? "0" : saved.methode;
-  show(form_.Combo7, figures_.persoAge);
-  show(form_.Combo10, figures_.persoSexe);
-  show(form_.Combo11, figures_.persoFCMax);
-  show(form_.Combo12, figures_.persoFCRepos);
+  show(editor_.Combo7, figures_.persoAge);
+  show(editor_.Combo10, figures_.persoSexe);
+  show(editor_.Combo11, figures_.persoFCMax);
+  show(editor_.Combo12, figures_.persoFCRepos);
   showMethod();
   // The reverse of what a pick of the method does: the note shows on the first reading where it hides later.
-  form_.Label62.visible = form_.Combo8.index == karvonen;
+  editor_.Label62.visible = editor_.Combo8.index == karvonen;
   takeMode(figures_.persoMethode.empty() ? std::string() : saved.modeAffichage);
 }
 
 void PersonalParameters::showMethod() {
   const int saved = model::lenientInteger(figures_.persoMethode);
   const int methode = saved >= 0 && saved < methodCount ? saved : 0;
-  form_.Combo8.index = methode;
-  form_.Combo13.index = methode;
+  editor_.Combo8.index = methode;
+  editor_.Combo13.index = methode;
   if (figures_.persoMethode.empty()) return;
-  form_.Combo9.text = "100";
-  if (!isBlank(form_.Combo7)) form_.MyButton38.click();
+  editor_.Combo9.text = "100";
+  if (!isBlank(editor_.Combo7)) editor_.MyButton38.click();
 }
 
 // A file that has no mode yet, or a damaged one, gives the first.
@@ -93,7 +93,7 @@ void PersonalParameters::enregistrerParPerso() {
   const int mode = context_.state.modeAffichageFC;
   // The figures are the rider's own, so the file always names the method that uses them.
   model::writePersonal(context_.outside.files, path(),
-                       {form_.Combo7.text, form_.Combo10.text, form_.Combo11.text, form_.Combo12.text,
+                       {editor_.Combo7.text, editor_.Combo10.text, editor_.Combo11.text, editor_.Combo12.text,
                         std::to_string(ownFigures), std::to_string(mode == 0 ? 1 : mode)});
   const model::PersonalFigures saved = model::readPersonal(context_.outside.files, path());
   const auto withoutZeros = [](const std::string& text) {
@@ -103,15 +103,15 @@ void PersonalParameters::enregistrerParPerso() {
   figures_.persoSexe = saved.sexe;
   figures_.persoFCMax = saved.fcMax;
   figures_.persoFCRepos = saved.fcRepos;
-  if (!saved.age.empty()) form_.Combo7.text = saved.age;
-  if (!saved.sexe.empty()) form_.Combo10.text = saved.sexe;
-  if (!saved.fcMax.empty()) form_.Combo11.text = withoutZeros(saved.fcMax);
-  if (!saved.fcRepos.empty()) form_.Combo12.text = withoutZeros(saved.fcRepos);
+  if (!saved.age.empty()) editor_.Combo7.text = saved.age;
+  if (!saved.sexe.empty()) editor_.Combo10.text = saved.sexe;
+  if (!saved.fcMax.empty()) editor_.Combo11.text = withoutZeros(saved.fcMax);
+  if (!saved.fcRepos.empty()) editor_.Combo12.text = withoutZeros(saved.fcRepos);
   figures_.persoMethode = saved.methode;
-  form_.Combo8.index = model::lenientInteger(saved.methode);
+  editor_.Combo8.index = model::lenientInteger(saved.methode);
   takeMode(saved.modeAffichage);
-  form_.Combo8.click();
-  form_.Combo13.click();
+  editor_.Combo8.click();
+  editor_.Combo13.click();
 }
 
 }  // namespace heartrate

@@ -26,7 +26,7 @@ class PersonalParameters {
   void takeMode(const std::string& saved);
 
   context::Context context_;
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   Figures& figures_;
   std::array<platform::CheckBox*, 3> modes_;  // display modes 1 to 3
 };

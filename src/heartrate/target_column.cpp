@@ -20,38 +20,39 @@ bool hasTarget(const std::string& cell) {
 }  // namespace
 
 TargetColumn::TargetColumn(const context::Context& context, Figures& figures)
-    : context_(context), form_(context.screens.editor), figures_(figures) {
-  form_.Combo13.click.handle([this] { choisirMethode(); });
+    : context_(context), editor_(context.screens.editor), figures_(figures) {
+  editor_.Combo13.click.handle([this] { choisirMethode(); });
 }
 
 TargetOperands TargetColumn::operands() const {
-  return {form_.Combo7.text.get(), form_.Combo12.text.get(), figures_.persoAge, figures_.persoFCMax,
+  return {editor_.Combo7.text.get(), editor_.Combo12.text.get(), figures_.persoAge, figures_.persoFCMax,
           figures_.persoFCRepos};
 }
 
 void TargetColumn::choisirMethode() {
-  const int picked = form_.Combo13.index;
+  const int picked = editor_.Combo13.index;
   if (picked >= 0) figures_.methodeFC = picked;
   recalculerColonneFC();
 }
 
 void TargetColumn::viserCellule(int row, const std::string& pickedText) {
   const auto write = [&](const std::string& text) {
-    form_.ListView1.setText(row, model::column::heartRate, text);
+    editor_.ListView1.setText(row, model::column::heartRate, text);
   };
   const auto refuse = [&](Needed needed) {
     sayNeeded(context_.outside.dialogs, needed);
     write(std::string(model::emptyCell));
-    form_.MyButton25.click();
+    editor_.MyButton25.click();
   };
   const std::string picked = platform::trim(pickedText);
   if (picked.empty() || picked == model::noMeaning) return write(std::string(model::emptyCell));
   write(picked);
 
-  const int methode = form_.Combo13.index;
-  if (byAge(methode) && isBlank(form_.Combo7)) return refuse(Needed::Age);
+  const int methode = editor_.Combo13.index;
+  if (byAge(methode) && isBlank(editor_.Combo7)) return refuse(Needed::Age);
   // Wider than the age methods need: a blank resting rate refuses the pick for them, too.
-  if ((byReserve(methode) && isBlank(form_.Combo7)) || isBlank(form_.Combo11) || isBlank(form_.Combo12)) {
+  if ((byReserve(methode) && isBlank(editor_.Combo7)) || isBlank(editor_.Combo11) ||
+      isBlank(editor_.Combo12)) {
     return refuse(Needed::AllFigures);
   }
   platform::eachOnItsOwn([&] {
@@ -65,12 +66,12 @@ void TargetColumn::viserCellule(int row, const std::string& pickedText) {
 
 void TargetColumn::recalculerColonneFC() {
   if (figures_.loading()) return;
-  if (isBlank(form_.Combo7)) {
+  if (isBlank(editor_.Combo7)) {
     sayNeeded(context_.outside.dialogs, byReserve(figures_.methodeFC) ? Needed::AllFigures : Needed::Age);
-    form_.MyButton25.click();
+    editor_.MyButton25.click();
     return;
   }
-  platform::Grid& grid = form_.ListView1;
+  platform::Grid& grid = editor_.ListView1;
   // A cell without a hyphen is cut where the row before it had one.
   std::size_t hyphen = 0;
   double percent = 0;

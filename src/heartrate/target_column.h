@@ -22,7 +22,7 @@ class TargetColumn {
   void choisirMethode();
 
   context::Context context_;
-  forms::CreerCycle& form_;
+  forms::CreerCycle& editor_;
   Figures& figures_;
 };
 

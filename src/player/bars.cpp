@@ -32,37 +32,37 @@ std::string wholePart(double value) {
 }  // namespace
 
 Bars::Bars(forms::LectMCI& form, platform::EventLoop& loop, Medium& medium)
-    : form_(form), loop_(loop), medium_(medium) {
-  form_.PicProgress.width = progressWidth;
-  form_.PicVolume.height = volumeHeight;
+    : player_(form), loop_(loop), medium_(medium) {
+  player_.PicProgress.width = progressWidth;
+  player_.PicVolume.height = volumeHeight;
   attachProgress();
   attachVolume();
 }
 
 void Bars::attachProgress() {
-  form_.PicProgress.mouseDown.handle([this](const Pointer& at) { pressProgress(at); });
-  form_.PicProgress.mouseMove.handle([this](const Pointer& at) { dragProgress(at); });
-  form_.PicProgress.mouseUp.handle([this](const Pointer& at) { releaseProgress(at); });
+  player_.PicProgress.mouseDown.handle([this](const Pointer& at) { pressProgress(at); });
+  player_.PicProgress.mouseMove.handle([this](const Pointer& at) { dragProgress(at); });
+  player_.PicProgress.mouseUp.handle([this](const Pointer& at) { releaseProgress(at); });
 }
 
 void Bars::attachVolume() {
-  form_.PicVolume.mouseDown.handle([this](const Pointer& at) { volumeByMouse(at.y); });
-  form_.PicVolume.mouseMove.handle([this](const Pointer& at) {
+  player_.PicVolume.mouseDown.handle([this](const Pointer& at) { volumeByMouse(at.y); });
+  player_.PicVolume.mouseMove.handle([this](const Pointer& at) {
     if (at.left) volumeByMouse(at.y);
   });
-  form_.PicVolume.mouseUp.handle([this](const Pointer& at) { volumeByMouse(std::max(at.y, 0.0)); });
-  form_.VScroll1.change.handle([this] { volumeByScroll(); });
-  form_.VScroll1.scroll.handle([this] { volumeByScroll(); });
+  player_.PicVolume.mouseUp.handle([this](const Pointer& at) { volumeByMouse(std::max(at.y, 0.0)); });
+  player_.VScroll1.change.handle([this] { volumeByScroll(); });
+  player_.VScroll1.scroll.handle([this] { volumeByScroll(); });
 }
 
 void Bars::viderProgression() {
   if (medium_.longueur == 0) medium_.longueur = 1000;  // a scale has to have a length
-  form_.PicProgress.span = medium_.longueur;
-  form_.PicProgress.strips.clear();
+  player_.PicProgress.span = medium_.longueur;
+  player_.PicProgress.strips.clear();
 }
 
 void Bars::peindreProgression(double position) {
-  platform::PaintBar& bar = form_.PicProgress;
+  platform::PaintBar& bar = player_.PicProgress;
   const int pixels = bar.width / twipsPerPixel;
   bar.strips.clear();
   for (int pixel = 0; pixel < pixels; ++pixel) {
@@ -73,7 +73,7 @@ void Bars::peindreProgression(double position) {
 }
 
 void Bars::pressProgress(const Pointer& at) {
-  form_.Timer1.enabled = false;
+  player_.Timer1.enabled = false;
   if (!medium_.chargé) return;
   peindreProgression(std::floor(at.x));
   medium_.send("stop");
@@ -96,11 +96,11 @@ void Bars::releaseProgress(const Pointer& at) {
     loop_.serveEvents();
     medium_.send("play", " from " + wholePart(at.x));
   }
-  form_.Timer1.enabled = true;
+  player_.Timer1.enabled = true;
 }
 
 void Bars::peindreVolume(double value) {
-  platform::PaintBar& bar = form_.PicVolume;
+  platform::PaintBar& bar = player_.PicVolume;
   const auto pixels = std::lround(std::clamp(value, 0.0, 1.0) * bar.height / twipsPerPixel);
   bar.strips.assign(static_cast<std::size_t>(pixels), couleurFin);
 }
@@ -111,10 +111,10 @@ void Bars::volumeByMouse(double y) {
 }
 
 void Bars::volumeByScroll() {
-  const int value = form_.VScroll1.value;
+  const int value = player_.VScroll1.value;
   peindreVolume(value / 100.0);
   medium_.sendWhole("setaudio " + medium_.alias + " volume to " + std::to_string(value * 10));
-  form_.Label3.caption = model::plainNumber(value / 10.0);
+  player_.Label3.caption = model::plainNumber(value / 10.0);
 }
 
 }  // namespace player

@@ -27,7 +27,7 @@ class Bars {
   void volumeByMouse(double y);
   void volumeByScroll();
 
-  forms::LectMCI& form_;
+  forms::LectMCI& player_;
   platform::EventLoop& loop_;
   Medium& medium_;
 };

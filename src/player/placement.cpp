@@ -16,17 +16,17 @@ PixelSize fitted(PixelSize native, PixelSize box) {
   return {static_cast<int>(ratio * box.height), box.height};
 }
 
-Placement::Placement(forms::LectMCI& form, Medium& medium) : form_(form), medium_(medium) {
-  form_.Picture1.width = boxWidth;
-  form_.Picture1.height = boxHeight;
-  form_.Check4.value = 1;
-  form_.Check3.click.handle([this] {
-    redimensionner_ = form_.Check3.value == 1;
+Placement::Placement(forms::LectMCI& form, Medium& medium) : player_(form), medium_(medium) {
+  player_.Picture1.width = boxWidth;
+  player_.Picture1.height = boxHeight;
+  player_.Check4.value = 1;
+  player_.Check3.click.handle([this] {
+    redimensionner_ = player_.Check3.value == 1;
     placerVideo();
     dimensionnerImage();
   });
-  form_.Check4.click.handle([this] {
-    proportion_ = form_.Check4.value == 1;
+  player_.Check4.click.handle([this] {
+    proportion_ = player_.Check4.value == 1;
     placerVideo();
     dimensionnerImage();
   });
@@ -39,7 +39,7 @@ void Placement::sendSize(const char* what, PixelSize size) {
 
 void Placement::placerVideo() {
   const PixelSize native{medium_.largeurMedia, medium_.hauteurMedia};
-  const PixelSize box{form_.Picture1.width / twipsPerPixel, form_.Picture1.height / twipsPerPixel};
+  const PixelSize box{player_.Picture1.width / twipsPerPixel, player_.Picture1.height / twipsPerPixel};
   if (!redimensionner_) {
     if (native.width >= 2 && native.height >= 2) sendSize("window", native);
     return;
@@ -52,25 +52,25 @@ void Placement::placerVideo() {
 
 void Placement::montrerImage(const std::string& path) {
   cacherImage();
-  form_.AffBMP.picture = path;  // what shows it gives it its own size
-  image_ = {form_.AffBMP.width, form_.AffBMP.height};
+  player_.AffBMP.picture = path;  // what shows it gives it its own size
+  image_ = {player_.AffBMP.width, player_.AffBMP.height};
   dimensionnerImage();
-  form_.AffBMP.visible = true;
+  player_.AffBMP.visible = true;
 }
 
 void Placement::viderImage() {
   cacherImage();
-  form_.AffBMP.picture = std::string();
+  player_.AffBMP.picture = std::string();
   image_ = {};
 }
 
 void Placement::dimensionnerImage() {
   if (image_.width < 1 || image_.height < 1) return;
-  const PixelSize box{form_.Picture1.width, form_.Picture1.height};
+  const PixelSize box{player_.Picture1.width, player_.Picture1.height};
   PixelSize size = image_;
-  if (form_.Check3.value == 1) size = form_.Check4.value == 1 ? fitted(image_, box) : box;
-  form_.AffBMP.width = size.width;
-  form_.AffBMP.height = size.height;
+  if (player_.Check3.value == 1) size = player_.Check4.value == 1 ? fitted(image_, box) : box;
+  player_.AffBMP.width = size.width;
+  player_.AffBMP.height = size.height;
 }
 
 }  // namespace player

@@ -22,13 +22,13 @@ class Placement {
   void placerVideo();
   void dimensionnerImage();
   void montrerImage(const std::string& path);
-  void cacherImage() { form_.AffBMP.visible = false; }
+  void cacherImage() { player_.AffBMP.visible = false; }
   void viderImage();
 
  private:
   void sendSize(const char* what, PixelSize size);
 
-  forms::LectMCI& form_;
+  forms::LectMCI& player_;
   Medium& medium_;
   bool redimensionner_ = false;
   bool proportion_ = true;

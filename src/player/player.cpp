@@ -21,17 +21,17 @@ std::string newAlias(const platform::Clock& clock) {
 
 Player::Player(const context::Context& context)
     : context_(context),
-      form_(context.screens.player),
+      player_(context.screens.player),
       medium_(context.outside.media),
-      bars_(form_, context.loop, medium_),
-      placement_(form_, medium_),
+      bars_(player_, context.loop, medium_),
+      placement_(player_, medium_),
       transport_(context, medium_, bars_, placement_),
       fourcc_(context.outside.files, context.outside.dialogs) {
   attachList();
-  form_.onLoad.handle([this] { medium_.alias = newAlias(context_.outside.clock); });
-  form_.resized.handle([this](int twips) { suivreLargeur(twips); });
-  form_.Command1.click.handle([this] { choisirDossier(); });
-  form_.Label1.doubleClick.handle([this] { fourcc_.montrerFourcc(form_.Label1.caption); });
+  player_.onLoad.handle([this] { medium_.alias = newAlias(context_.outside.clock); });
+  player_.resized.handle([this](int twips) { suivreLargeur(twips); });
+  player_.Command1.click.handle([this] { choisirDossier(); });
+  player_.Label1.doubleClick.handle([this] { fourcc_.montrerFourcc(player_.Label1.caption); });
 }
 
 void Player::attachList() {
@@ -47,11 +47,11 @@ void Player::attachList() {
       {"F8", "*.bmp;*.dib;*.gif;*.jpg;*.jpe;*.jpeg;*.ico;*.cur;*.wmf;*.emf"},
       {"F9", "*.avi;*.mpg;*.mpeg;*.asf;*.wmv;*.mov;*.mpe"},
   }};
-  form_.File1.key.handle([this](const std::string& pressed) {
-    if (pressed == "Enter") form_.File1.doubleClick();
-    if (pressed == "F5") form_.File1.refresh();
+  player_.File1.key.handle([this](const std::string& pressed) {
+    if (pressed == "Enter") player_.File1.doubleClick();
+    if (pressed == "F5") player_.File1.refresh();
     for (const Key& key : patterns) {
-      if (pressed == key.name) form_.File1.pattern = key.pattern;
+      if (pressed == key.name) player_.File1.pattern = key.pattern;
     }
   });
 }
@@ -60,16 +60,16 @@ void Player::choisirDossier() {
   const std::vector<std::string> chosen = context_.outside.dialogs.chooseFiles(
       {platform::FilePurpose::Folder, "Dossier contenant des vidéos", {}, {}, {}});
   if (chosen.empty()) return;
-  form_.File1.path = chosen.front();
-  form_.caption = "Navigation dans " + chosen.front();
+  player_.File1.path = chosen.front();
+  player_.caption = "Navigation dans " + chosen.front();
 }
 
 void Player::suivreLargeur(int twips) {
   platform::eachOnItsOwn(
       [&] {
         if (twips == largeurForme_) return;
-        form_.Picture1.width = boxWidth;
-        form_.PicProgress.width = boxWidth;
+        player_.Picture1.width = boxWidth;
+        player_.PicProgress.width = boxWidth;
         bars_.viderProgression();
       },
       [&] { placement_.placerVideo(); }, [&] { placement_.dimensionnerImage(); });

@@ -19,7 +19,7 @@ class Player {
   void suivreLargeur(int twips);
 
   const context::Context& context_;
-  forms::LectMCI& form_;
+  forms::LectMCI& player_;
   Medium medium_;
   Bars bars_;
   Placement placement_;

@@ -23,57 +23,57 @@ std::string selectedName(const platform::FileList& list) {
 
 Transport::Transport(const context::Context& context, Medium& medium, Bars& bars, Placement& placement)
     : context_(context),
-      form_(context.screens.player),
+      player_(context.screens.player),
       announcements_(context.screens.announcements),
       medium_(medium),
       bars_(bars),
       placement_(placement) {
   attachButtons();
   attachTimers();
-  form_.onUnload.handle([this] { form_.Command2.click(); });
+  player_.onUnload.handle([this] { player_.Command2.click(); });
 }
 
 void Transport::attachButtons() {
-  form_.Command8.click.handle([this] { lire(); });
-  form_.Command2.click.handle([this] { arreter(); });
-  form_.Command3.click.handle([this] { precedent(); });
-  form_.Command4.click.handle([this] { suivant(); });
-  form_.Command5.click.handle([this] {
+  player_.Command8.click.handle([this] { lire(); });
+  player_.Command2.click.handle([this] { arreter(); });
+  player_.Command3.click.handle([this] { precedent(); });
+  player_.Command4.click.handle([this] { suivant(); });
+  player_.Command5.click.handle([this] {
     if (!medium_.chargé) return;
-    (medium_.enPause ? form_.Timer7 : form_.Timer8).enabled = false;
+    (medium_.enPause ? player_.Timer7 : player_.Timer8).enabled = false;
     medium_.enPause ? reprendre() : suspendre();
   });
-  form_.Picture1.click.handle([this] { form_.Command5.click(); });
-  form_.Command9.click.handle([this] { form_.Timer7.enabled = true; });
-  form_.Command10.click.handle([this] { form_.Timer8.enabled = true; });
-  form_.File1.doubleClick.handle([this] { lireSelection(); });
-  form_.Check1.click.handle([this] { appliquerSon(); });
-  for (std::size_t i = 0; i < form_.CMspeed.size(); ++i) {
-    form_.CMspeed[i].click.handle([this, i] { appliquerVitesse(static_cast<int>(i)); });
+  player_.Picture1.click.handle([this] { player_.Command5.click(); });
+  player_.Command9.click.handle([this] { player_.Timer7.enabled = true; });
+  player_.Command10.click.handle([this] { player_.Timer8.enabled = true; });
+  player_.File1.doubleClick.handle([this] { lireSelection(); });
+  player_.Check1.click.handle([this] { appliquerSon(); });
+  for (std::size_t i = 0; i < player_.CMspeed.size(); ++i) {
+    player_.CMspeed[i].click.handle([this, i] { appliquerVitesse(static_cast<int>(i)); });
   }
 }
 
 void Transport::attachTimers() {
   // Orders from other screens: each leaves the caller's handler and becomes a press in an event of its own.
-  platform::once(form_.Timer2, [this] { form_.Command8.click(); });
-  platform::once(form_.Timer3, [this] { form_.Command2.click(); });
-  platform::once(form_.Timer4, [this] { form_.Command5.click(); });
-  platform::once(form_.Timer5, [this] { form_.Command3.click(); });
-  platform::once(form_.Timer6, [this] { form_.Command4.click(); });
-  platform::once(form_.Timer7, [this] {
+  platform::once(player_.Timer2, [this] { player_.Command8.click(); });
+  platform::once(player_.Timer3, [this] { player_.Command2.click(); });
+  platform::once(player_.Timer4, [this] { player_.Command5.click(); });
+  platform::once(player_.Timer5, [this] { player_.Command3.click(); });
+  platform::once(player_.Timer6, [this] { player_.Command4.click(); });
+  platform::once(player_.Timer7, [this] {
     if (medium_.chargé) reprendre();
   });
-  platform::once(form_.Timer8, [this] {
+  platform::once(player_.Timer8, [this] {
     if (medium_.chargé) suspendre();
   });
-  form_.Timer1.tick.handle([this] { platform::eachOnItsOwn([this] { suivrePosition(); }); });
-  form_.Timer9.tick.handle([this] { obeirALaSeance(); });
+  player_.Timer1.tick.handle([this] { platform::eachOnItsOwn([this] { suivrePosition(); }); });
+  player_.Timer9.tick.handle([this] { obeirALaSeance(); });
 }
 
 void Transport::ouvrir(const std::string& path) {
-  const std::string name = selectedName(form_.File1);
+  const std::string name = selectedName(player_.File1);
   announcements_.Label1.caption = name;
-  form_.Label1.caption = "Chargement de " + name;
+  player_.Label1.caption = "Chargement de " + name;
   context_.loop.serveEvents();
   if (ItIsAPic(path)) {
     placement_.montrerImage(path);
@@ -105,19 +105,19 @@ void Transport::montrerDuree() {
   medium_.longueur = model::lenientInteger(medium_.send("status", " length"));
   bars_.viderProgression();
   const std::string duree = formatTemps(medium_.longueur);
-  form_.Label1.caption = duree;
+  player_.Label1.caption = duree;
   announcements_.Label7.caption = duree;
   context_.state.dureeMusique = duree;
 }
 
 void Transport::montrerPosition(std::int64_t milliseconds) {
-  form_.Label2.caption = formatTemps(milliseconds);
-  announcements_.Label5.caption = form_.Label2.caption;
+  player_.Label2.caption = formatTemps(milliseconds);
+  announcements_.Label5.caption = player_.Label2.caption;
 }
 
 void Transport::lire() {
-  form_.Command2.click();
-  const std::string path = platform::trim(form_.Text1.text.get());
+  player_.Command2.click();
+  const std::string path = platform::trim(player_.Text1.text.get());
   if (!path.empty() && context_.outside.files.exists(path)) {
     ouvrir(path);
     return;
@@ -142,10 +142,10 @@ void Transport::arreter() {
 }
 
 void Transport::lireSelection() {
-  const std::string name = selectedName(form_.File1);
+  const std::string name = selectedName(player_.File1);
   if (!name.empty()) {
     if (medium_.chargé) stopAndClose();
-    std::string folder = form_.File1.path;
+    std::string folder = player_.File1.path;
     if (!folder.ends_with('/')) folder += '/';
     announcements_.Label6.caption = name;
     ouvrir(folder + name);
@@ -154,33 +154,33 @@ void Transport::lireSelection() {
 }
 
 void Transport::precedent() {
-  if (form_.File1.index < 1) return;
-  form_.File1.index = form_.File1.index - 1;
-  form_.File1.doubleClick();
+  if (player_.File1.index < 1) return;
+  player_.File1.index = player_.File1.index - 1;
+  player_.File1.doubleClick();
 }
 
 void Transport::suivant() {
-  const int rows = static_cast<int>(form_.File1.lines().size());
+  const int rows = static_cast<int>(player_.File1.lines().size());
   if (rows == 0) return;
-  form_.File1.index = form_.File1.index < rows - 1 ? form_.File1.index + 1 : 0;
-  form_.File1.doubleClick();
+  player_.File1.index = player_.File1.index < rows - 1 ? player_.File1.index + 1 : 0;
+  player_.File1.doubleClick();
 }
 
 void Transport::reprendre() {
   medium_.send("play");
-  form_.Command5.caption = playing;
+  player_.Command5.caption = playing;
   medium_.enPause = false;
 }
 
 void Transport::suspendre() {
   medium_.send("stop");
-  form_.Command5.caption = held;
+  player_.Command5.caption = held;
   medium_.enPause = true;
 }
 
 void Transport::appliquerSon() {
-  if (!medium_.chargé || form_.Check1.value == 2) return;
-  medium_.send("set", form_.Check1.value == 1 ? " audio all off" : " audio all on");
+  if (!medium_.chargé || player_.Check1.value == 2) return;
+  medium_.send("set", player_.Check1.value == 1 ? " audio all off" : " audio all on");
 }
 
 void Transport::appliquerVitesse(int index) {
@@ -194,7 +194,7 @@ void Transport::suivrePosition() {
   montrerPosition(position);
   bars_.peindreProgression(position);
   // A selection chooses the next piece by itself; without one the player goes through its own list.
-  if (position == medium_.longueur && context_.state.selectionEnCours.empty()) form_.Command4.click();
+  if (position == medium_.longueur && context_.state.selectionEnCours.empty()) player_.Command4.click();
 }
 
 void Transport::obeirALaSeance() {

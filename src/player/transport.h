@@ -37,7 +37,7 @@ class Transport {
   void stopAndClose();
 
   const context::Context& context_;
-  forms::LectMCI& form_;
+  forms::LectMCI& player_;
   forms::EnrUneAnnonce& announcements_;
   Medium& medium_;
   Bars& bars_;

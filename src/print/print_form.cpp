@@ -81,63 +81,63 @@ platform::PageGrid pageFrom(const forms::ImprimerTQ1& form, int firstRow) {
 }
 
 PrintForm::PrintForm(const context::Context& context)
-    : context_(context), form_(context.screens.print), printer_(context.outside.printer) {
-  form_.onLoad.handle([this] { prepare(); });
+    : context_(context), print_(context.screens.print), printer_(context.outside.printer) {
+  print_.onLoad.handle([this] { prepare(); });
   context_.screens.editor.Command35.click.handle([this] { open(); });
   context_.screens.editor.mnImprim.click.handle([this] { open(); });
-  platform::once(form_.Timer1, [this] { form_.Command2.click(); });
-  form_.Command1.click.handle([this] { printList(); });
-  form_.Command2.click.handle([this] { loadList(); });
-  form_.Command3.click.handle([this] { form_.unload(); });
-  form_.MyButton1.click.handle([this] {
-    form_.MyButton2.visible = false;
-    form_.Command1.click();
+  platform::once(print_.Timer1, [this] { print_.Command2.click(); });
+  print_.Command1.click.handle([this] { printList(); });
+  print_.Command2.click.handle([this] { loadList(); });
+  print_.Command3.click.handle([this] { print_.unload(); });
+  print_.MyButton1.click.handle([this] {
+    print_.MyButton2.visible = false;
+    print_.Command1.click();
     leave();
   });
-  form_.MyButton2.click.handle([this] {
+  print_.MyButton2.click.handle([this] {
     printer_.killDocument();
     leave();
   });
-  form_.Command34.click.handle([this] { form_.MyButton2.click(); });
+  print_.Command34.click.handle([this] { print_.MyButton2.click(); });
   const auto exclude = [](platform::Option& chosen, platform::Option& other) {
     chosen.click.handle([&chosen, &other] {
       if (chosen.value) other.value = false;
     });
   };
-  exclude(form_.Option1, form_.Option2);
-  exclude(form_.Option2, form_.Option1);
-  form_.Label1.click.handle([this] { form_.Option1.value = true; });
+  exclude(print_.Option1, print_.Option2);
+  exclude(print_.Option2, print_.Option1);
+  print_.Label1.click.handle([this] { print_.Option1.value = true; });
 }
 
 // The form opens each time as if it were new.
 void PrintForm::prepare() {
-  form_.MyFrame1.caption = "";
-  form_.ProgressBar1.visible = false;
-  form_.MyButton2.visible = true;
-  form_.Option1.value = true;
+  print_.MyFrame1.caption = "";
+  print_.ProgressBar1.visible = false;
+  print_.MyButton2.visible = true;
+  print_.Option1.value = true;
 }
 
 void PrintForm::open() {
-  form_.show();
-  form_.Timer1.enabled = true;
+  print_.show();
+  print_.Timer1.enabled = true;
 }
 
 void PrintForm::leave() {
-  form_.Grid.clearRows();
-  form_.Command3.click();
+  print_.Grid.clearRows();
+  print_.Command3.click();
 }
 
 void PrintForm::loadList() {
   const platform::Grid& list = context_.screens.editor.ListView1;
   const int rows = list.rowCount();
   if (rows < 1) return;
-  form_.Grid.clearRows();
-  form_.Grid.clearColumns();
+  print_.Grid.clearRows();
+  print_.Grid.clearColumns();
   for (const HeadCell& cell : headCells) {
-    form_.Grid.addColumn({cell.text, cell.width, platform::Alignment::Centre});
+    print_.Grid.addColumn({cell.text, cell.width, platform::Alignment::Centre});
   }
   for (int row = 1; row <= rows; ++row) loadRow(row);
-  form_.MyFrame1.caption = std::to_string(stepsTo(rows, rowsPerPage)) + " page(s) à Imprimer";
+  print_.MyFrame1.caption = std::to_string(stepsTo(rows, rowsPerPage)) + " page(s) à Imprimer";
 }
 
 // Without the cycle's name; the number of each row is that of the one above it.
@@ -147,21 +147,21 @@ void PrintForm::loadRow(int row) {
   for (int column = model::column::sessionName; column <= list.columnCount(); ++column) {
     cells.push_back(list.text(row, column));
   }
-  form_.Grid.addRow(std::move(cells));
+  print_.Grid.addRow(std::move(cells));
 }
 
 void PrintForm::printList() {
-  form_.ProgressBar1.visible = true;
-  form_.ProgressBar1.value = 0;
+  print_.ProgressBar1.visible = true;
+  print_.ProgressBar1.value = 0;
   page_ = 0;
   // By the grid's rows, not the list's: 35 rows of a list make two pages.
   pages_ = stepsTo(gridRows(), rowsPerPage);
   try {
     for (int row = 1; row <= gridRows(); row += rowsPerPage) {
       ++page_;
-      form_.MyFrame1.caption =
+      print_.MyFrame1.caption =
           "Impression de " + std::to_string(page_) + "/" + std::to_string(pages_) + " page(s)";
-      form_.ProgressBar1.value = static_cast<int>(std::lround(100 - 100.0 / page_));
+      print_.ProgressBar1.value = static_cast<int>(std::lround(100 - 100.0 / page_));
       if (gridRows() == 1) break;
       printPage(row);
     }
@@ -176,13 +176,13 @@ void PrintForm::printList() {
 }
 
 void PrintForm::printPage(int firstRow) {
-  form_.Grid.reveal(firstRow);
+  print_.Grid.reveal(firstRow);
   printer_.setOrientation(platform::PageOrientation::Landscape);
-  if (form_.Option1.value) printer_.setColourMode(platform::ColourMode::Colour);
-  if (form_.Option2.value) printer_.setColourMode(platform::ColourMode::Monochrome);
+  if (print_.Option1.value) printer_.setColourMode(platform::ColourMode::Colour);
+  if (print_.Option2.value) printer_.setColourMode(platform::ColourMode::Monochrome);
   printer_.setPaperSize(platform::PaperSize::A4);
   printer_.setQuality(platform::PrintQuality::High);
-  printer_.paintPicture(pageFrom(form_, firstRow), 0, 0);
+  printer_.paintPicture(pageFrom(print_, firstRow), 0, 0);
   const platform::LocalTime now = context_.loop.clock().localTime();
   printer_.printLine("Edité Le(" + dateOf(now) + ") à (" + timeOf(now) + ") Page (" + std::to_string(page_) +
                      "/" + std::to_string(pages_) + ")");
@@ -198,7 +198,7 @@ void PrintForm::giveUp(bool tooLarge) {
                                       "Cette Sélection est trop volumineuse (" + std::to_string(pages_) +
                                           " pages) pour l'envoyer à l'Impression..."});
   }
-  form_.Grid.clearRows();
+  print_.Grid.clearRows();
 }
 
 }  // namespace print

@@ -25,10 +25,10 @@ class PrintForm {
   void giveUp(bool tooLarge);
   void leave();
   // The grid's rows on paper, the head counted in.
-  [[nodiscard]] int gridRows() const { return form_.Grid.rowCount() + 1; }
+  [[nodiscard]] int gridRows() const { return print_.Grid.rowCount() + 1; }
 
   context::Context context_;
-  forms::ImprimerTQ1& form_;
+  forms::ImprimerTQ1& print_;
   platform::Printer& printer_;
   int page_ = 0;
   int pages_ = 0;

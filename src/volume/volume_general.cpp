@@ -40,36 +40,36 @@ std::string asText(bool value) {
 }  // namespace
 
 VolumeGeneral::VolumeGeneral(const context::Context& context)
-    : context_(context), form_(context.screens.volume), main_(context.screens.main) {
-  form_.onLoad.handle([this] { load(); });
-  form_.onUnload.handle([this] { master_.reset(); });
-  form_.Tmr_Spy.tick.handle([this] { spy(); });
-  const auto setPercent = [this] { master().Percent(form_.VScroll1.value); };
-  form_.VScroll1.change.handle(setPercent);
-  form_.VScroll1.scroll.handle(setPercent);
-  form_.Chk_Mute.click.handle([this] { master().Mute(form_.Chk_Mute.value == 1); });
-  form_.MyButton7.click.handle([this] { form_.unload(); });
+    : context_(context), dialog_(context.screens.volume), main_(context.screens.main) {
+  dialog_.onLoad.handle([this] { load(); });
+  dialog_.onUnload.handle([this] { master_.reset(); });
+  dialog_.Tmr_Spy.tick.handle([this] { spy(); });
+  const auto setPercent = [this] { master().Percent(dialog_.VScroll1.value); };
+  dialog_.VScroll1.change.handle(setPercent);
+  dialog_.VScroll1.scroll.handle(setPercent);
+  dialog_.Chk_Mute.click.handle([this] { master().Mute(dialog_.Chk_Mute.value == 1); });
+  dialog_.MyButton7.click.handle([this] { dialog_.unload(); });
   main_.Picture2.click.handle([this] { main_.Frame5.visible = false; });
   connectCallers();
 }
 
 void VolumeGeneral::connectCallers() {
   for (platform::MenuItem* entry : {&main_.mnVolume, &main_.mnRGS, &main_.mnRGS2}) {
-    entry->click.handle([this] { form_.show(); });
+    entry->click.handle([this] { dialog_.show(); });
   }
   for (platform::Button* button : {&main_.MyButton13, &context_.screens.announcements.MyButton15}) {
-    button->click.handle([this] { form_.show(); });
+    button->click.handle([this] { dialog_.show(); });
   }
   main_.MyButton14.click.handle([this] {
-    form_.unload();
+    dialog_.unload();
     main_.Timer7.enabled = false;  // the ten seconds begin anew
     main_.Timer7.interval = 10000;
     main_.Timer7.enabled = true;
-    form_.show();
+    dialog_.show();
   });
-  platform::once(main_.Timer7, [this] { form_.unload(); });
+  platform::once(main_.Timer7, [this] { dialog_.unload(); });
   const auto openSettings = [this] { context_.outside.shell.openSoundSettings(); };
-  form_.MyButton10.click.handle(openSettings);
+  dialog_.MyButton10.click.handle(openSettings);
   for (platform::MenuItem* entry : {&main_.mnAjusterAudio, &main_.mnAjustAudio, &main_.mnAjustAudio2}) {
     entry->click.handle(openSettings);
   }
@@ -85,18 +85,19 @@ void VolumeGeneral::load() {
   master_.reset();
   const bool volume = master().VolumeEnabled();
   const bool mute = master().MuteEnabled();
-  form_.Lbl_OS.caption =
+  dialog_.Lbl_OS.caption =
       clsAfMasterVolume::UseAudioInterface() ? "(Pour Vista et supérieur)" : "(Pour XP et inférieur)";
-  form_.Lbl_Class.caption = "Volume supporté => " + asText(volume) + "\nMute supporté => " + asText(mute);
-  form_.VScroll1.enabled = volume;
-  form_.Chk_Mute.enabled = mute;
-  form_.Lbl_SoundCard1.caption = "Nombre de cartes : '" + std::to_string(master().GetNumberOfDevices()) + "'";
-  form_.Txt_CardName.text = master().GetActiveDeviceName();
+  dialog_.Lbl_Class.caption = "Volume supporté => " + asText(volume) + "\nMute supporté => " + asText(mute);
+  dialog_.VScroll1.enabled = volume;
+  dialog_.Chk_Mute.enabled = mute;
+  dialog_.Lbl_SoundCard1.caption =
+      "Nombre de cartes : '" + std::to_string(master().GetNumberOfDevices()) + "'";
+  dialog_.Txt_CardName.text = master().GetActiveDeviceName();
 }
 
 void VolumeGeneral::spy() {
-  form_.Chk_Mute.value = master().Mute() ? 1 : 0;
-  etatMuet_ = form_.Chk_Mute.value;
+  dialog_.Chk_Mute.value = master().Mute() ? 1 : 0;
+  etatMuet_ = dialog_.Chk_Mute.value;
   showMute();
   showVolume();
   noticeOnce();
@@ -108,16 +109,16 @@ void VolumeGeneral::showMute() {
   main_.Label34.colour = on ? darkBlue : red;
   main_.Image17.visible = on;
   main_.Image18.visible = !on;
-  form_.Image3.picture = on ? form_.Image1.picture : form_.Image4.picture;
-  context_.screens.editor.Image2.picture = form_.Image3.picture;
+  dialog_.Image3.picture = on ? dialog_.Image1.picture : dialog_.Image4.picture;
+  context_.screens.editor.Image2.picture = dialog_.Image3.picture;
 }
 
 // Where the bars really move they write back what was read, which changes nothing.
 void VolumeGeneral::showVolume() {
   const int percent = master().Percent();
-  form_.VScroll1.value = percent;
+  dialog_.VScroll1.value = percent;
   context_.screens.announcements.VScroll2.value = percent;
-  form_.Lbl_Volume.caption = std::to_string(percent) + " %";
+  dialog_.Lbl_Volume.caption = std::to_string(percent) + " %";
   volumeAffiche_ = std::to_string(percent);
   main_.Label38.caption = "Volume Actuel (" + volumeAffiche_ + "%)";
   const Advice& advice = adviceFor(percent);
@@ -129,7 +130,7 @@ void VolumeGeneral::showVolume() {
 void VolumeGeneral::noticeOnce() {
   if (noticed_) return;
   noticed_ = true;
-  const bool unheard = etatMuet_ != 0 || form_.VScroll1.value < silentBelow;
+  const bool unheard = etatMuet_ != 0 || dialog_.VScroll1.value < silentBelow;
   if (!master().VolumeEnabled() || !unheard) return;
   main_.Picture2.caption = main_.Label36.caption.get() + "\n" + main_.Label34.caption.get();
   main_.Frame5.visible = true;

@@ -23,7 +23,7 @@ class VolumeGeneral {
   void noticeOnce();
 
   context::Context context_;
-  forms::VolumeGeneral& form_;
+  forms::VolumeGeneral& dialog_;
   forms::MainForm& main_;
   std::optional<clsAfMasterVolume> master_;  // made at first use, dropped at load and unload
   int etatMuet_ = 0;
