@@ -74,10 +74,10 @@ void StoredAnnouncements::tellWhyNot(const std::string& path) {
   try {
     context_.outside.files.open(path, platform::OpenMode::Read);
     title = "Erreur de Format ou Fichier Endommagé...";
-    text = platform::FileFault("de lire", path, "ce n'est pas un son connu").what() +
-           std::string(
-               "\n\n\tCe fichier semble être endommagé, ou ne correspond pas aux Types de Fichiers que ce "
-               "programme peut Lire...!");
+    text =
+        platform::FileFault("de lire", path, "ce n'est pas un son connu").what() +
+        std::string(
+            "\n\n\tCe fichier semble être endommagé, ou ne correspond pas aux Types de Fichiers que ce programme peut Lire...!");
   } catch (const platform::Fault& fault) {
     text = fault.what();
   }

@@ -129,8 +129,7 @@ Options parseOptions(const std::vector<std::string>& words) {
 }
 
 std::string usage() {
-  return "usage: ventoria-console [--folder DIR] [--clock simulated|real] [--now \"2026-01-31 "
-         "12:00:00.000\"]\n"
+  return "usage: ventoria-console [--folder DIR] [--clock simulated|real] [--now \"2026-01-31 12:00:00.000\"]\n"
          "                        [--sound none|instant|timed] [--volume N|none] [SCRIPT]\n"
          "       ventoria-console --ride FILE [--speed N]\n";
 }

@@ -58,9 +58,9 @@ void QtShell::openSoundSettings() {
     const QStringList page = settings.page ? QStringList{QLatin1String(settings.page)} : QStringList{};
     if (QProcess::startDetached(program, page)) return;
   }
-  dialogs_.message({platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Propriétés Audio...",
-                    "Impossible d'Afficher les Propriétés Audio : aucun Panneau de Réglage du Son n'a été "
-                    "trouvé sur cet Ordinateur."});
+  dialogs_.message(
+      {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Propriétés Audio...",
+       "Impossible d'Afficher les Propriétés Audio : aucun Panneau de Réglage du Son n'a été trouvé sur cet Ordinateur."});
 }
 
 bool QtShell::connected() {

@@ -160,17 +160,13 @@ void CellEditor::placerEditeur() {
 void CellEditor::explainFirstRow() {
   if (colonneEdit_ == column::repeat) {
     editor_.Label23.caption =
-        "Cette Zone Permet de Déterminer éventuellement la Répétition de la Séance d'Entrainement en "
-        "cours...";
+        "Cette Zone Permet de Déterminer éventuellement la Répétition de la Séance d'Entrainement en cours...";
   } else if (colonneEdit_ == column::times) {
     editor_.Label23.caption =
-        "Cette Zone Permet de Déterminer éventuellement le (Nombre de fois) que la Séance d'Entrainement "
-        "Affichée doit-être Répétée...";
+        "Cette Zone Permet de Déterminer éventuellement le (Nombre de fois) que la Séance d'Entrainement Affichée doit-être Répétée...";
   } else if (colonneEdit_ == column::duration) {
     editor_.Label23.caption =
-        "Cette Zone sur la Première Ligne ne peut être Modifiée, elle représente la Durée Totale de la "
-        "Séance "
-        "d'Entrainement qui est Listée ou que vous êtes en train de Réaliser...";
+        "Cette Zone sur la Première Ligne ne peut être Modifiée, elle représente la Durée Totale de la Séance d'Entrainement qui est Listée ou que vous êtes en train de Réaliser...";
   }
 }
 
@@ -219,9 +215,7 @@ void CellEditor::presserCellule(platform::MouseButton button) {
   const std::string& cell = grid_.text(grid_.pointedRow(), grid_.pointedColumn());
   if (button == platform::MouseButton::Left && onDelete && cell == "x") {
     editor_.Label23.caption =
-        "Si vous Cliquez sur la Croix d'une Ligne, vous pourrez la Supprimer en le Confirmant par le "
-        "Clik-Droit "
-        "de votre Sourie.";
+        "Si vous Cliquez sur la Croix d'une Ligne, vous pourrez la Supprimer en le Confirmant par le Clik-Droit de votre Sourie.";
     editor_.Picture2.visible = false;
     editor_.Timer3.enabled = false;
     showBadge("Click-Droit pour Supprimer", deletionColour);
@@ -260,8 +254,7 @@ void CellEditor::explainKind(const std::string& picked) {
   editor_.Timer4.enabled = true;
   editor_.Label24.visible = false;
   editor_.Label23.caption =
-      "Si vous Choisissez (Annonce Vocale), cela signifie que vous en avez déjà Réalisé, vous devez donc la "
-      "Choisir dans (l'avant-Dernière) colonne de Droite intitulée (Annonces).";
+      "Si vous Choisissez (Annonce Vocale), cela signifie que vous en avez déjà Réalisé, vous devez donc la Choisir dans (l'avant-Dernière) colonne de Droite intitulée (Annonces).";
 }
 
 void CellEditor::repeatFirstRow(const std::string& picked) {

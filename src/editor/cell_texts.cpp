@@ -21,35 +21,22 @@ constexpr std::array<ColumnHelp, 8> helps{
     {{column::sessionName, "La Colonne du (Nom de Séance) ne peuvent pas être Modifier..."},
      {column::sequence, "Cliquez sur la Zone de Liste, et choisissez un (Nom de Séquence)..."},
      {column::cadence,
-      "Cliquez sur la Zone de Liste, et choisissez la (Cadence) d'entrainement en (Nombre de Tours du "
-      "Pédalier "
-      "par Minute), à noter que cette Zone peut très bien Rester en Blanc..."},
+      "Cliquez sur la Zone de Liste, et choisissez la (Cadence) d'entrainement en (Nombre de Tours du Pédalier par Minute), à noter que cette Zone peut très bien Rester en Blanc..."},
      {column::chainring,
-      "Cliquez sur la Zone de Liste, et choisissez le Type de (Plateau) pour cette Séquence d'Entrainement, "
-      "à "
-      "noter que cette Zone peut très bien Rester en Blanc..."},
+      "Cliquez sur la Zone de Liste, et choisissez le Type de (Plateau) pour cette Séquence d'Entrainement, à noter que cette Zone peut très bien Rester en Blanc..."},
      {column::gear,
-      "Cliquez sur la Zone de Liste, et choisissez le Type de (Braquet)  pour cette Séquence d'Entrainement, "
-      "à "
-      "noter que cette Zone peut très bien Rester en Blanc..."},
+      "Cliquez sur la Zone de Liste, et choisissez le Type de (Braquet)  pour cette Séquence d'Entrainement, à noter que cette Zone peut très bien Rester en Blanc..."},
      {column::duration,
-      "Cliquez sur les Zones de Listes, et choisissez la Durée de cette Séquence d'Entrainement en (H:M:S), "
-      "à "
-      "noter que cette Zone doit Absolument être Supérieure à Zéro...(Minimum 1 seconde)"},
+      "Cliquez sur les Zones de Listes, et choisissez la Durée de cette Séquence d'Entrainement en (H:M:S), à noter que cette Zone doit Absolument être Supérieure à Zéro...(Minimum 1 seconde)"},
      {column::announcement,
-      "Cette Zone est Exclusivement Réservée pour les (Annonces Vocales), elle permet de Choisir le Message "
-      "que "
-      "vous aurez Enregistré et qui doit être dit à ce moment précis de la Séance d'Entrainement..."},
+      "Cette Zone est Exclusivement Réservée pour les (Annonces Vocales), elle permet de Choisir le Message que vous aurez Enregistré et qui doit être dit à ce moment précis de la Séance d'Entrainement..."},
      {column::deleteMark,
-      "Cette Zone marquée d'une (x) vous permet en faisant un Clik-Droit dessus, de Supprimer la Ligne ou "
-      "vous "
-      "vous trouvez..."}}};
+      "Cette Zone marquée d'une (x) vous permet en faisant un Clik-Droit dessus, de Supprimer la Ligne ou vous vous trouvez..."}}};
 
 }  // namespace
 
 const std::string dashHelp =
-    "Toutes les Zones constituée de (-----) ne peuvent pas être Modifier, de même pour la Première et la "
-    "Dernière Colonne...";
+    "Toutes les Zones constituée de (-----) ne peuvent pas être Modifier, de même pour la Première et la Dernière Colonne...";
 
 std::vector<std::string> cellEntries(forms::CreerCycle& form, int wanted) {
   switch (wanted) {

@@ -129,8 +129,7 @@ void Lines::ajouterSequence() {
   if (announcementMissing()) {
     editor_.Label24.visible = false;
     editor_.Label23.caption =
-        "Pour Ajouter une Nouvelle Séquence à votre Liste, vous devez d'abord finir celle en cours, il vous "
-        "reste à choisir l'annonce en question...";
+        "Pour Ajouter une Nouvelle Séquence à votre Liste, vous devez d'abord finir celle en cours, il vous reste à choisir l'annonce en question...";
     return;
   }
   if (!lastRowClosed()) {

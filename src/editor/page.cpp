@@ -59,28 +59,19 @@ void Page::setTips() {
       {&editor_.MyButton16, "Choisir votre Cadence de Pédalage en (Tours par Minute)..."},
       {&editor_.MyButton17, "Choisir votre Plateau (Petit ou Grand)\nou par (Nombre de Dents)..."},
       {&editor_.MyButton18,
-       "Définir le Type de Braquet\nPetit Braquet=Grand Pignon\nGrand Braquet=Petit Pignon\nou par (Nombre "
-       "de "
-       "Dents)..."},
+       "Définir le Type de Braquet\nPetit Braquet=Grand Pignon\nGrand Braquet=Petit Pignon\nou par (Nombre de Dents)..."},
       {&editor_.MyButton19,
        "Une Séance peut-être Répétée selon votre Souhait\ndéfinir Répéter à (Oui/Non)..."},
       {&editor_.MyButton20,
-       "Toutes les Séances d'Entraînements\npeuvent être Répétées jusqu'à 20 Fois\nsi le Mode Répéter est "
-       "(OUI)..."},
+       "Toutes les Séances d'Entraînements\npeuvent être Répétées jusqu'à 20 Fois\nsi le Mode Répéter est (OUI)..."},
       {&editor_.MyButton21,
        "ICI vous Définissez la Durée de chaques Séquences\nComposant une Séance d'entraînement..."},
       {&editor_.MyButton22,
-       "ICI vous pouvez Insérer à un moment précis\nune Annonce Vocale Indispenssable avant une "
-       "Séquence\nRédigée "
-       "par vos soins ou par votre Coach..."},
+       "ICI vous pouvez Insérer à un moment précis\nune Annonce Vocale Indispenssable avant une Séquence\nRédigée par vos soins ou par votre Coach..."},
       {&editor_.MyButton23,
-       "En Cliquant sur la Croix et en Faisant Clic-Droit:\n- Vous pouvez Supprimer la Ligne Sélectionnée\n- "
-       "ou "
-       "Ajouter une Ligne après celle Sélectionnée"},
+       "En Cliquant sur la Croix et en Faisant Clic-Droit:\n- Vous pouvez Supprimer la Ligne Sélectionnée\n- ou Ajouter une Ligne après celle Sélectionnée"},
       {&editor_.MyButton25,
-       "ICI, vous mettez la Fréquence Cardiaque à Atteindre ou à ne pas Dépasser\nCette Fréquence doit-être "
-       "Donnée "
-       "par votre Coatch\nou bien vous devez Maitriser son Réglage en Fonction de vos Possibilités..."}};
+       "ICI, vous mettez la Fréquence Cardiaque à Atteindre ou à ne pas Dépasser\nCette Fréquence doit-être Donnée par votre Coatch\nou bien vous devez Maitriser son Réglage en Fonction de vos Possibilités..."}};
   for (const auto& [button, tip] : tips) button->toolTip = tip;
 }
 
@@ -99,25 +90,20 @@ void Page::connectHoverHelp() {
   explain(editor_.MyButton6, "Aller à la Page Principale, sans Vider la Liste Actuelle.");
   explain(
       editor_.MyButton7,
-      "Cliquez ici pour Mettre en Mode Normal ou Total, pratique pour les Séances d'Entrainement comportant "
-      "beaucoup de Séquences...");
+      "Cliquez ici pour Mettre en Mode Normal ou Total, pratique pour les Séances d'Entrainement comportant beaucoup de Séquences...");
   explain(
       editor_.MyButton11,
-      "une Ligne en (Rouge) indique qu'elle n'est pas Terminée, parce que certaines de ses cellules restent "
-      "encore Vides...Elle ne sera pas prise en Compte lors du Lancement de la Séance d'Entrainement.");
-  explain(editor_.Command4,
-          "Vider la Liste, signifie que la Liste Actuellement en Cours sera complètement éffacée, ainsi vous "
-          "serez "
-          "prêt à en Créer une autre");
+      "une Ligne en (Rouge) indique qu'elle n'est pas Terminée, parce que certaines de ses cellules restent encore Vides...Elle ne sera pas prise en Compte lors du Lancement de la Séance d'Entrainement.");
+  explain(
+      editor_.Command4,
+      "Vider la Liste, signifie que la Liste Actuellement en Cours sera complètement éffacée, ainsi vous serez prêt à en Créer une autre");
   explain(editor_.Command5, "Charger ou Ajouter une Séance d'Entrainement déjà Réalisée et Enregistrée.");
   explain(editor_.Command6,
           "Enregistrer la Séance d'Entrainement de la Liste en lui donnant le (Nom) de votre choix.");
   explain(editor_.Command35, "Imprimer la Séance d'Entrainement Actuellement Affichée.");
   explain(editor_.Image1, "Si vous avez besoin d'Aide Visuellement, Cliquez ici et consultez les Vidéos...");
   const char* movable =
-      "Vous pouvez me Déplacer en restant (Cliqué-Gauche), de cette façon vous pourrez avoir de "
-      "l'information "
-      "sans vous géner, au fur et à mesure de votre Création...";
+      "Vous pouvez me Déplacer en restant (Cliqué-Gauche), de cette façon vous pourrez avoir de l'information sans vous géner, au fur et à mesure de votre Création...";
   explain(editor_.Label25, movable);
   explain(editor_.Picture3, movable);
   explain(editor_.Picture5, movable);

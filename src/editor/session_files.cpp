@@ -88,8 +88,7 @@ void SessionFiles::tellMissing(const std::string& path, const model::FoundSequen
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Fichier Incomplet...",
        "Le Fichier (" + path + ") annonce (" + std::to_string(sequences.announced) + ") Séquence(s), mais (" +
            std::to_string(sequences.found) +
-           ") seulement y ont été Trouvée(s).\nLes Lignes en (Rouge) sont "
-           "Vides : Complétez-les ou Supprimez-les..."});
+           ") seulement y ont été Trouvée(s).\nLes Lignes en (Rouge) sont Vides : Complétez-les ou Supprimez-les..."});
 }
 
 std::optional<std::string> SessionFiles::presentVersion(std::string path) {
@@ -98,13 +97,11 @@ std::optional<std::string> SessionFiles::presentVersion(std::string path) {
     const platform::Answer answer = context_.outside.dialogs.message(
         {platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,
          "Fichier non compatible avec cette Version...",
-         "Ce fichier est d'une Version Antérieure, il n'est plus compatible avec la Version Actuelle du "
-         "Logiciel...\n\n"
+         "Ce fichier est d'une Version Antérieure, il n'est plus compatible avec la Version Actuelle du Logiciel...\n\n"
          "Je peux éssayer de le Convertir, mais il ne pourra plus être Utilisé par une Ancienne Version du "
          "Programme...\n\n"
          "Toutefois il serait préférable de le Convertir puisque le Logiciel Actuel Dispose de "
-         "Fonctionnalités "
-         "Supplémentaires...\n\n"
+         "Fonctionnalités Supplémentaires...\n\n"
          "Acceptez-vous la Conversion Oui/Non ?"});
     if (answer != platform::Answer::Ok) return std::nullopt;
     path = model::convertirAncien(context_.outside.files, path);

@@ -96,13 +96,7 @@ struct EnrUneAnnonce : platform::Form {
   Label Label19{
       *this,
       "Label19",
-      "Pour Enregistrer une Annonce Vocale, vous devez disposer d'un Micro Activé sur votre Ordinateur, ou "
-      "d'un Micro Externe paramétré. Si vous rencontrez un problème d'enregistrement, vous devez chercher à "
-      "régler les Périphériques Audio de votre Ordinateur. Généralement sur XP allez dans Démarrer, puis "
-      "Cliquez sur Panneau de configuration, puis Cliquez sur Sons et Périphériques Audio...ou sur Vista , "
-      "allez dans Démarrer, puis Cliquez sur Panneau de configuration, puis Cliquez sur Gérer les "
-      "Périphériques Audio..., ou sur Seven Cliquer sur Panneau de Configuration, puis sur Matériel et "
-      "Audio, puis Cliquez sur les Rubriques de Son...",
+      "Pour Enregistrer une Annonce Vocale, vous devez disposer d'un Micro Activé sur votre Ordinateur, ou d'un Micro Externe paramétré. Si vous rencontrez un problème d'enregistrement, vous devez chercher à régler les Périphériques Audio de votre Ordinateur. Généralement sur XP allez dans Démarrer, puis Cliquez sur Panneau de configuration, puis Cliquez sur Sons et Périphériques Audio...ou sur Vista , allez dans Démarrer, puis Cliquez sur Panneau de configuration, puis Cliquez sur Gérer les Périphériques Audio..., ou sur Seven Cliquer sur Panneau de Configuration, puis sur Matériel et Audio, puis Cliquez sur les Rubriques de Son...",
       {.in = &MyFrame4}};
   Button MyButton3{*this, "MyButton3", "Quitter cette Page Info", {.in = &MyFrame4}};
   Button MyButton14{*this, "MyButton14", "Afficher les Propriétés Audio", {.in = &MyFrame4}};

@@ -118,14 +118,12 @@ struct MainForm : platform::Form {
   CheckBox Check10{
       *this,
       "Check10",
-      "Jouer la Musique d'Ambiance en arrière plan, mais les (Interrompre) lorsqu'une Annonce doit "
-      "être Exécutée.",
+      "Jouer la Musique d'Ambiance en arrière plan, mais les (Interrompre) lorsqu'une Annonce doit être Exécutée.",
       {.in = &Picture1}};
   CheckBox Check11{
       *this,
       "Check11",
-      "Jouer les  Musiques d'Ambiances en (Continu) en tant que Musique de fond, donc sans coupure "
-      "par les Avertissements Sonores.",
+      "Jouer les  Musiques d'Ambiances en (Continu) en tant que Musique de fond, donc sans coupure par les Avertissements Sonores.",
       {.in = &Picture1}};
   CheckBox Check12{*this,
                    "Check12",
@@ -139,8 +137,8 @@ struct MainForm : platform::Form {
       "MyButton7",
       "Confirmer",
       {.in = &Picture1,
-       .tip = "Cliquez ici pour Confirmer vos Modifications sur les Paramètres des Avertissements "
-              "Sonores..."}};
+       .tip =
+           "Cliquez ici pour Confirmer vos Modifications sur les Paramètres des Avertissements Sonores..."}};
   Button MyButton8{
       *this,
       "MyButton8",

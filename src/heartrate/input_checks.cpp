@@ -11,20 +11,15 @@ namespace {
 constexpr std::array<const char*, 3> firstLines{
     "Pour Utiliser cette Fonction, vous devez Choisir au moins un (Age)...",
     "Pour Utiliser le Programme avec Vos Paramètres Persos,vous devez Choisir un (Age), puis une (FCRepos).",
-    "Pour Utiliser le Programme avec Vos Paramètres Persos,vous devez Choisir un (Age), puis une (FCMaxi), "
-    "puis une (FCRepos).",
+    "Pour Utiliser le Programme avec Vos Paramètres Persos,vous devez Choisir un (Age), puis une (FCMaxi), puis une (FCRepos).",
 };
 constexpr std::array<const char*, 3> secondLines{
-    "Ce Paramètre vous permettra d'Obtenir les Meilleurs Caluls de Fréquences Cardiaques Conventionnelles à "
-    "Insérer dans vos Séances d'Entraînements.",
-    "Ces Paramètres vous permettront d'Obtenir les Meilleurs Caluls de Fréquences Cardiaques "
-    "Conventionnelles à Insérer dans vos Séances d'Entraînements.",
-    "Ces Paramètres vous permettront d'Obtenir les Meilleurs Caluls de Fréquences Cardiaques "
-    "Conventionnelles à Insérer dans vos Séances d'Entraînements.",
+    "Ce Paramètre vous permettra d'Obtenir les Meilleurs Caluls de Fréquences Cardiaques Conventionnelles à Insérer dans vos Séances d'Entraînements.",
+    "Ces Paramètres vous permettront d'Obtenir les Meilleurs Caluls de Fréquences Cardiaques Conventionnelles à Insérer dans vos Séances d'Entraînements.",
+    "Ces Paramètres vous permettront d'Obtenir les Meilleurs Caluls de Fréquences Cardiaques Conventionnelles à Insérer dans vos Séances d'Entraînements.",
 };
 constexpr const char* thirdLine =
-    "Ensuite, Pensez à (Enregistrer) en Cliquant sur la Commande (Enregistrer Mes Nouveaux Paramètres "
-    "Persos)...";
+    "Ensuite, Pensez à (Enregistrer) en Cliquant sur la Commande (Enregistrer Mes Nouveaux Paramètres Persos)...";
 
 }  // namespace
 

@@ -41,9 +41,7 @@ void Player::attachList() {
   };
   static constexpr std::array<Key, 3> patterns{{
       {"F10",
-       "*.mp3;*.mp2;*.mp1;*.wav;*.asx;*.rm;*.ra;*.mid;*.rmi;*.xmi;*.avi;*.mpg;*.mpeg;*.asf;*.wmv;*.mov;*.mpe;"
-       "*."
-       "pls;*.dat;*.vcd;*.voc;*.au;*.wma;*.part"},
+       "*.mp3;*.mp2;*.mp1;*.wav;*.asx;*.rm;*.ra;*.mid;*.rmi;*.xmi;*.avi;*.mpg;*.mpeg;*.asf;*.wmv;*.mov;*.mpe;*.pls;*.dat;*.vcd;*.voc;*.au;*.wma;*.part"},
       {"F8", "*.bmp;*.dib;*.gif;*.jpg;*.jpe;*.jpeg;*.ico;*.cur;*.wmf;*.emf"},
       {"F9", "*.avi;*.mpg;*.mpeg;*.asf;*.wmv;*.mov;*.mpe"},
   }};

@@ -74,20 +74,18 @@ void MainScreen::connectHoverHelp() {
   const auto explain = [this](platform::Control& control, const char* text) {
     control.hover.handle([this, text] { main_.Label35.caption = text; });
   };
-  explain(main_.Command2,
-          "La Commande (Menu) vous offre divers Sous-Menus, tel que Paramètres, Mise à Jour, Créations, "
-          "Ambiances "
-          "Musicales ou Vocales, Propriétés Audios pour vos Préférences Sonores...");
+  explain(
+      main_.Command2,
+      "La Commande (Menu) vous offre divers Sous-Menus, tel que Paramètres, Mise à Jour, Créations, Ambiances Musicales ou Vocales, Propriétés Audios pour vos Préférences Sonores...");
   explain(main_.Command4, "Cliquez sur cette Commande et vous Quitterez le Programme tout simplement...");
   explain(
       main_.Command7,
-      "en Cliquant sur cette Commande, vous pourez faire une (Pause) ou (Reprendre) la Séance d'Entrainement "
-      "en cours...");
+      "en Cliquant sur cette Commande, vous pourez faire une (Pause) ou (Reprendre) la Séance d'Entrainement en cours...");
   explain(main_.MyButton4,
           "Cliquez sur cette Commande et vous Annulerez Immédiatement la Séances d'Entrainement en cours...");
-  explain(main_.MyButton5,
-          "Cliquez sur cette Commande et vous Afficherez la Page des Création et Compositions de Séances "
-          "d'Entrainement...");
+  explain(
+      main_.MyButton5,
+      "Cliquez sur cette Commande et vous Afficherez la Page des Création et Compositions de Séances d'Entrainement...");
   explain(main_.Image15, "Si vous avez besoin d'Aide Visuellement, Cliquez ici et consultez les Vidéos...");
 }
 

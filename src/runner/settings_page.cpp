@@ -95,9 +95,7 @@ void SettingsPage::lireParametres() {
 void SettingsPage::repair() {
   context_.outside.dialogs.message(
       {platform::MessageKind::Critical, platform::MessageButtons::Ok, "Fichier Paramètres à Réinitialiser...",
-       "Le Fichier de Données des Paramètres des Avertissement Sonores, a Subit des Modifications Néfastes "
-       "au "
-       "Bon Fonctionnement du Programme...\n"
+       "Le Fichier de Données des Paramètres des Avertissement Sonores, a Subit des Modifications Néfastes au Bon Fonctionnement du Programme...\n"
        "je vais donc Réinitialiser ses Données par (Défaut), si ces Paramètres ne vous conviennent pas, vous "
        "pourez les Changer par le Menu (Paramètres des Annonces Sonores)..."});
   parametresParDefaut();
