@@ -72,12 +72,12 @@ double parseSpeed(const std::string& word) {
   return speed;
 }
 
-struct Option {
+struct KnownOption {
   const char* name;
   void (*apply)(Options& options, const std::string& value);
 };
 
-constexpr std::array<Option, 7> table{{
+constexpr std::array<KnownOption, 7> table{{
     {"--folder", [](Options& o, const std::string& value) { o.folder = value; }},
     {"--clock",
      [](Options& o, const std::string& value) {
@@ -97,8 +97,8 @@ constexpr std::array<Option, 7> table{{
     {"--speed", [](Options& o, const std::string& value) { o.speed = parseSpeed(value); }},
 }};
 
-const Option& optionNamed(const std::string& name) {
-  for (const Option& option : table) {
+const KnownOption& optionNamed(const std::string& name) {
+  for (const KnownOption& option : table) {
     if (name == option.name) return option;
   }
   throw UsageError("no option " + name);
@@ -114,7 +114,7 @@ Options parseOptions(const std::vector<std::string>& words) {
       options.help = true;
     } else if (words[i].starts_with("--")) {
       const std::size_t equals = words[i].find('=');
-      const Option& option = optionNamed(words[i].substr(0, equals));
+      const KnownOption& option = optionNamed(words[i].substr(0, equals));
       if (equals == std::string::npos && i + 1 == words.size()) throw UsageError(words[i] + " needs a value");
       const std::string value = equals == std::string::npos ? words[++i] : words[i].substr(equals + 1);
       if (value.empty()) refuse(option.name, value);

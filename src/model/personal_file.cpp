@@ -9,9 +9,9 @@
 namespace model {
 namespace {
 
-constexpr std::size_t recordWidth = 40;
-constexpr Field filler{"reserve", 19, 21};
-constexpr std::array<std::pair<Field, std::string PersonalFigures::*>, 6> fields{{
+constexpr std::size_t personalWidth = 40;
+constexpr Field unused{"reserve", 19, 21};
+constexpr std::array<std::pair<Field, std::string PersonalFigures::*>, 6> figureFields{{
     {{"age", 0, 3}, &PersonalFigures::age},
     {{"sexe", 3, 8}, &PersonalFigures::sexe},
     {{"fcMax", 11, 3}, &PersonalFigures::fcMax},
@@ -26,10 +26,10 @@ PersonalFigures readPersonal(platform::FileSystem& files, const std::string& pat
   // Figures that may only be read are figures all the same.
   using enum platform::OpenMode;
   const auto file = files.open(path, files.exists(path) ? Read : ReadWriteCreate);
-  Record record(recordWidth);
+  Record record(personalWidth);
   record.read(*file, 1);
   PersonalFigures figures;
-  for (const auto& [field, member] : fields) {
+  for (const auto& [field, member] : figureFields) {
     const std::string text = record.get(field);
     figures.*member = platform::trim(text.substr(0, text.find('\0')));
   }
@@ -38,9 +38,9 @@ PersonalFigures readPersonal(platform::FileSystem& files, const std::string& pat
 
 void writePersonal(platform::FileSystem& files, const std::string& path, const PersonalFigures& figures) {
   const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
-  Record record(recordWidth);
-  for (const auto& [field, member] : fields) record.set(field, figures.*member);
-  record.set(filler, "");
+  Record record(personalWidth);
+  for (const auto& [field, member] : figureFields) record.set(field, figures.*member);
+  record.set(unused, "");
   record.write(*file, 1);
 }
 

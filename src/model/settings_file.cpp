@@ -6,7 +6,7 @@
 namespace model {
 namespace {
 
-constexpr std::size_t recordWidth = 30;
+constexpr std::size_t settingsWidth = 30;
 constexpr Field countdownField{"Combo5", 12, 2};
 constexpr Field filler{"filler", 15, 15};
 constexpr std::size_t validatedBoxes = 12;  // the thirteenth came later and was never checked
@@ -23,7 +23,7 @@ std::optional<Settings> readSettings(platform::FileSystem& files, const std::str
   // Settings that may only be read are settings all the same.
   using enum platform::OpenMode;
   const auto file = files.open(path, files.exists(path) ? Read : ReadWriteCreate);
-  Record record(recordWidth);
+  Record record(settingsWidth);
   record.read(*file, 1);
   Settings settings;
   for (std::size_t i = 0; i < settingsBoxCount; ++i) {
@@ -38,7 +38,7 @@ std::optional<Settings> readSettings(platform::FileSystem& files, const std::str
 
 void writeSettings(platform::FileSystem& files, const std::string& path, const Settings& settings) {
   const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
-  Record record(recordWidth);
+  Record record(settingsWidth);
   for (std::size_t i = 0; i < settingsBoxCount; ++i) {
     record.set(boxField(i), std::to_string(settings.boxes.at(i)));
   }

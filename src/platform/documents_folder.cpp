@@ -1,19 +1,15 @@
 #include "platform/documents_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
+
+#include "platform/environment.h"
 
 namespace platform {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string variable(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? std::string() : std::string(value);
-}
 
 // Lines such as XDG_DOCUMENTS_DIR="$HOME/Documents".
 std::string fromUserDirs(const fs::path& file, const std::string& home) {
@@ -33,9 +29,9 @@ std::string fromUserDirs(const fs::path& file, const std::string& home) {
 }  // namespace
 
 std::string documentsFolder() {
-  const std::string home = variable("HOME");
-  if (std::string set = variable("XDG_DOCUMENTS_DIR"); fs::path(set).is_absolute()) return set;
-  fs::path config = variable("XDG_CONFIG_HOME");
+  const std::string home = environmentVariable("HOME");
+  if (std::string set = environmentVariable("XDG_DOCUMENTS_DIR"); fs::path(set).is_absolute()) return set;
+  fs::path config = environmentVariable("XDG_CONFIG_HOME");
   if (!config.is_absolute()) config = fs::path(home) / ".config";
   std::string told = fromUserDirs(config / "user-dirs.dirs", home);
   return told.empty() ? (fs::path(home) / "Documents").string() : told;

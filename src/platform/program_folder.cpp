@@ -1,9 +1,10 @@
 #include "platform/program_folder.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
+
+#include "platform/environment.h"
 
 namespace platform {
 namespace {
@@ -21,19 +22,14 @@ bool canBeWritten(const fs::path& folder) {
   return true;
 }
 
-std::string variable(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? std::string() : std::string(value);
-}
-
 }  // namespace
 
 std::string programFolder() {
   std::error_code error;
   const fs::path executable = fs::read_symlink("/proc/self/exe", error);
   if (!error && canBeWritten(executable.parent_path())) return executable.parent_path().string();
-  fs::path data = variable("XDG_DATA_HOME");
-  if (!data.is_absolute()) data = fs::path(variable("HOME")) / ".local" / "share";
+  fs::path data = environmentVariable("XDG_DATA_HOME");
+  if (!data.is_absolute()) data = fs::path(environmentVariable("HOME")) / ".local" / "share";
   return (data / "ventoria").string();
 }
 

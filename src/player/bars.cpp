@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "model/numbers.h"
+#include "player/measures.h"
 
 namespace player {
 namespace {
@@ -12,7 +13,6 @@ using platform::Colour;
 
 constexpr Colour couleurDepart = Colour::rgb(0xFF, 0xFF, 0xFF);
 constexpr Colour couleurFin = Colour::rgb(0xFF, 0xFF, 0x00);
-constexpr int twipsPerPixel = 15;
 constexpr int progressWidth = 5000;
 constexpr int volumeHeight = 1500;
 

@@ -1,10 +1,10 @@
 #include "player/placement.h"
 
+#include "player/measures.h"
+
 namespace player {
 namespace {
 
-constexpr int twipsPerPixel = 15;
-constexpr int boxWidth = 5000;
 constexpr int boxHeight = 3750;
 
 }  // namespace

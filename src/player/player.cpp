@@ -4,11 +4,10 @@
 #include <random>
 
 #include "platform/each_on_its_own.h"
+#include "player/measures.h"
 
 namespace player {
 namespace {
-
-constexpr int boxWidth = 5000;  // twips
 
 // A name of its own among all that the devices hold open.
 std::string newAlias(const platform::Clock& clock) {

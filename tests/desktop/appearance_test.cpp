@@ -18,21 +18,22 @@ namespace {
 
 using Settings = QMap<QString, QVariantMap>;
 
-constexpr auto path = "/org/freedesktop/portal/desktop";
+constexpr auto portalPath = "/org/freedesktop/portal/desktop";
 
 TEST(SystemLook, IsReadAtTheStartAndFollowed) {
   qDBusRegisterMetaType<Settings>();
   const Settings settings{{"org.freedesktop.appearance", {{"color-scheme", 2U}}},
                           {"org.gnome.desktop.interface", {{"enable-animations", false}}}};
   PrivateBus own([&](const QDBusMessage&) { return QVariantList{QVariant::fromValue(settings)}; });
-  const QDBusConnection portal = own.startService("org.freedesktop.portal.Desktop", path);
+  const QDBusConnection portal = own.startService("org.freedesktop.portal.Desktop", portalPath);
 
   const SystemLook look(own.rider());
   EXPECT_EQ(look.colours(), ThemeMode::Light);
   EXPECT_FALSE(look.animations());
 
   QSignalSpy changed(&look, &SystemLook::changed);
-  QDBusMessage signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
+  QDBusMessage signal =
+      QDBusMessage::createSignal(portalPath, "org.freedesktop.portal.Settings", "SettingChanged");
   signal << "org.freedesktop.appearance"
          << "color-scheme" << QVariant::fromValue(QDBusVariant(1U));
   portal.send(signal);

@@ -15,7 +15,7 @@ using Call = support::FaultyFileSystem::Call;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-const std::string path = "/home/ParPerso.tq1";
+const std::string figuresPath = "/home/ParPerso.tq1";
 std::string record(const std::string& figures, const std::string& methodAndMode) {
   return figures + methodAndMode + std::string(21, ' ');
 }
@@ -28,7 +28,7 @@ struct HeartRate : testing::Test, support::Rig {
   Calculator calculator{context};
 
   void load(const std::optional<std::string>& stored = std::nullopt) {
-    if (stored) memory.put(path, *stored);
+    if (stored) memory.put(figuresPath, *stored);
     loop.onFault([this](const std::string& fault) { faults.push_back(fault); });
     form.onLoad.handle([this] {
       calculator.chargerListes();
@@ -125,7 +125,7 @@ TEST(Formulas, RoundTheBandsHalfAwayFromZero) {
 
 TEST_F(HeartRate, StartsBlankOnANewDiskAndClosesUntouched) {
   load();
-  EXPECT_EQ(*memory.files.at(path), "");
+  EXPECT_EQ(*memory.files.at(figuresPath), "");
   EXPECT_EQ(shown(), " | | | |001100");
   EXPECT_EQ(calculator.figures().persoMethode, "0");
   EXPECT_EQ(form.Label50.caption, "");
@@ -168,17 +168,17 @@ TEST_P(DamagedRecord, LoadsAllTheSame) {
   EXPECT_EQ(shown().substr(shown().size() - 3).find('1') + 1, state.modeAffichageFC);
   EXPECT_GE(form.Combo8.index, 0);
   EXPECT_THAT(faults, testing::IsEmpty());
-  EXPECT_EQ(*memory.files.at(path), stored);
+  EXPECT_EQ(*memory.files.at(figuresPath), stored);
 }
 INSTANTIATE_TEST_SUITE_P(Records, DamagedRecord, testing::Range(0, 120));
 
 TEST_F(HeartRate, StartsBlankWhereTheFileCannotBeOpened) {
-  memory.put(path, saved);
+  memory.put(figuresPath, saved);
   disk.failFrom(Call::Open, 1);
   load();
-  EXPECT_THAT(faults, ElementsAre(HasSubstr(path)));
+  EXPECT_THAT(faults, ElementsAre(HasSubstr(figuresPath)));
   EXPECT_THAT(shown(), testing::StartsWith(" | | | |00"));
-  EXPECT_EQ(*memory.files.at(path), saved);
+  EXPECT_EQ(*memory.files.at(figuresPath), saved);
 }
 
 TEST_F(HeartRate, SavesTheScreenUnderTheRidersOwnMethod) {
@@ -189,7 +189,7 @@ TEST_F(HeartRate, SavesTheScreenUnderTheRidersOwnMethod) {
   form.Combo12.text = "055";
   form.Check3.value = 1;
   form.MyButton40.click();
-  EXPECT_EQ(*memory.files.at(path), record("41 F\xE9minin 018055", "53") + "more");
+  EXPECT_EQ(*memory.files.at(figuresPath), record("41 F\xE9minin 018055", "53") + "more");
   EXPECT_EQ(calculator.figures().persoFCMax, "018");
   EXPECT_EQ(form.Combo12.text, "55");
   EXPECT_EQ(form.Combo8.index, 5);
@@ -213,7 +213,7 @@ TEST_F(HeartRate, KeepsEverythingWhenSavingAtTheClosingFails) {
   EXPECT_TRUE(form.Picture8.visible && form.Timer10.enabled);
   disk.heal();
   form.Command2.click();
-  EXPECT_EQ(memory.files.at(path)->substr(11, 3), "195");
+  EXPECT_EQ(memory.files.at(figuresPath)->substr(11, 3), "195");
   EXPECT_FALSE(form.Picture8.visible || form.Timer10.enabled);
   EXPECT_EQ(dialogs.messages.size(), 2U);
 }

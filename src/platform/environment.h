@@ -1,0 +1,15 @@
+// What the surroundings tell the program by name.
+#pragma once
+
+#include <cstdlib>
+#include <string>
+
+namespace platform {
+
+// Empty where it is not set.
+[[nodiscard]] inline std::string environmentVariable(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+}  // namespace platform
