@@ -21,7 +21,7 @@ double luminance(const QColor& colour) {
 }  // namespace
 
 double contrast(const QColor& a, const QColor& b) {
-  const auto [dark, bright] = std::minmax(luminance(a), luminance(b));
+  const auto [dark, bright] = std::minmax({luminance(a), luminance(b)});
   return (bright + 0.05) / (dark + 0.05);
 }
 
