@@ -6,25 +6,18 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
-#include <functional>
 #include <string>
-#include <thread>
 
+#include "desktop/comes.h"
 #include "devices/pulse_endpoint_volume.h"
 
 namespace devices {
 namespace {
 
-using namespace std::chrono_literals;
+using support::comes;
 
 void pactl(const std::string& words) {
   ASSERT_EQ(std::system(("pactl " + words).c_str()), 0) << words;
-}
-
-// What another program or server does arrives when it arrives; one that never does fails the whole run.
-bool comes(const std::function<bool()>& expected) {
-  for (int i = 0; i < 1000 && !expected(); ++i) std::this_thread::sleep_for(5ms);
-  return expected();
 }
 
 std::string answerOf(const std::string& words) {

@@ -9,16 +9,15 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
-#include <thread>
 #include <vector>
 
+#include "desktop/comes.h"
 #include "devices/wav_decoder.h"
 
 namespace support {
@@ -75,8 +74,8 @@ class Recording {
     return none ? 0 : bytes / 2;
   }
   void waitForMore(std::size_t count) const {
-    for (const auto from = size(); size() < from + count;)
-      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    const auto from = size();
+    EXPECT_TRUE(comes([&] { return size() >= from + count; })) << "the loudspeaker gives nothing";
   }
 
   std::string path_ = testing::TempDir() + "/heard-" + std::to_string(getpid()) + ".raw";

@@ -3,14 +3,12 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <numbers>
-#include <thread>
 
+#include "desktop/comes.h"
 #include "desktop/loudspeaker.h"
 #include "devices/mpv_media.h"
 #include "platform/disk_file_system.h"
@@ -20,14 +18,7 @@ namespace devices {
 namespace {
 
 namespace fs = std::filesystem;
-using namespace std::chrono_literals;
-
-// Looks until it is so; the bound is only there to end a test that has failed.
-bool comes(const std::function<bool()>& so) {
-  const auto end = std::chrono::steady_clock::now() + 20s;
-  while (!so() && std::chrono::steady_clock::now() < end) std::this_thread::sleep_for(5ms);
-  return so();
-}
+using support::comes;
 
 struct MpvMediaTest : testing::Test {
   const std::string folder = (fs::temp_directory_path() / ("médias & " + std::to_string(getpid()))).string();

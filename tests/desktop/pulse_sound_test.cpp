@@ -8,8 +8,8 @@
 #include <iterator>
 #include <list>
 #include <string>
-#include <thread>
 
+#include "desktop/comes.h"
 #include "desktop/decode_wav.h"
 #include "desktop/loudspeaker.h"
 #include "devices/pulse_sound_output.h"
@@ -17,12 +17,12 @@
 namespace devices {
 namespace {
 
+using support::comes;
 using support::decodeWav;
 using support::kPerMs;
 using support::Recording;
 using support::Samples;
 using support::serverPid;
-using namespace std::chrono_literals;
 using Bytes = std::vector<unsigned char>;
 
 std::string bankPath(const std::string& number) {
@@ -183,7 +183,7 @@ TEST_F(PulseSound, WithoutAServerThereIsNoDeviceUntilOneComes) {
   EXPECT_LT(attempts, 20);  // none at most questions
 
   setenv("PULSE_SERVER", server.c_str(), 1);
-  while (!output_.hasDevice()) std::this_thread::sleep_for(20ms);
+  EXPECT_TRUE(comes([&] { return output_.hasDevice(); }));
 }
 
 // The play comes back though nothing takes its sound any more, and the server that follows is found.
@@ -200,7 +200,7 @@ TEST_F(PulseSound, AServerThatDiesOrHangsIsOvercome) {
     EXPECT_GE(repaints_, 20);
     meanwhile_ = {};
     kill(server, SIGKILL);
-    while (serverPid() == server || !output_.hasDevice()) std::this_thread::sleep_for(20ms);
+    ASSERT_TRUE(comes([&] { return serverPid() != server && output_.hasDevice(); }));
     Recording recording;
     play("196");
     EXPECT_TRUE(holds(recording.samples(), decodeWav(bank("196"))));
