@@ -83,13 +83,13 @@ void printRows(std::ostream& out, const platform::Component& gridOrList) {
   }
 }
 
-void printCellLook(std::ostream& out, const platform::Grid& grid, int row, int column) {
+void printCellStyle(std::ostream& out, const platform::Grid& grid, int row, int column) {
   if (row < 1 || row > grid.rowCount() || column < 1 || column > grid.columnCount()) {
     throw CommandError(grid.name() + " has no such cell");
   }
-  const platform::CellLook look = grid.look(row, column);
+  const platform::CellStyle style = grid.style(row, column);
   // A list's automatic colour is black on white.
-  out << (look.colour.automatic ? "0,0,0" : toText(look.colour)) << (look.bold ? " bold" : "") << '\n';
+  out << (style.colour.automatic ? "0,0,0" : toText(style.colour)) << (style.bold ? " bold" : "") << '\n';
 }
 
 void printVisible(std::ostream& out, const platform::Form& form, const platform::MenuItem* popUp) {

@@ -17,7 +17,7 @@ namespace console {
 [[nodiscard]] const std::vector<std::string>& linesOf(const platform::Component& list);
 
 void printRows(std::ostream& out, const platform::Component& gridOrList);
-void printCellLook(std::ostream& out, const platform::Grid& grid, int row, int column);
+void printCellStyle(std::ostream& out, const platform::Grid& grid, int row, int column);
 // Every control of the form that a rider can see, with what it shows.
 void printVisible(std::ostream& out, const platform::Form& form, const platform::MenuItem* popUp);
 void printPlan(std::ostream& out, const model::SharedState& state);

@@ -127,7 +127,7 @@ void TestCommands::cellColour(Arguments& arguments) {
   const int row = arguments.number("row");
   const int column = arguments.number("column");
   arguments.end();
-  printCellLook(out_, grid, row, column);
+  printCellStyle(out_, grid, row, column);
 }
 
 void TestCommands::lines(Arguments& arguments) {

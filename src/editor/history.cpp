@@ -171,9 +171,9 @@ void History::apply(const Change& change, bool backwards) {
   }
   grid_.insertRow(change.row, change.cells);
   const bool first = change.row == 1;
-  grid_.setLook(change.row, first ? column::cycleName : column::sessionName,
-                first ? column::duration : column::deleteMark,
-                first ? model::look::firstRow : model::look::finished);
+  grid_.setStyle(change.row, first ? column::cycleName : column::sessionName,
+                 first ? column::duration : column::deleteMark,
+                 first ? model::rowStyle::firstRow : model::rowStyle::finished);
 }
 
 // Only what the step changed: a hand-over may have named the list anew since.

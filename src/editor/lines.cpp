@@ -70,9 +70,9 @@ void Lines::buildList() {
     grid_.addColumn(std::move(made));
   editor_.File2.refresh();
   grid_.addRow(model::firstRow());
-  grid_.setLook(1, column::cycleName, column::duration, model::look::firstRow);
+  grid_.setStyle(1, column::cycleName, column::duration, model::rowStyle::firstRow);
   grid_.addRow(model::handMadeRow(2, std::string(model::noMeaning)));
-  grid_.setLook(2, column::sessionName, column::deleteMark, model::look::finished);
+  grid_.setStyle(2, column::sessionName, column::deleteMark, model::rowStyle::finished);
 }
 
 void Lines::showTotalTitle() {
@@ -137,7 +137,7 @@ void Lines::ajouterSequence() {
     return;
   }
   forgetNameForOwnRows();
-  appendBlankRow(model::look::unfinished);
+  appendBlankRow(model::rowStyle::unfinished);
   grid_.reveal(grid_.rowCount());
   grid_.select(grid_.rowCount());
   grid_.focus();
@@ -155,9 +155,9 @@ void Lines::forgetNameForOwnRows() {
   main_.MyFrame1.caption = "Ventoria";
 }
 
-void Lines::appendBlankRow(const platform::CellLook& look) {
+void Lines::appendBlankRow(const platform::CellStyle& style) {
   grid_.addRow(model::handMadeRow(grid_.rowCount() + 1, std::string(model::endOfList)));
-  grid_.setLook(grid_.rowCount(), column::sessionName, column::deleteMark, look);
+  grid_.setStyle(grid_.rowCount(), column::sessionName, column::deleteMark, style);
 }
 
 void Lines::ajouterSequenceVariante() {
@@ -171,7 +171,7 @@ void Lines::ajouterSequenceVariante() {
     return;
   }
   ++compteLignes_;
-  appendBlankRow(model::look::finished);
+  appendBlankRow(model::rowStyle::finished);
   recalerColonnes(editor_);
 }
 

@@ -30,7 +30,7 @@ class Lines {
   [[nodiscard]] bool announcementMissing() const;
   [[nodiscard]] bool lastRowClosed() const;
   void forgetNameForOwnRows();
-  void appendBlankRow(const platform::CellLook& look);
+  void appendBlankRow(const platform::CellStyle& style);
 
   context::Context context_;
   forms::CreerCycle& editor_;

@@ -33,7 +33,7 @@ void Totals::note(const platform::GridChange& change) {
                       change.what == What::Focus || change.what == What::Checked;
   if (unseen) return;
   looksStale_ = true;
-  if (change.what != What::Look) totalStale_ = true;
+  if (change.what != What::Style) totalStale_ = true;
 }
 
 // In whole seconds, which is what going through the texts at every step comes to: a day drops out of each
@@ -58,8 +58,8 @@ int Totals::paintRows() {
   for (int row = 2; row <= grid_.rowCount(); ++row) {
     const bool red = model::isUnfinished(grid_, row);
     if (red) ++unfinished;
-    grid_.setLook(row, column::sessionName, column::deleteMark,
-                  red ? model::look::unfinished : model::look::finished);
+    grid_.setStyle(row, column::sessionName, column::deleteMark,
+                   red ? model::rowStyle::unfinished : model::rowStyle::finished);
   }
   return unfinished;
 }

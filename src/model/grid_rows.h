@@ -28,11 +28,11 @@ inline constexpr int heartRate = 13;
 
 inline constexpr int columnCount = 13;
 
-namespace look {
-inline constexpr platform::CellLook firstRow{platform::Colour::rgb(0, 60, 116), true};
-inline constexpr platform::CellLook finished{platform::Colour::rgb(0, 0, 255), false};
-inline constexpr platform::CellLook unfinished{platform::Colour::rgb(255, 0, 0), true};
-}  // namespace look
+namespace rowStyle {
+inline constexpr platform::CellStyle firstRow{platform::Colour::rgb(0, 60, 116), true};
+inline constexpr platform::CellStyle finished{platform::Colour::rgb(0, 0, 255), false};
+inline constexpr platform::CellStyle unfinished{platform::Colour::rgb(255, 0, 0), true};
+}  // namespace rowStyle
 
 inline constexpr int cycleColumnWidth = 1700;         // twips, in cycle mode
 inline constexpr int sessionColumnWidth = 2400;       // twips, after each relayout

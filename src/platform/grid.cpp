@@ -19,7 +19,7 @@ void Grid::addColumn(GridColumn column) {
   columns_.push_back(std::move(column));
   for (Row& row : rows_) {
     row.cells.resize(columns_.size());
-    row.looks.resize(columns_.size());
+    row.styles.resize(columns_.size());
   }
   tell({What::Columns});
 }
@@ -43,7 +43,7 @@ void Grid::addRow(std::vector<std::string> cells) {
 void Grid::insertRow(int row, std::vector<std::string> cells) {
   const int place = std::clamp(row, 1, rowCount() + 1);
   cells.resize(columns_.size());
-  Row fresh{std::move(cells), std::vector<CellLook>(columns_.size()), false};
+  Row fresh{std::move(cells), std::vector<CellStyle>(columns_.size()), false};
   rows_.insert(rows_.begin() + (place - 1), std::move(fresh));
   if (selected_ >= place) ++selected_;
   tell({What::RowInserted, place, 0});
@@ -82,20 +82,20 @@ void Grid::setText(int row, int column, const std::string& text) {
   tell({What::Text, row, column});
 }
 
-CellLook Grid::look(int row, int column) const {
-  return holds(row, column) ? rows_[at(row)].looks[at(column)] : CellLook{};
+CellStyle Grid::style(int row, int column) const {
+  return holds(row, column) ? rows_[at(row)].styles[at(column)] : CellStyle{};
 }
 
-void Grid::setLook(int row, int firstColumn, int lastColumn, const CellLook& look) {
+void Grid::setStyle(int row, int firstColumn, int lastColumn, const CellStyle& style) {
   if (!holds(row, firstColumn) || !holds(row, lastColumn)) return;
   bool changed = false;
   for (int c = firstColumn; c <= lastColumn; ++c) {
-    CellLook& present = rows_[at(row)].looks[at(c)];
-    if (present == look) continue;
-    present = look;
+    CellStyle& present = rows_[at(row)].styles[at(c)];
+    if (present == style) continue;
+    present = style;
     changed = true;
   }
-  if (changed) tell({What::Look, row, 0});
+  if (changed) tell({What::Style, row, 0});
 }
 
 bool Grid::checked(int row) const {

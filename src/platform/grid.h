@@ -18,10 +18,10 @@ struct GridColumn {
   Alignment alignment = Alignment::Left;
 };
 
-struct CellLook {
+struct CellStyle {
   Colour colour;
   bool bold = false;
-  bool operator==(const CellLook&) const = default;
+  bool operator==(const CellStyle&) const = default;
 };
 
 // What changed in a grid, for the fronts. A row of 0 stands for all rows, a column of 0 for all columns.
@@ -32,7 +32,7 @@ struct GridChange {
     RowRemoved,
     Cleared,
     Text,
-    Look,
+    Style,
     Checked,
     Selection,
     Reveal,
@@ -69,8 +69,8 @@ class Grid final : public Control {
   // Cells. A place outside the grid reads as empty, and writing there does nothing.
   [[nodiscard]] const std::string& text(int row, int column) const;
   void setText(int row, int column, const std::string& text);
-  [[nodiscard]] CellLook look(int row, int column) const;
-  void setLook(int row, int firstColumn, int lastColumn, const CellLook& look);
+  [[nodiscard]] CellStyle style(int row, int column) const;
+  void setStyle(int row, int firstColumn, int lastColumn, const CellStyle& style);
   // Check boxes, where the list has them. A tick by the rider is `tickRow`.
   [[nodiscard]] bool checked(int row) const;
   void setChecked(int row, bool on);
@@ -104,7 +104,7 @@ class Grid final : public Control {
  private:
   struct Row {
     std::vector<std::string> cells;
-    std::vector<CellLook> looks;
+    std::vector<CellStyle> styles;
     bool checked = false;
   };
   [[nodiscard]] static std::size_t at(int number) { return static_cast<std::size_t>(number - 1); }

@@ -55,7 +55,7 @@ void GridModel::note(const platform::GridChange& change) {
       moved_ = true;
       break;
     case What::Text:
-    case What::Look:
+    case What::Style:
     case What::Checked:
       if (change.row <= rows_) cells_.insert({change.row, change.column});
       break;

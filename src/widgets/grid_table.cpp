@@ -35,11 +35,11 @@ class CellPainter final : public QStyledItemDelegate {
 
     const std::string cell = fromQt(index.data().toString());
     // A cell without a colour of its own goes with its row.
-    platform::CellLook look = grid.look(row, column);
-    if (look.colour.automatic) look = grid.look(row, model::column::sessionName);
+    platform::CellStyle style = grid.style(row, column);
+    if (style.colour.automatic) style = grid.style(row, model::column::sessionName);
     const bool marker = column > model::column::sessionName && cell.starts_with("--");
-    painter->setPen(marker ? palette.color(role::second) : onScreen(palette, look.colour));
-    painter->setFont(sansFont(table_, 15, look.bold ? QFont::Bold : QFont::Normal));
+    painter->setPen(marker ? palette.color(role::second) : onScreen(palette, style.colour));
+    painter->setFont(sansFont(table_, 15, style.bold ? QFont::Bold : QFont::Normal));
     const int inset = dp(table_, column == model::column::sessionName ? 12 : 3);
     const QRect place = option.rect.adjusted(inset, 0, -dp(table_, 3), 0);
     if (column == model::column::sequence && model::isSequence(grid, row)) {

@@ -179,7 +179,7 @@ TEST_F(BinderTest, TheGridTakesManyRowsAtOnceAndRepaintsOnlyWhatChanged) {
 
   grid.setText(5, 4, "Sprint");
   grid.setText(5, 4, "Sprint");
-  grid.setLook(7, 3, 12, {platform::Colour::rgb(255, 0, 0), true});
+  grid.setStyle(7, 3, 12, {platform::Colour::rgb(255, 0, 0), true});
   model.flush();
   EXPECT_THAT(changed, ElementsAre(std::pair(403, 403), std::pair(600, 612)));
 
