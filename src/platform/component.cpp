@@ -17,7 +17,7 @@ PropertyBase* Component::property(Prop id) const {
   return found == properties_.end() ? nullptr : *found;
 }
 
-void Component::tellWatchers(Prop id) {
+void Component::notifyWatchers(Prop id) {
   // By place: a watcher may add another.
   for (std::size_t i = 0; i < watchers_.size(); ++i) {  // NOLINT(modernize-loop-convert)
     watchers_[i](*this, id);
@@ -35,7 +35,7 @@ const std::vector<CodeEvent>& codeEvents() {
 }
 
 void Component::propertyChanged(Prop id) {
-  tellWatchers(id);
+  notifyWatchers(id);
   for (const CodeEvent& row : codeEvents()) {
     if (row.kind != kind_ || row.prop != id) continue;
     if (const Event<>* raised = event(row.event)) (*raised)();

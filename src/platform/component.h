@@ -55,7 +55,7 @@ class Component {
   [[nodiscard]] virtual const Event<>* event(EventId) const { return nullptr; }
 
  protected:
-  void tellWatchers(Prop id);
+  void notifyWatchers(Prop id);
 
  private:
   friend class PropertyBase;

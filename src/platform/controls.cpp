@@ -28,12 +28,12 @@ void ComboBox::setLines(std::vector<std::string> lines) {
   following_ = true;
   index = found == lines_.end() ? -1 : static_cast<int>(found - lines_.begin());
   following_ = false;
-  tellWatchers(Prop::Lines);
+  notifyWatchers(Prop::Lines);
 }
 
 void ComboBox::addLine(std::string line) {
   lines_.push_back(std::move(line));
-  tellWatchers(Prop::Lines);
+  notifyWatchers(Prop::Lines);
 }
 
 void ComboBox::pick(int line) {
@@ -48,7 +48,7 @@ void ComboBox::pick(int line) {
 
 void ComboBox::propertyChanged(Prop id) {
   if (following_) {
-    tellWatchers(id);
+    notifyWatchers(id);
     return;
   }
   following_ = true;
@@ -60,7 +60,7 @@ void ComboBox::propertyChanged(Prop id) {
     index = found == lines_.end() ? -1 : static_cast<int>(found - lines_.begin());
   }
   following_ = false;
-  tellWatchers(id);
+  notifyWatchers(id);
   for (const CodeEvent& row : codeEvents()) {
     if (row.kind == kind() && row.prop == id) click();
   }
@@ -79,11 +79,11 @@ void FileList::refresh() {
     }
   }
   index = -1;
-  tellWatchers(Prop::Lines);
+  notifyWatchers(Prop::Lines);
 }
 
 void FileList::propertyChanged(Prop id) {
-  tellWatchers(id);
+  notifyWatchers(id);
   if (id == Prop::Text || id == Prop::Caption) refresh();
 }
 

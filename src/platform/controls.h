@@ -116,7 +116,7 @@ class ScrollBar final : public Control {
   Event<> scroll;
 
   void scrollTo(int wanted);  // the rider moves it; kept within the bounds
-  void focus() { tellWatchers(Prop::Focus); }
+  void focus() { notifyWatchers(Prop::Focus); }
   [[nodiscard]] const Event<>* event(EventId id) const override {
     return id == EventId::Change ? &change : nullptr;
   }

@@ -6,13 +6,13 @@ namespace platform {
 
 using What = GridChange::What;
 
-void Grid::tell(const GridChange& change) const {
+void Grid::notifyWatchers(const GridChange& change) const {
   for (const GridWatcher& watcher : watchers_) watcher(change);
 }
 
 void Grid::clearColumns() {
   columns_.clear();
-  tell({What::Columns});
+  notifyWatchers({What::Columns});
 }
 
 void Grid::addColumn(GridColumn column) {
@@ -21,13 +21,13 @@ void Grid::addColumn(GridColumn column) {
     row.cells.resize(columns_.size());
     row.styles.resize(columns_.size());
   }
-  tell({What::Columns});
+  notifyWatchers({What::Columns});
 }
 
 void Grid::setColumnWidth(int column, int twips) {
   if (column < 1 || column > columnCount() || columns_[at(column)].width == twips) return;
   columns_[at(column)].width = twips;
-  tell({What::Columns, 0, column});
+  notifyWatchers({What::Columns, 0, column});
 }
 
 int Grid::columnLeft(int column) const {
@@ -46,7 +46,7 @@ void Grid::insertRow(int row, std::vector<std::string> cells) {
   Row fresh{std::move(cells), std::vector<CellStyle>(columns_.size()), false};
   rows_.insert(rows_.begin() + (place - 1), std::move(fresh));
   if (selected_ >= place) ++selected_;
-  tell({What::RowInserted, place, 0});
+  notifyWatchers({What::RowInserted, place, 0});
 }
 
 void Grid::removeRow(int row) {
@@ -55,14 +55,14 @@ void Grid::removeRow(int row) {
   if (selected_ == row) selected_ = 0;
   if (selected_ > row) --selected_;
   if (pointedRow_ > rowCount()) pointedRow_ = 0;
-  tell({What::RowRemoved, row, 0});
+  notifyWatchers({What::RowRemoved, row, 0});
 }
 
 void Grid::clearRows() {
   rows_.clear();
   selected_ = 0;
   pointedRow_ = 0;
-  tell({What::Cleared});
+  notifyWatchers({What::Cleared});
 }
 
 bool Grid::holds(int row, int column) const {
@@ -79,7 +79,7 @@ void Grid::setText(int row, int column, const std::string& text) {
   std::string& cell = rows_[at(row)].cells[at(column)];
   if (cell == text) return;
   cell = text;
-  tell({What::Text, row, column});
+  notifyWatchers({What::Text, row, column});
 }
 
 CellStyle Grid::style(int row, int column) const {
@@ -95,7 +95,7 @@ void Grid::setStyle(int row, int firstColumn, int lastColumn, const CellStyle& s
     present = style;
     changed = true;
   }
-  if (changed) tell({What::Style, row, 0});
+  if (changed) notifyWatchers({What::Style, row, 0});
 }
 
 bool Grid::checked(int row) const {
@@ -105,7 +105,7 @@ bool Grid::checked(int row) const {
 void Grid::setChecked(int row, bool on) {
   if (!holds(row, 1) || rows_[at(row)].checked == on) return;
   rows_[at(row)].checked = on;
-  tell({What::Checked, row, 0});
+  notifyWatchers({What::Checked, row, 0});
 }
 
 void Grid::tickRow(int row, bool on) {
@@ -118,7 +118,7 @@ void Grid::select(int row) {
   const int wanted = row >= 1 && row <= rowCount() ? row : 0;
   if (selected_ == wanted) return;
   selected_ = wanted;
-  tell({What::Selection, wanted, 0});
+  notifyWatchers({What::Selection, wanted, 0});
 }
 
 void Grid::pointAt(int row, int column) {

@@ -80,8 +80,8 @@ class Grid final : public Control {
   [[nodiscard]] int selectedRow() const { return selected_; }
   void select(int row);
   // Scrolls so that the row shows, or gives the list the keyboard's focus: told to the front.
-  void reveal(int row) { tell({GridChange::What::Reveal, row, 0}); }
-  void focus() { tell({GridChange::What::Focus}); }
+  void reveal(int row) { notifyWatchers({GridChange::What::Reveal, row, 0}); }
+  void focus() { notifyWatchers({GridChange::What::Focus}); }
 
   // Where the rider's pointer is; 0 outside. Kept by the front before it raises the mouse events.
   [[nodiscard]] int pointedRow() const { return pointedRow_; }
@@ -109,7 +109,7 @@ class Grid final : public Control {
   };
   [[nodiscard]] static std::size_t at(int number) { return static_cast<std::size_t>(number - 1); }
   [[nodiscard]] bool holds(int row, int column) const;
-  void tell(const GridChange& change) const;
+  void notifyWatchers(const GridChange& change) const;
 
   std::vector<GridColumn> columns_;
   std::vector<Row> rows_;

@@ -25,7 +25,7 @@ class Timer final : public Component {
  private:
   friend class EventLoop;
   void propertyChanged(Prop id) override {
-    tellWatchers(id);
+    notifyWatchers(id);
     if (scheduler_ != nullptr) scheduler_->restart(*this);
   }
 
