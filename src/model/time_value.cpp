@@ -12,7 +12,7 @@ namespace {
 constexpr int secondsADay = 86400;
 
 // Reads one or two digits at the front and takes them away; -1 where there are none.
-int takeNumber(std::string_view& text) {
+int cutTwoDigits(std::string_view& text) {
   int value = -1;
   for (int digits = 0; digits < 2 && !text.empty() && text.front() >= '0' && text.front() <= '9'; ++digits) {
     value = (value < 0 ? 0 : value * 10) + (text.front() - '0');
@@ -30,7 +30,7 @@ std::optional<int> parseSeconds(std::string_view text) {
   constexpr std::array<int, 3> limits{24, 60, 60};
   std::size_t count = 0;
   for (;;) {
-    const int part = takeNumber(text);
+    const int part = cutTwoDigits(text);
     if (part < 0 || part >= limits.at(count)) return std::nullopt;
     parts.at(count++) = part;
     if (text.empty()) break;

@@ -27,7 +27,7 @@ void appendUtf8(std::string& text, std::uint32_t code) {
 }
 
 // The code point at the front of `text`, which is shortened by it; a byte that is no UTF-8 counts as 0xFFFD.
-std::uint32_t takeCodePoint(std::string_view& text) {
+std::uint32_t cutCodePoint(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text.front());
   const std::size_t size = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
   std::uint32_t code = size == 1 ? lead : size == 2 ? lead & 0x1FU : size == 3 ? lead & 0x0FU : lead & 0x07U;
@@ -53,7 +53,7 @@ char byteOf(std::uint32_t code) {
 
 std::string toWindows1252(std::string_view utf8) {
   std::string bytes;
-  while (!utf8.empty()) bytes += byteOf(takeCodePoint(utf8));
+  while (!utf8.empty()) bytes += byteOf(cutCodePoint(utf8));
   return bytes;
 }
 

@@ -22,43 +22,43 @@ struct Call {
 using Action = std::string (*)(MediaBackend&, const Call&);
 
 template <auto Method, auto... Arguments>
-std::string tell(MediaBackend& backend, const Call& call) {
+std::string invoke(MediaBackend& backend, const Call& call) {
   (backend.*Method)(call.alias, Arguments...);
   return {};
 }
 
 template <auto Method>
-std::string tellNumber(MediaBackend& backend, const Call& call) {
+std::string invokeWithNumber(MediaBackend& backend, const Call& call) {
   (backend.*Method)(call.alias, call.number);
   return {};
 }
 
 template <RecordingFigure Figure>
-std::string tellRecording(MediaBackend& backend, const Call& call) {
+std::string setRecordingFigure(MediaBackend& backend, const Call& call) {
   if (call.number >= 0 && call.number <= std::numeric_limits<int>::max()) {
     backend.setRecording(call.alias, Figure, static_cast<int>(call.number));
   }
   return {};
 }
 
-std::string tellVolume(MediaBackend& backend, const Call& call) {
+std::string setVolume(MediaBackend& backend, const Call& call) {
   if (call.number >= 0 && call.number <= 1000) backend.setVolume(call.alias, static_cast<int>(call.number));
   return {};
 }
 
-std::string tellSpeed(MediaBackend& backend, const Call& call) {
+std::string setSpeed(MediaBackend& backend, const Call& call) {
   if (call.number > 0 && call.number <= 4000) backend.setSpeed(call.alias, static_cast<int>(call.number));
   return {};
 }
 
 template <auto Method>
-std::string tellPath(MediaBackend& backend, const Call& call) {
+std::string invokeWithPath(MediaBackend& backend, const Call& call) {
   (backend.*Method)(call.alias, call.path);
   return {};
 }
 
 template <MediaFigure Figure>
-std::string ask(MediaBackend& backend, const Call& call) {
+std::string queryFigure(MediaBackend& backend, const Call& call) {
   const std::optional<std::int64_t> value = backend.figure(call.alias, Figure);
   return value ? std::to_string(*value) : std::string();
 }
@@ -77,43 +77,43 @@ struct Pattern {
 using B = MediaBackend;
 
 constexpr Pattern patterns[] = {
-    {"open new type waveaudio alias A", &tell<&B::openRecorder>},
+    {"open new type waveaudio alias A", &invoke<&B::openRecorder>},
     {"close all",
      [](B& backend, const Call&) {
        backend.closeAll();
        return std::string();
      }},
-    {"close A", &tell<&B::close>},
-    {"play A", &tell<&B::play>},
-    {"play A from N", &tellNumber<&B::playFrom>},
-    {"stop A", &tell<&B::stop>},
-    {"pause A", &tell<&B::pause>},
-    {"seek A to start", &tell<&B::seek, 0>},
-    {"seek A to N", &tellNumber<&B::seek>},
-    {"record A", &tell<&B::record>},
-    {"save A P", &tellPath<&B::save>},
-    {"set A time format ms", &tell<&B::setTimeFormat, TimeFormat::Milliseconds>},
-    {"set A time format milliseconds", &tell<&B::setTimeFormat, TimeFormat::Milliseconds>},
-    {"set A time format bytes", &tell<&B::setTimeFormat, TimeFormat::Bytes>},
-    {"set A samplespersec N", &tellRecording<RecordingFigure::SamplesPerSecond>},
-    {"set A bitspersample N", &tellRecording<RecordingFigure::BitsPerSample>},
-    {"set A channels N", &tellRecording<RecordingFigure::Channels>},
-    {"set A speed N", &tellSpeed},
-    {"set A audio all off", &tell<&B::setAudible, false>},
-    {"set A audio all on", &tell<&B::setAudible, true>},
-    {"setaudio A volume to N", &tellVolume},
+    {"close A", &invoke<&B::close>},
+    {"play A", &invoke<&B::play>},
+    {"play A from N", &invokeWithNumber<&B::playFrom>},
+    {"stop A", &invoke<&B::stop>},
+    {"pause A", &invoke<&B::pause>},
+    {"seek A to start", &invoke<&B::seek, 0>},
+    {"seek A to N", &invokeWithNumber<&B::seek>},
+    {"record A", &invoke<&B::record>},
+    {"save A P", &invokeWithPath<&B::save>},
+    {"set A time format ms", &invoke<&B::setTimeFormat, TimeFormat::Milliseconds>},
+    {"set A time format milliseconds", &invoke<&B::setTimeFormat, TimeFormat::Milliseconds>},
+    {"set A time format bytes", &invoke<&B::setTimeFormat, TimeFormat::Bytes>},
+    {"set A samplespersec N", &setRecordingFigure<RecordingFigure::SamplesPerSecond>},
+    {"set A bitspersample N", &setRecordingFigure<RecordingFigure::BitsPerSample>},
+    {"set A channels N", &setRecordingFigure<RecordingFigure::Channels>},
+    {"set A speed N", &setSpeed},
+    {"set A audio all off", &invoke<&B::setAudible, false>},
+    {"set A audio all on", &invoke<&B::setAudible, true>},
+    {"setaudio A volume to N", &setVolume},
     {"status A mode", [](B& backend, const Call& call) { return backend.mode(call.alias); }},
-    {"status A length", &ask<MediaFigure::Length>},
-    {"status A position notify", &ask<MediaFigure::Position>},
-    {"status A channels", &ask<MediaFigure::Channels>},
-    {"status A bitspersample", &ask<MediaFigure::BitsPerSample>},
-    {"status A bytespersec", &ask<MediaFigure::BytesPerSecond>},
+    {"status A length", &queryFigure<MediaFigure::Length>},
+    {"status A position notify", &queryFigure<MediaFigure::Position>},
+    {"status A channels", &queryFigure<MediaFigure::Channels>},
+    {"status A bitspersample", &queryFigure<MediaFigure::BitsPerSample>},
+    {"status A bytespersec", &queryFigure<MediaFigure::BytesPerSecond>},
     {"where A destination", &noPicture},
     {"put A window at N N N N", &noPicture},
     {"put A destination at N N N N", &noPicture},
 };
 
-std::string_view takeWord(std::string_view& text) {
+std::string_view cutFirstWord(std::string_view& text) {
   const std::size_t blank = std::min(text.find(' '), text.size());
   const std::string_view word = text.substr(0, blank);
   text.remove_prefix(std::min(blank + 1, text.size()));
@@ -128,14 +128,14 @@ bool readNumber(std::string_view word, std::int64_t& number) {
 std::optional<Call> match(std::string_view words, std::string_view command) {
   Call call;
   while (!words.empty()) {
-    const std::string_view wanted = takeWord(words);
+    const std::string_view wanted = cutFirstWord(words);
     if (wanted == "P") {
       call.path = command;
       command = {};
       if (call.path.empty()) return std::nullopt;
       continue;
     }
-    const std::string_view word = takeWord(command);
+    const std::string_view word = cutFirstWord(command);
     if (wanted == "A" && !word.empty()) {
       call.alias = word;
     } else if (wanted == "N" ? !readNumber(word, call.number) : word != wanted) {
@@ -168,7 +168,7 @@ void ParsedMediaCommands::workIn(const std::string& folder) {
 std::string ParsedMediaCommands::send(const std::string& command) {
   try {
     if (const std::optional<Call> open = matchOpenFile(command)) {
-      return tellPath<&MediaBackend::openFile>(backend_, *open);
+      return invokeWithPath<&MediaBackend::openFile>(backend_, *open);
     }
     for (const Pattern& pattern : patterns) {
       std::optional<Call> call = match(pattern.words, command);

@@ -20,7 +20,7 @@ class Writer {
     for (int i = 0; i < size; ++i) bytes_.push_back(static_cast<char>(value >> (8 * i) & 0xFFU));
     return *this;
   }
-  std::vector<char> take() { return std::move(bytes_); }
+  std::vector<char> release() { return std::move(bytes_); }
 
  private:
   std::vector<char> bytes_;
@@ -61,7 +61,7 @@ std::vector<char> wavFile(const RecordingFormat& format, std::span<const unsigne
   writer.little(number(format.samplesPerSecond), 4).little(number(format.bytesPerSecond()), 4);
   writer.little(number(format.frameBytes()), 2).little(number(format.bitsPerSample), 2);
   writer.mark("data").little(samples.size(), 4);
-  std::vector<char> bytes = writer.take();
+  std::vector<char> bytes = writer.release();
   bytes.reserve(bytes.size() + samples.size() + padding);
   std::transform(samples.begin(), samples.end(), std::back_inserter(bytes),
                  [](unsigned char sample) { return static_cast<char>(sample); });
