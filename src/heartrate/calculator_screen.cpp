@@ -87,7 +87,7 @@ void CalculatorScreen::ouvrirCalculateur() {
 void CalculatorScreen::calculerFrequences() {
   if (figures_.loading()) return;
   editor_.Combo9.text = "100";
-  if (!hasItsFigures(context_.outside.dialogs, editor_)) return;
+  if (!requireFigures(context_.outside.dialogs, editor_)) return;
   // From here it is the method in use that counts, which the grid's own box may have set.
   const int methode = figures_.methodeFC;
   if (!byAge(methode) && !byReserve(methode)) return;
@@ -112,7 +112,7 @@ void CalculatorScreen::choisirMethode() {
   const int methode = editor_.Combo8.index;
   // Before the check: what it finds missing is entered in the boxes of the method that was picked.
   showBoxesOf(methode);
-  if (!hasItsFigures(context_.outside.dialogs, editor_)) return;
+  if (!requireFigures(context_.outside.dialogs, editor_)) return;
   if (methode < 0 && isBlank(editor_.Combo7)) {
     editor_.MyButton41.click();
     return;

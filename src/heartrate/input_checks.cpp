@@ -31,21 +31,21 @@ bool holds(const platform::ComboBox& box, const std::string& saved) {
   return platform::trim(box.text.get()) == platform::trim(saved);
 }
 
-void sayNeeded(platform::Dialogs& dialogs, Needed needed) {
+void showNeededFigures(platform::Dialogs& dialogs, Needed needed) {
   const auto row = static_cast<std::size_t>(needed);
   dialogs.message({platform::MessageKind::Information, platform::MessageButtons::Ok, "",
                    std::string(firstLines.at(row)) + "\n" + secondLines.at(row) + "\n" + thirdLine});
 }
 
-bool hasItsFigures(platform::Dialogs& dialogs, const forms::CreerCycle& form) {
+bool requireFigures(platform::Dialogs& dialogs, const forms::CreerCycle& form) {
   const int methode = form.Combo8.index;
   const bool missing =
       methode >= 0 && (isBlank(form.Combo7) || (byReserve(methode) && isBlank(form.Combo12)) ||
                        (methode == ownFigures && isBlank(form.Combo11)));
   if (!missing) return true;
-  sayNeeded(dialogs, byAge(methode)        ? Needed::Age
-                     : methode == karvonen ? Needed::AgeAndRest
-                                           : Needed::AllFigures);
+  showNeededFigures(dialogs, byAge(methode)        ? Needed::Age
+                             : methode == karvonen ? Needed::AgeAndRest
+                                                   : Needed::AllFigures);
   form.MyButton25.click();
   return false;
 }

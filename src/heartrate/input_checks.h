@@ -11,8 +11,8 @@ enum class Needed { Age, AgeAndRest, AllFigures };
 [[nodiscard]] bool isBlank(const platform::ComboBox& box);
 // The same figure, blanks at the ends aside.
 [[nodiscard]] bool holds(const platform::ComboBox& box, const std::string& saved);
-void sayNeeded(platform::Dialogs& dialogs, Needed needed);
+void showNeededFigures(platform::Dialogs& dialogs, Needed needed);
 // Whether the calculator has what the method it shows needs. If not, says so and opens the calculator.
-[[nodiscard]] bool hasItsFigures(platform::Dialogs& dialogs, const forms::CreerCycle& form);
+[[nodiscard]] bool requireFigures(platform::Dialogs& dialogs, const forms::CreerCycle& form);
 
 }  // namespace heartrate

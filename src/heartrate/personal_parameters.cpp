@@ -68,7 +68,7 @@ void PersonalParameters::montrer(const model::PersonalFigures& saved) {
   showMethod();
   // The reverse of what a pick of the method does: the note shows on the first reading where it hides later.
   editor_.Label62.visible = editor_.Combo8.index == karvonen;
-  takeMode(figures_.persoMethode.empty() ? std::string() : saved.modeAffichage);
+  setDisplayMode(figures_.persoMethode.empty() ? std::string() : saved.modeAffichage);
 }
 
 void PersonalParameters::showMethod() {
@@ -82,7 +82,7 @@ void PersonalParameters::showMethod() {
 }
 
 // A file that has no mode yet, or a damaged one, gives the first.
-void PersonalParameters::takeMode(const std::string& saved) {
+void PersonalParameters::setDisplayMode(const std::string& saved) {
   const int read = model::lenientInteger(saved);
   const int mode = read >= 1 && read <= static_cast<int>(modes_.size()) ? read : 1;
   context_.state.modeAffichageFC = mode;
@@ -109,7 +109,7 @@ void PersonalParameters::enregistrerParPerso() {
   if (!saved.fcRepos.empty()) editor_.Combo12.text = withoutZeros(saved.fcRepos);
   figures_.persoMethode = saved.methode;
   editor_.Combo8.index = model::lenientInteger(saved.methode);
-  takeMode(saved.modeAffichage);
+  setDisplayMode(saved.modeAffichage);
   editor_.Combo8.click();
   editor_.Combo13.click();
 }

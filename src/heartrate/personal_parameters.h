@@ -23,7 +23,7 @@ class PersonalParameters {
   void coupleModes();
   void montrer(const model::PersonalFigures& saved);
   void showMethod();
-  void takeMode(const std::string& saved);
+  void setDisplayMode(const std::string& saved);
 
   context::Context context_;
   forms::CreerCycle& editor_;

@@ -40,7 +40,7 @@ void TargetColumn::viserCellule(int row, const std::string& pickedText) {
     editor_.ListView1.setText(row, model::column::heartRate, text);
   };
   const auto refuse = [&](Needed needed) {
-    sayNeeded(context_.outside.dialogs, needed);
+    showNeededFigures(context_.outside.dialogs, needed);
     write(std::string(model::emptyCell));
     editor_.MyButton25.click();
   };
@@ -67,7 +67,8 @@ void TargetColumn::viserCellule(int row, const std::string& pickedText) {
 void TargetColumn::recalculerColonneFC() {
   if (figures_.loading()) return;
   if (isBlank(editor_.Combo7)) {
-    sayNeeded(context_.outside.dialogs, byReserve(figures_.methodeFC) ? Needed::AllFigures : Needed::Age);
+    showNeededFigures(context_.outside.dialogs,
+                      byReserve(figures_.methodeFC) ? Needed::AllFigures : Needed::Age);
     editor_.MyButton25.click();
     return;
   }
