@@ -18,7 +18,7 @@ void Advance::avancerSequence() {
   struct Standing {
     bool& flag;
     ~Standing() { flag = false; }
-  } const standing{timeStands_ = true};
+  } const standing{holdsTime_ = true};
   waits_.run([this] { crossBoundary(); });
 }
 
@@ -43,7 +43,7 @@ void Advance::crossBoundary() {
   // From here on time runs, although the voice that follows still delays the first tick. A ride that was
   // paused during the waits above stays paused; an announcement, which has no time to hold, ends all the
   // same.
-  timeStands_ = false;
+  holdsTime_ = false;
   if (main_.Command7.caption == "Pause" || state_.dureeSequence == 0) main_.Timer1.enabled = true;
   sayRow();
   if (main_.Check7.value == 1 && !state_.sonBraquet.empty()) voice_.dire(state_.sonBraquet);
@@ -163,7 +163,7 @@ void Advance::playOwnAnnouncement() {
 
 void Advance::saySequenceNumber() {
   state_.sonNumSequence = sequenceNumberSound(state_.plan.sequenceCourante);
-  if (main_.Check4.value == 1 && !isAnnouncement()) waits_.sayHolding(state_.sonNumSequence);
+  if (main_.Check4.value == 1 && !isAnnouncement()) waits_.sayWithMusicHeld(state_.sonNumSequence);
 }
 
 void Advance::sayRow() {

@@ -14,7 +14,7 @@ class Advance {
   // Runs at each boundary. When it returns the chrono runs on the new sequence, or the run has ended.
   void avancerSequence();
   // A boundary is at work that has not yet come to where time runs again.
-  [[nodiscard]] bool timeStands() const { return timeStands_; }
+  [[nodiscard]] bool holdsTime() const { return holdsTime_; }
 
  private:
   void crossBoundary();
@@ -40,7 +40,7 @@ class Advance {
   RideWaits& waits_;
   forms::MainForm& main_;
   model::SharedState& state_;
-  bool timeStands_ = false;
+  bool holdsTime_ = false;
 };
 
 }  // namespace runner

@@ -30,9 +30,9 @@ Chrono::Chrono(const context::Context& context, Advance& advance, RideWaits& wai
   main_.Timer3.tick.handle([this] { tickSurveillance(); });
   main_.Timer9.tick.handle([this] { tickEcranVeille(); });
   platform::once(main_.Timer10, [this] { tickPanneau(); });
-  main_.Picture6.hover.handle([this] { stepAsidePanel(); });
-  main_.Label40.hover.handle([this] { stepAsidePanel(); });
-  main_.Label44.hover.handle([this] { stepAsidePanel(); });
+  main_.Picture6.hover.handle([this] { hidePanelBriefly(); });
+  main_.Label40.hover.handle([this] { hidePanelBriefly(); });
+  main_.Label44.hover.handle([this] { hidePanelBriefly(); });
 }
 
 void Chrono::tickChrono() {
@@ -87,7 +87,7 @@ Chrono::Sequence Chrono::countSecond() {
   main_.Label6.caption = platform::right(left, 2);
   state_.moitieSequence = model::formatTime(state_.dureeSequence / 2);
   const bool halfWay = model::timeValue(state_.moitieSequence) == state_.restantSequence;
-  if (halfWay && main_.Check8.value == 1) waits_.sayHolding("miparcours.wav");
+  if (halfWay && main_.Check8.value == 1) waits_.sayWithMusicHeld("miparcours.wav");
   const auto digits = {&main_.Label4, &main_.Label5, &main_.Label6};
   const bool runOut = std::all_of(digits.begin(), digits.end(), [](const auto* label) {
     return model::lenientNumber(label->caption.get()) == 0;
@@ -97,7 +97,7 @@ Chrono::Sequence Chrono::countSecond() {
 
 void Chrono::tickSurveillance() {
   // What is paused can always be resumed, whatever the row.
-  openRideButtons(main_, state_.dureeSequence != 0 || main_.Command7.caption == "REPRENDRE");
+  enableRideButtons(main_, state_.dureeSequence != 0 || main_.Command7.caption == "REPRENDRE");
   const auto boxes = {&main_.Check3, &main_.Check4, &main_.Check5, &main_.Check6,
                       &main_.Check7, &main_.Check8, &main_.Check9, &main_.Check13};
   if (std::all_of(boxes.begin(), boxes.end(), [](const auto* box) { return box->value == 0; })) {
@@ -109,7 +109,7 @@ void Chrono::tickPanneau() {
   if (!showsEndMessage(main_)) main_.Picture6.visible = true;
 }
 
-void Chrono::stepAsidePanel() {
+void Chrono::hidePanelBriefly() {
   // The large message outlives the ride: with no panel to step aside, nothing is to come back.
   if (!main_.Picture6.visible && !main_.Timer10.enabled) return;
   main_.Picture6.visible = false;

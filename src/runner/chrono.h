@@ -23,7 +23,7 @@ class Chrono {
   enum class Sequence { GoesOn, HasRunOut };
   // One second off the sequence.
   Sequence countSecond();
-  void stepAsidePanel();
+  void hidePanelBriefly();
 
   context::Context context_;
   Advance& advance_;

@@ -23,12 +23,12 @@ Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advan
     main_.MyButton4.enabled = true;
   });
   main_.Combo5.click.handle([this] { chooseLength(); });
-  main_.Combo5.enter.handle([this] { takeTypedLength(); });
-  main_.Combo5.validate.handle([this] { takeTypedLength(); });
+  main_.Combo5.enter.handle([this] { applyTypedLength(); });
+  main_.Combo5.validate.handle([this] { applyTypedLength(); });
   for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) {
     box->click.handle([this] { chooseManualTime(); });
-    box->enter.handle([this] { takeTypedTime(); });
-    box->validate.handle([this] { takeTypedTime(); });
+    box->enter.handle([this] { applyTypedTime(); });
+    box->validate.handle([this] { applyTypedTime(); });
   }
   platform::once(main_.Timer4, [this] { main_.MyButton1.click(); });
   platform::once(main_.Timer6, [this] { main_.MyButton4.click(); });
@@ -36,10 +36,10 @@ Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advan
 
 void Countdown::lancerCompteRebours() {
   if (state_.nbSequences == 0 && state_.dureeSequence == 0) {
-    tellNothingToRide(main_);
+    showNothingToRide(main_);
     return;
   }
-  mendLength();
+  replaceInvalidLength();
   main_.Command7.caption = "Pause";
   if (main_.MyButton3.caption == "Redémarrer Chrono") main_.MyButton3.caption = "Démarrer Chrono";
   main_.Label9.caption = main_.Combo5.text;
@@ -94,7 +94,7 @@ void Countdown::basculerPause() {
   } else if (main_.Command7.caption == "REPRENDRE") {
     voice_.dire("repriseentrainement.wav");
     // Before a row's time begins, its boundary starts the chrono.
-    main_.Timer1.enabled = !advance_.timeStands();
+    main_.Timer1.enabled = !advance_.holdsTime();
     main_.Timer2.enabled = false;
     main_.Timer10.enabled = true;
     main_.Command7.caption = "Pause";
@@ -126,18 +126,18 @@ void Countdown::chooseManualTime() {
 }
 
 // A length that is none would be counted down for ever.
-void Countdown::mendLength() {
+void Countdown::replaceInvalidLength() {
   if (model::lenientInteger(main_.Combo5.text.get()) >= 1) return;
   main_.Combo5.text = state_.dureeChrono.empty() ? "16" : state_.dureeChrono;
 }
 
 // A countdown that runs keeps its number.
-void Countdown::takeTypedLength() {
-  mendLength();
+void Countdown::applyTypedLength() {
+  replaceInvalidLength();
   if (!main_.Timer2.enabled) chooseLength();
 }
 
-void Countdown::takeTypedTime() {
+void Countdown::applyTypedTime() {
   if (!main_.Combo1.visible) return;  // in a ride the boxes show what is ridden
   for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) {
     box->text = model::lineFor(box->lines(), platform::trim(box->text.get())).value_or("00");

@@ -20,9 +20,9 @@ class Countdown {
   void leaveFrame();
   void chooseLength();
   void chooseManualTime();
-  void mendLength();
-  void takeTypedLength();
-  void takeTypedTime();
+  void replaceInvalidLength();
+  void applyTypedLength();
+  void applyTypedTime();
   void goToEditor();
 
   context::Context context_;

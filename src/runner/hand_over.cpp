@@ -22,7 +22,7 @@ HandOver::HandOver(const context::Context& context, RideWaits& waits)
 
 void HandOver::validerSeance() {
   if (main_.Command7.caption != "REPRENDRE" && refuseWrongDuration()) return;
-  settleOtherForms();
+  prepareOtherForms();
   if (main_.Command7.caption == "REPRENDRE") {
     // A paused ride keeps its plan; the edits stay in the grid.
     editor_.mnSortir.click();
@@ -38,7 +38,7 @@ void HandOver::validerSeance() {
   state_.nbSeances = times > 0 ? times : 1;
   if (grid.rowCount() < 2) {
     main_.MyButton4.click();
-    tellNothingToRide(main_);
+    showNothingToRide(main_);
     return;
   }
   fillPlan();
@@ -67,7 +67,7 @@ bool HandOver::refuseWrongDuration() {
   return true;
 }
 
-void HandOver::settleOtherForms() {
+void HandOver::prepareOtherForms() {
   editor_.Command1.click();
   if (forms::musicLoaded(context_.screens.player)) context_.screens.player.Timer3.enabled = true;
   main_.MyButton19.visible = !context_.screens.announcements.File1.lines().empty();

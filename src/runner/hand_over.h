@@ -15,7 +15,7 @@ class HandOver {
  private:
   // Tells the rider of the first row that would bring a text that is no duration into the plan, and shows it.
   [[nodiscard]] bool refuseWrongDuration();
-  void settleOtherForms();
+  void prepareOtherForms();
   void resetRide();
   void fillPlan();
   void showTitle();

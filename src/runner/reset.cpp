@@ -22,7 +22,7 @@ void Reset::annulerSeance() {
     voice_.dire("seanceAnnule.wav");
   }
   main_.Command7.caption = "Pause";
-  openRideButtons(main_, false);
+  enableRideButtons(main_, false);
   if (!showsEndMessage(main_)) clearMessage(main_);
   showIdlePicture(main_);
   main_.Label18.caption = "Prêt pour une Nouvelle Séance d'Entraînement";
@@ -77,7 +77,7 @@ void Reset::startManualChrono() {
   state_.dureeSequence = model::timeValue(chosen[0] + ":" + chosen[1] + ":" + chosen[2]);
   state_.dureeTotale = state_.dureeSequence;
   if (state_.dureeSequence == 0) {
-    tellNothingToRide(main_);
+    showNothingToRide(main_);
     return;
   }
   main_.Timer2.enabled = true;

@@ -37,7 +37,7 @@ void RideWaits::release() {
   voice_.relacherMusique();
 }
 
-void RideWaits::sayHolding(const std::string& name) {
+void RideWaits::sayWithMusicHeld(const std::string& name) {
   voice_.nommer(name);
   hold();
   voice_.dire(name);

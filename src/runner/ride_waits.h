@@ -25,7 +25,7 @@ class RideWaits {
   void hold();
   void release();
   // Named before and after: who pauses during the hold has used the one slot of the sounds.
-  void sayHolding(const std::string& name);
+  void sayWithMusicHeld(const std::string& name);
 
   // Music that only a hold keeps silent plays on, so that a cancel leaves it alike at any moment.
   void endHold();

@@ -32,12 +32,12 @@ inline void hideTimeBoxesUnderSettings(forms::MainForm& main) {
 }
 
 // The buttons that stop, suspend and cancel a ride.
-inline void openRideButtons(forms::MainForm& main, bool open) {
-  for (auto* button : {&main.MyButton1, &main.MyButton4, &main.Command7}) button->enabled = open;
+inline void enableRideButtons(forms::MainForm& main, bool enabled) {
+  for (auto* button : {&main.MyButton1, &main.MyButton4, &main.Command7}) button->enabled = enabled;
 }
 
 // Where a start finds neither a plan nor a time: the rider reads why, and can still choose a time.
-inline void tellNothingToRide(forms::MainForm& main) {
+inline void showNothingToRide(forms::MainForm& main) {
   main.MyFrame2.visible = false;
   main.Label18.caption = "Rien à Parcourir : Composez ou Chargez une Séance d'Entraînement";
   show({&main.Label18, &main.Combo1, &main.Combo2, &main.Combo3});
