@@ -14,7 +14,7 @@ Page::Page(const context::Context& context, voice::Voice& voice)
       lines_(context),
       cells_(context, calculator_),
       files_(context, voice, lines_),
-      totals_(context),
+      listWatch_(context),
       history_(context) {
   editor_.onLoad.handle([this] { open(); });
   editor_.MyButton6.click.handle([this] { editor_.mnSortir.click(); });

@@ -5,8 +5,8 @@
 #include "editor/cell_editor.h"
 #include "editor/history.h"
 #include "editor/lines.h"
+#include "editor/list_watch.h"
 #include "editor/session_files.h"
-#include "editor/totals.h"
 #include "heartrate/calculator.h"
 #include "voice/voice.h"
 
@@ -30,7 +30,7 @@ class Page {
   Lines lines_;
   CellEditor cells_;
   SessionFiles files_;
-  Totals totals_;
+  ListWatch listWatch_;
   History history_;
 };
 

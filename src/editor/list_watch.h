@@ -6,16 +6,16 @@
 
 namespace editor {
 
-class Totals {
+class ListWatch {
  public:
-  explicit Totals(const context::Context& context);
+  explicit ListWatch(const context::Context& context);
 
   void calculerTotal();
   void verifierLignes();
   void survolerCellule();
 
  private:
-  void note(const platform::GridChange& change);
+  void markStale(const platform::GridChange& change);
   // Colours every row but the first; how many are not finished.
   [[nodiscard]] int paintRows();
   void blink();
@@ -25,7 +25,7 @@ class Totals {
   // Whether the list has changed since it was last summed or painted: a look at an unchanged list costs
   // nothing.
   bool totalStale_ = true;
-  bool looksStale_ = true;
+  bool stylesStale_ = true;
   int unfinished_ = 0;
 };
 

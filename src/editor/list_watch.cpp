@@ -1,4 +1,4 @@
-#include "editor/totals.h"
+#include "editor/list_watch.h"
 
 #include "model/grid_rows.h"
 #include "model/numbers.h"
@@ -19,26 +19,27 @@ constexpr int cellMargin = 100;      // twips
 
 }  // namespace
 
-Totals::Totals(const context::Context& context) : editor_(context.screens.editor), grid_(editor_.ListView1) {
+ListWatch::ListWatch(const context::Context& context)
+    : editor_(context.screens.editor), grid_(editor_.ListView1) {
   editor_.Timer4.tick.handle([this] { calculerTotal(); });
   editor_.Timer6.tick.handle([this] { verifierLignes(); });
   editor_.Timer7.tick.handle([this] { blink(); });
   editor_.Timer9.tick.handle([this] { survolerCellule(); });
-  grid_.watchGrid([this](const platform::GridChange& change) { note(change); });
+  grid_.watchGrid([this](const platform::GridChange& change) { markStale(change); });
 }
 
-void Totals::note(const platform::GridChange& change) {
+void ListWatch::markStale(const platform::GridChange& change) {
   using What = platform::GridChange::What;
   const bool unseen = change.what == What::Selection || change.what == What::Reveal ||
                       change.what == What::Focus || change.what == What::Checked;
   if (unseen) return;
-  looksStale_ = true;
+  stylesStale_ = true;
   if (change.what != What::Style) totalStale_ = true;
 }
 
 // In whole seconds, which is what going through the texts at every step comes to: a day drops out of each
 // sum.
-void Totals::calculerTotal() {
+void ListWatch::calculerTotal() {
   if (!totalStale_) return;
   int sum = 0;
   for (int row = 2; row <= grid_.rowCount(); ++row) {
@@ -53,7 +54,7 @@ void Totals::calculerTotal() {
   totalStale_ = false;
 }
 
-int Totals::paintRows() {
+int ListWatch::paintRows() {
   int unfinished = 0;
   for (int row = 2; row <= grid_.rowCount(); ++row) {
     const bool red = model::isUnfinished(grid_, row);
@@ -64,11 +65,11 @@ int Totals::paintRows() {
   return unfinished;
 }
 
-void Totals::verifierLignes() {
+void ListWatch::verifierLignes() {
   if (grid_.rowCount() < 2) return;
-  if (looksStale_) {
+  if (stylesStale_) {
     unfinished_ = paintRows();
-    looksStale_ = false;
+    stylesStale_ = false;
   }
   const bool complete = unfinished_ == 0;
   editor_.MyButton5.visible = complete;
@@ -85,12 +86,12 @@ void Totals::verifierLignes() {
   editor_.MyButton11.caption = std::to_string(unfinished_) + " Séquence(s) en (Rouge) non Terminée(s)...";
 }
 
-void Totals::blink() {
+void ListWatch::blink() {
   editor_.MyButton11.visible = !editor_.MyButton11.visible;
   editor_.Timer7.interval = editor_.MyButton11.visible ? warningShown : warningHidden;
 }
 
-void Totals::survolerCellule() {
+void ListWatch::survolerCellule() {
   const int row = grid_.pointedRow();
   const int col = grid_.pointedColumn();
   if (row == 0 || col < 1 || col > grid_.columnCount()) return;
