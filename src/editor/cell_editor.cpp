@@ -42,7 +42,7 @@ CellEditor::CellEditor(const context::Context& context, heartrate::Calculator& c
   }
   editor_.Timer1.tick.handle([this] { placerEditeur(); });
   platform::once(editor_.Timer2, [this] { hideBadge(); });
-  editor_.Timer3.tick.handle([this] { keepDurationPanelInside(); });
+  editor_.Timer3.tick.handle([this] { hideDurationPanelOutsideList(); });
 }
 
 void CellEditor::endEditing() {
@@ -87,7 +87,7 @@ void CellEditor::cliquerCellule() {
     refuse();
     return;
   }
-  readOut();
+  fillReadOuts();
   editor_.Timer1.enabled = true;
   recalerColonnes(editor_);
   chargerListeCellule();
@@ -103,7 +103,7 @@ void CellEditor::showDuration() {
   editor_.Label7.caption = duration == model::noMeaning ? std::string(model::noDuration) : duration;
 }
 
-void CellEditor::readOut() {
+void CellEditor::fillReadOuts() {
   const std::pair<forms::Label*, int> fields[] = {
       {&editor_.Label10, column::sequence},  {&editor_.Label11, column::cadence},
       {&editor_.Label12, column::chainring}, {&editor_.Label15, column::gear},
@@ -206,7 +206,7 @@ void CellEditor::hideBadge() {
   editor_.Picture1.visible = false;
 }
 
-void CellEditor::keepDurationPanelInside() {
+void CellEditor::hideDurationPanelOutsideList() {
   editor_.Picture2.visible = grid_.rowShows(grid_.selectedRow());
 }
 

@@ -29,7 +29,7 @@ class CellEditor {
   void fillDurationBoxes();
   [[nodiscard]] std::string chosenDuration();
   void movePointer();
-  void readOut();
+  void fillReadOuts();
   void chargerListeCellule();
   void showDuration();
   void selectPresentText();
@@ -37,7 +37,7 @@ class CellEditor {
   void placeOverCell();
   void refuse();
   void showBadge(const std::string& text, const platform::Colour& colour);
-  void keepDurationPanelInside();
+  void hideDurationPanelOutsideList();
   void hideBadge();
   void explainKind(const std::string& picked);
   void repeatFirstRow(const std::string& picked);

@@ -35,14 +35,14 @@ History::History(const context::Context& context)
       state_(context.state),
       captions_{&editor_.Label8.caption, &editor_.Label9.caption, &context.screens.main.MyFrame1.caption,
                 &editor_.MyButton3.caption, &editor_.MyButton4.caption} {
-  grid_.watchGrid([this](const platform::GridChange& change) { note(change); });
-  for (platform::Component* said : std::initializer_list<platform::Component*>{
+  grid_.watchGrid([this](const platform::GridChange& change) { recordChange(change); });
+  for (platform::Component* captioned : std::initializer_list<platform::Component*>{
            &editor_.Label8, &editor_.Label9, &context.screens.main.MyFrame1, &editor_.MyButton3,
            &editor_.MyButton4}) {
-    said->watch([this](platform::Component&, platform::Prop prop) {
+    captioned->watch([this](platform::Component&, platform::Prop prop) {
       if (prop != platform::Prop::Caption) return;
       beginStep();
-      saying_ = words();
+      wordsNow_ = words();
     });
   }
   editor_.TimerUndoStep.tick.handle([this] { endStep(); });
@@ -81,14 +81,14 @@ void History::endStep() {
   editor_.TimerUndoStep.interval = whileItRuns;
 }
 
-void History::note(const platform::GridChange& change) {
+void History::recordChange(const platform::GridChange& change) {
   using What = platform::GridChange::What;
   const auto at = static_cast<std::ptrdiff_t>(change.row - 1);
   if (!changesTexts(change.what)) return;
   beginStep();
   switch (change.what) {
     case What::Text:
-      noteText(change.row, change.column);
+      recordText(change.row, change.column);
       break;
     case What::RowInserted:
       shadow_.insert(shadow_.begin() + at, cellsOf(change.row));
@@ -104,11 +104,11 @@ void History::note(const platform::GridChange& change) {
       }
       shadow_.clear();
   }
-  if (playing_) open_.clear();
-  saying_ = words();
+  if (replaying_) open_.clear();
+  wordsNow_ = words();
 }
 
-void History::noteText(int row, int col) {
+void History::recordText(int row, int col) {
   std::string& before = shadow_[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(col - 1)];
   const std::string& after = grid_.text(row, col);
   // The total follows by itself, some time after what changed it: it is no step, and no part of one.
@@ -120,19 +120,19 @@ void History::closeStep() {
   editor_.TimerUndoStep.enabled = false;
   editor_.TimerUndoStep.interval = atOnce;
   if (hasEffect()) {
-    undo_.push_back({std::move(open_), said_, saying_});
+    undo_.push_back({std::move(open_), wordsBefore_, wordsNow_});
     redo_.clear();
     if (undo_.size() > mostSteps) undo_.pop_front();
   }
   open_.clear();
-  said_ = saying_;
-  showWhatIsPossible();
+  wordsBefore_ = wordsNow_;
+  enableMenuEntries();
 }
 
 // Words alone are no step, but for the cycle mode.
 bool History::hasEffect() const {
   for (std::size_t i = firstOfCycleMode; i < sessionTitle; ++i) {
-    if (said_.at(i) != saying_.at(i)) return true;
+    if (wordsBefore_.at(i) != wordsNow_.at(i)) return true;
   }
   const auto inserted = std::ranges::count(open_, Kind::Insert, &Change::kind);
   if (inserted != std::ranges::count(open_, Kind::Remove, &Change::kind)) return true;
@@ -177,51 +177,51 @@ void History::apply(const Change& change, bool backwards) {
 }
 
 // Only what the step changed: a hand-over may have named the list anew since.
-void History::say(const Words& from, const Words& to) {
+void History::restoreWords(const Words& from, const Words& to) {
   for (std::size_t i = 0; i < captions_.size(); ++i) {
     if (from.at(i) != to.at(i)) *captions_.at(i) = to.at(i);
   }
   if (from.at(sessionTitle) != to.at(sessionTitle)) state_.seanceTitre = to.at(sessionTitle);
 }
 
-void History::play(std::deque<Step>& from, std::deque<Step>& to, bool backwards) {
+void History::replay(std::deque<Step>& from, std::deque<Step>& to, bool backwards) {
   editor_.Command1.click();
   closeStep();
   if (from.empty()) return;
   Step step = std::move(from.back());
   from.pop_back();
-  playing_ = true;
+  replaying_ = true;
   if (backwards) {
     for (const Change& change : std::views::reverse(step.changes)) apply(change, true);
-    say(step.after, step.before);
+    restoreWords(step.after, step.before);
   } else {
     for (const Change& change : step.changes) apply(change, false);
-    say(step.before, step.after);
+    restoreWords(step.before, step.after);
   }
-  playing_ = false;
+  replaying_ = false;
   recalerColonnes(editor_);
   editor_.Timer4.tick();
-  said_ = saying_ = words();
+  wordsBefore_ = wordsNow_ = words();
   to.push_back(std::move(step));
-  showWhatIsPossible();
+  enableMenuEntries();
 }
 
 void History::undo() {
-  play(undo_, redo_, true);
+  replay(undo_, redo_, true);
 }
 void History::redo() {
-  play(redo_, undo_, false);
+  replay(redo_, undo_, false);
 }
 
-void History::forget() {
+void History::clear() {
   open_.clear();
   undo_.clear();
   redo_.clear();
-  said_ = saying_ = words();
-  showWhatIsPossible();
+  wordsBefore_ = wordsNow_ = words();
+  enableMenuEntries();
 }
 
-void History::showWhatIsPossible() {
+void History::enableMenuEntries() {
   editor_.mnUndo.enabled = !undo_.empty();
   editor_.mnRedo.enabled = !redo_.empty();
 }

@@ -20,7 +20,7 @@ class History {
   void undo();
   void redo();
   // The list as it stands is where undoing ends.
-  void forget();
+  void clear();
 
  private:
   using Cells = std::vector<std::string>;
@@ -40,8 +40,8 @@ class History {
     Words after;
   };
 
-  void note(const platform::GridChange& change);
-  void noteText(int row, int column);
+  void recordChange(const platform::GridChange& change);
+  void recordText(int row, int column);
   void beginStep();
   void endStep();
   void closeStep();
@@ -49,9 +49,9 @@ class History {
   [[nodiscard]] bool textsDiffer() const;
   [[nodiscard]] bool rowsDiffer() const;
   void apply(const Change& change, bool backwards);
-  void say(const Words& from, const Words& to);
-  void play(std::deque<Step>& from, std::deque<Step>& to, bool backwards);
-  void showWhatIsPossible();
+  void restoreWords(const Words& from, const Words& to);
+  void replay(std::deque<Step>& from, std::deque<Step>& to, bool backwards);
+  void enableMenuEntries();
   [[nodiscard]] Cells cellsOf(int row) const;
   [[nodiscard]] Words words() const;
 
@@ -60,14 +60,14 @@ class History {
   platform::Grid& grid_;
   model::SharedState& state_;
   std::array<platform::Property<std::string>*, 5> captions_;
-  std::vector<Cells> shadow_;  // the grid's texts as they were before the change being noted
-  Words said_;                 // as they were before the open step
-  Words saying_;               // as they are
+  std::vector<Cells> shadow_;  // the grid's texts as they were before the change being recorded
+  Words wordsBefore_;          // as they were before the open step
+  Words wordsNow_;             // as they are
   Changes open_;
   std::uint64_t action_ = 0;  // who makes the open step
   std::deque<Step> undo_;
   std::deque<Step> redo_;
-  bool playing_ = false;
+  bool replaying_ = false;
 };
 
 }  // namespace editor

@@ -46,8 +46,8 @@ void Lines::creerSeance() {
     grid_.setColumnWidth(column::cycleName, inCycleMode(editor_) ? model::cycleColumnWidth : 0);
     editor_.MyButton3.caption = "Créer un Cycle";
     if (model::lastRowUnfinished(grid_)) {
-      refuseUnfinished("Vous voulez Créer une Nouvelle (Séance), mais l'Actuelle n'est pas Terminée...!",
-                       "Vous devez finir celle en cours...");
+      showRefusal("Vous voulez Créer une Nouvelle (Séance), mais l'Actuelle n'est pas Terminée...!",
+                  "Vous devez finir celle en cours...");
       return;
     }
   }
@@ -92,7 +92,7 @@ void Lines::viderListe() {
   creerSeance();
 }
 
-void Lines::refuseUnfinished(const std::string& text, const std::string& title) {
+void Lines::showRefusal(const std::string& text, const std::string& title) {
   context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, title, text});
 }
@@ -101,8 +101,8 @@ void Lines::refuseAddition() {
   editor_.Label24.visible = false;
   editor_.Label23.caption =
       "Pour Ajouter une Nouvelle Séquence à votre Liste, vous devez d'abord finir celle en cours.";
-  refuseUnfinished("Vous voulez Ajouter une Nouvelle (Séquence), mais l'Actuelle n'est pas Terminée...!",
-                   "Données Manquantes...");
+  showRefusal("Vous voulez Ajouter une Nouvelle (Séquence), mais l'Actuelle n'est pas Terminée...!",
+              "Données Manquantes...");
 }
 
 bool Lines::announcementMissing() const {
@@ -203,7 +203,7 @@ void Lines::supprimerLigne() {
   preambule();
   if (grid_.selectedRow() == 0) return;
   if (grid_.selectedRow() == 1) {
-    refuseUnfinished("La Première ligne ne peut pas être Supprimée...!", "Suppression de Ligne...");
+    showRefusal("La Première ligne ne peut pas être Supprimée...!", "Suppression de Ligne...");
     return;
   }
   const int row = grid_.selectedRow();

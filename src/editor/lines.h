@@ -25,7 +25,7 @@ class Lines {
  private:
   void buildList();
   void showTotalTitle();
-  void refuseUnfinished(const std::string& text, const std::string& title);
+  void showRefusal(const std::string& text, const std::string& title);
   void refuseAddition();
   [[nodiscard]] bool announcementMissing() const;
   [[nodiscard]] bool lastRowClosed() const;

@@ -38,7 +38,7 @@ void Page::open() {
   calculator_.lireAuChargement();
   editor_.MyButton2.click();
   calculator_.finirChargement();
-  history_.forget();
+  history_.clear();
 }
 
 void Page::listFiles() {

@@ -74,7 +74,7 @@ void SessionFiles::add(const std::string& chosen) {
       "Ventoria avec (" + *name + ") (Durée : " + model::formatTime(state_.dureeTotale) + ")";
   const std::optional<std::string> path = presentVersion(chosen);
   if (!path) return;
-  tellMissing(*path, model::ajouterSeance(context_.outside.files, *path, editor_.ListView1));
+  reportMissingRows(*path, model::ajouterSeance(context_.outside.files, *path, editor_.ListView1));
   editor_.Timer4.enabled = true;
   voice_.attendre(1);
   recalerColonnes(editor_);
@@ -82,7 +82,7 @@ void SessionFiles::add(const std::string& chosen) {
 }
 
 // A file that was cut short: its blank rows stand in the list, red, to be filled or taken away.
-void SessionFiles::tellMissing(const std::string& path, const model::FoundSequences& sequences) {
+void SessionFiles::reportMissingRows(const std::string& path, const model::FoundSequences& sequences) {
   if (sequences.found == sequences.announced) return;
   context_.outside.dialogs.message(
       {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Fichier Incomplet...",

@@ -27,7 +27,7 @@ class SessionFiles {
   [[nodiscard]] std::optional<std::string> presentVersion(std::string path);
   // The path to save under; none where the rider cancels.
   [[nodiscard]] std::optional<std::string> askPath();
-  void tellMissing(const std::string& path, const model::FoundSequences& sequences);
+  void reportMissingRows(const std::string& path, const model::FoundSequences& sequences);
   void write(const std::string& path);
 
   context::Context context_;

@@ -20,7 +20,7 @@ class HistoryTest : public testing::Test, protected support::Rig {
     screens.editor.load();
     for (auto& made : model::gridColumns(false)) grid_.addColumn(made);
     grid_.addRow(model::firstRow());
-    history_.forget();
+    history_.clear();
   }
   Texts texts() const {
     Texts all;
@@ -90,7 +90,7 @@ TEST_F(HistoryTest, AStepIsWhatOneActionChangesHoweverLongItTakes) {
     grid_.addRow(model::firstRow());
     grid_.addRow(blankRow(2));
     advance(2);
-    history_.forget();
+    history_.clear();
     loop.guard(action);
     advance(60);
     EXPECT_EQ(screens.editor.mnUndo.enabled, step) << what;
