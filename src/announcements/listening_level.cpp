@@ -22,7 +22,7 @@ ListeningLevel::ListeningLevel(const context::Context& context)
     : page_(context.screens.announcements), output_(context.outside.level) {
   page_.VScroll1.change.handle(
       [this] { page_.MyFrame2.caption = "Volume " + std::to_string(page_.VScroll1.value - 1); });
-  page_.VScroll1.scroll.handle([this] { movedByHand(); });
+  page_.VScroll1.scroll.handle([this] { stopFades(); });
   page_.MyButton1.click.handle([this] { fadeOut(); });
   page_.MyButton2.click.handle([this] { fadeIn(); });
   page_.HScroll3.change.handle([this] {
@@ -37,7 +37,7 @@ ListeningLevel::ListeningLevel(const context::Context& context)
 }
 
 void ListeningLevel::makeReady() {
-  movedByHand();
+  stopFades();
   page_.VScroll1.value = usualListeningLevel;
 }
 
@@ -52,7 +52,7 @@ void ListeningLevel::apply() {
   output_.set(static_cast<std::uint16_t>(both & 0xFFFF), static_cast<std::uint16_t>(both >> 16));
 }
 
-void ListeningLevel::movedByHand() {
+void ListeningLevel::stopFades() {
   page_.Timer5.enabled = false;
   page_.Timer6.enabled = false;
   page_.MyButton1.enabled = true;

@@ -15,7 +15,7 @@ class ListeningLevel {
 
  private:
   void apply();
-  void movedByHand();
+  void stopFades();
   void fadeOut();
   void fadeIn();
   void fadeStep(platform::Timer& timer, int step, int last);

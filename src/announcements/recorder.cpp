@@ -43,13 +43,13 @@ Recorder::Recorder(const context::Context& context, voice::Voice& voice)
   page_.Command4.click.handle([this] { listen(); });
   page_.MyButton7.click.handle([this] { leave(); });
   page_.Timer1.tick.handle([this] { watch(); });
-  page_.Timer3.tick.handle([this] { keepLimit(); });
+  page_.Timer3.tick.handle([this] { enforceTimeLimit(); });
   page_.Timer7.tick.handle([this] { ++secondesEnregistrees_; });
   page_.Timer8.tick.handle([this] { countListening(); });
 }
 
 void Recorder::makeReady() {
-  rest();
+  resetToIdle();
   page_.Command2.enabled = true;
   page_.MyButton10.enabled = true;
   send("close all");
@@ -57,7 +57,7 @@ void Recorder::makeReady() {
 }
 
 // No take is left to listen to or to save, whatever was under way.
-void Recorder::rest() {
+void Recorder::resetToIdle() {
   ++take_;
   page_.Command2.caption = recordCaption;
   page_.Command3.caption = stopCaption;
@@ -81,7 +81,7 @@ void Recorder::leave() {
   send("close all");
   if (!page_.Command2.enabled) page_.MyButton10.enabled = true;  // a take was under way
   page_.Command2.enabled = true;
-  rest();
+  resetToIdle();
   page_.hide();
   context_.screens.main.show();
 }
@@ -124,7 +124,7 @@ void Recorder::watch() {
   page_.Command5.click();
 }
 
-void Recorder::keepLimit() {
+void Recorder::enforceTimeLimit() {
   const auto seconds = std::chrono::floor<std::chrono::seconds>(context_.loop.clock().now() - heureDebut_);
   const auto n = seconds.count();
   page_.Label14.caption = "Durée de l'Annonce (" + (n == 0 ? "" : std::to_string(n)) + " secondes)";
@@ -133,7 +133,7 @@ void Recorder::keepLimit() {
   if (stop()) playBackOnce();
 }
 
-bool Recorder::takeOutlastsWait() {
+bool Recorder::waitWithSameTake() {
   const unsigned take = take_;
   voice_.attendre(1);
   return take == take_;
@@ -144,7 +144,7 @@ bool Recorder::stop() {
   page_.Timer7.enabled = false;
   send("stop capture");
   page_.Timer3.enabled = false;
-  if (!takeOutlastsWait()) return false;
+  if (!waitWithSameTake()) return false;
   page_.Label1.caption = readyStatus;
   page_.Command1.enabled = true;
   page_.Command4.enabled = true;
@@ -158,7 +158,7 @@ bool Recorder::stop() {
 }
 
 bool Recorder::playBackOnce() {
-  if (!takeOutlastsWait()) return false;
+  if (!waitWithSameTake()) return false;
   if (ecouteApresArret_ != "oui") return true;
   page_.Command4.click();
   ecouteApresArret_ = "";

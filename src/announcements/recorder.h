@@ -21,11 +21,11 @@ class Recorder {
   void recordOverMusic();
   void demarrerCapture();
   void watch();
-  void keepLimit();
-  void rest();
+  void enforceTimeLimit();
+  void resetToIdle();
   void leave();
   // These wait. False: meanwhile another take was begun or the device closed, and the rest is not to be done.
-  bool takeOutlastsWait();
+  bool waitWithSameTake();
   bool stop();
   bool playBackOnce();
   void listen();

@@ -60,7 +60,7 @@ void StoredAnnouncements::ouvrir() {
   if (context_.outside.files.exists(path)) {
     send("stop " + alias);
     send("close " + alias);
-    if (!lireAnnonce()) tellWhyNot(path);
+    if (!lireAnnonce()) showOpenFailure(path);
   }
   page_.VScroll1.focus();
   page_.Command7.enabled = false;
@@ -68,7 +68,7 @@ void StoredAnnouncements::ouvrir() {
 }
 
 // The player does not say what it misses: the disk does, or else it is the file's own fault.
-void StoredAnnouncements::tellWhyNot(const std::string& path) {
+void StoredAnnouncements::showOpenFailure(const std::string& path) {
   std::string title = "ERR #75";
   std::string text;
   try {

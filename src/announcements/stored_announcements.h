@@ -20,7 +20,7 @@ class StoredAnnouncements {
  private:
   void ouvrir();
   bool lireAnnonce();  // false: it does not open
-  void tellWhyNot(const std::string& path);
+  void showOpenFailure(const std::string& path);
   void follow();
   void play();
   void pause();

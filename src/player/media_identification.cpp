@@ -99,7 +99,7 @@ Found scanAsf(Bytes& bytes, std::uint64_t fileSize) {
   return {"", 0, 0};
 }
 
-Found look(RandomFile& file, const std::string& typeMedia) {
+Found inspect(RandomFile& file, const std::string& typeMedia) {
   static constexpr std::array<std::string_view, 10> sounds{"mp3", "mp2", "mp1", "wav", "mid",
                                                            "xmi", "rmi", "au",  "voc", "wma"};
   Bytes bytes(file);
@@ -112,7 +112,7 @@ Found look(RandomFile& file, const std::string& typeMedia) {
 }
 
 // The two last numbers of the device's answer.
-void takeSize(std::string answer, Found& found) {
+void readSize(std::string answer, Found& found) {
   answer = platform::trim(answer.substr(0, answer.find('\0')));
   if (answer.size() <= 1) return;
   const std::size_t last = answer.rfind(' ');
@@ -157,8 +157,8 @@ std::string typeParContenu(platform::FileSystem& files, const std::string& path)
 Identification identifierMedia(platform::FileSystem& files, const std::string& path,
                                const std::function<std::string()>& askDevice) {
   const std::string typeMedia = typeParContenu(files, path);
-  Found found = look(*files.open(path, platform::OpenMode::Read), typeMedia);
-  if (found.width < 2 && found.height < 2) takeSize(askDevice(), found);
+  Found found = inspect(*files.open(path, platform::OpenMode::Read), typeMedia);
+  if (found.width < 2 && found.height < 2) readSize(askDevice(), found);
   const std::string code = found.codeFormat.substr(0, found.codeFormat.find('\0'));
   return {found.width, found.height,
           code + " [" + std::to_string(found.width) + "x" + std::to_string(found.height) + "]"};

@@ -9,7 +9,7 @@ constexpr int boxHeight = 3750;
 
 }  // namespace
 
-PixelSize fitted(PixelSize native, PixelSize box) {
+PictureSize fitted(PictureSize native, PictureSize box) {
   const double ratio = static_cast<double>(native.width) / native.height;
   const int height = static_cast<int>(box.width / ratio);
   if (height <= box.height) return {box.width, height};
@@ -32,20 +32,20 @@ Placement::Placement(forms::LectMCI& form, Medium& medium) : player_(form), medi
   });
 }
 
-void Placement::sendSize(const char* what, PixelSize size) {
+void Placement::sendSize(const char* what, PictureSize size) {
   medium_.send("put", " " + std::string(what) + " at 0 0 " + std::to_string(size.width) + " " +
                           std::to_string(size.height));
 }
 
 void Placement::placerVideo() {
-  const PixelSize native{medium_.largeurMedia, medium_.hauteurMedia};
-  const PixelSize box{player_.Picture1.width / twipsPerPixel, player_.Picture1.height / twipsPerPixel};
+  const PictureSize native{medium_.largeurMedia, medium_.hauteurMedia};
+  const PictureSize box{player_.Picture1.width / twipsPerPixel, player_.Picture1.height / twipsPerPixel};
   if (!redimensionner_) {
     if (native.width >= 2 && native.height >= 2) sendSize("window", native);
     return;
   }
   if (proportion_ && (native.width < 1 || native.height < 1)) return;
-  const PixelSize size = proportion_ ? fitted(native, box) : box;
+  const PictureSize size = proportion_ ? fitted(native, box) : box;
   sendSize("window", size);
   sendSize("destination", size);
 }
@@ -66,8 +66,8 @@ void Placement::viderImage() {
 
 void Placement::dimensionnerImage() {
   if (image_.width < 1 || image_.height < 1) return;
-  const PixelSize box{player_.Picture1.width, player_.Picture1.height};
-  PixelSize size = image_;
+  const PictureSize box{player_.Picture1.width, player_.Picture1.height};
+  PictureSize size = image_;
   if (player_.Check3.value == 1) size = player_.Check4.value == 1 ? fitted(image_, box) : box;
   player_.AffBMP.width = size.width;
   player_.AffBMP.height = size.height;

@@ -7,13 +7,13 @@
 
 namespace player {
 
-struct PixelSize {
+struct PictureSize {
   int width = 0;
   int height = 0;
 };
 
 // The greatest size of the shape of `native` that fits into the box.
-[[nodiscard]] PixelSize fitted(PixelSize native, PixelSize box);
+[[nodiscard]] PictureSize fitted(PictureSize native, PictureSize box);
 
 class Placement {
  public:
@@ -26,13 +26,13 @@ class Placement {
   void viderImage();
 
  private:
-  void sendSize(const char* what, PixelSize size);
+  void sendSize(const char* what, PictureSize size);
 
   forms::LectMCI& player_;
   Medium& medium_;
   bool redimensionner_ = false;
   bool proportion_ = true;
-  PixelSize image_;  // the still picture's own size, twips
+  PictureSize image_;  // the still picture's own size, twips
 };
 
 }  // namespace player

@@ -115,11 +115,11 @@ TEST(FileInformation, WritesSizesAndAttributes) {
 }
 
 TEST(Placement, FitsIntoTheBox) {
-  const player::PixelSize rows[][3]{{{320, 240}, {333, 250}, {333, 249}},
-                                    {{100, 400}, {333, 250}, {62, 250}},
-                                    {{10, 10}, {30, 60}, {30, 30}}};
+  const player::PictureSize rows[][3]{{{320, 240}, {333, 250}, {333, 249}},
+                                      {{100, 400}, {333, 250}, {62, 250}},
+                                      {{10, 10}, {30, 60}, {30, 30}}};
   for (const auto& [native, box, wanted] : rows) {
-    const player::PixelSize size = player::fitted(native, box);
+    const player::PictureSize size = player::fitted(native, box);
     EXPECT_EQ(std::pair(size.width, size.height), std::pair(wanted.width, wanted.height));
   }
 }
