@@ -67,14 +67,14 @@ void loadALongSession(benchmark::State& state) {
 }
 BENCHMARK(loadALongSession)->Unit(benchmark::kMillisecond)->Iterations(10);
 
-void lookForUnfinishedRows(benchmark::State& state) {
+void checkUnfinishedRows(benchmark::State& state) {
   Composing program(longList);
   for (auto _ : state) {
     touch(program.list());
     program.screens().editor.Timer6.tick();
   }
 }
-BENCHMARK(lookForUnfinishedRows)->Unit(benchmark::kMillisecond);
+BENCHMARK(checkUnfinishedRows)->Unit(benchmark::kMillisecond);
 
 void sumTheTotal(benchmark::State& state) {
   Composing program(longList);

@@ -72,7 +72,7 @@ struct Program::Logic {
 
 namespace {
 
-void tellFault(platform::Dialogs& dialogs, const std::string& text) {
+void showFault(platform::Dialogs& dialogs, const std::string& text) {
   dialogs.message(
       {platform::MessageKind::Critical, platform::MessageButtons::Ok, "Une Erreur est Survenue...", text});
 }
@@ -91,7 +91,7 @@ Program::Program(const platform::Outside& outside, const Setup& setup)
   }
   loop_.onFault([this, observer = setup.faultObserver](const std::string& text) {
     if (observer) observer(text);
-    tellFault(outside_.dialogs, text);
+    showFault(outside_.dialogs, text);
   });
   logic_ = std::make_unique<Logic>(*this, setup);
 }
@@ -103,7 +103,7 @@ bool Program::start() {
     logic_->mainScreen.demarrerProgramme();
     return true;
   } catch (const platform::Fault& fault) {
-    tellFault(outside_.dialogs, fault.what());
+    showFault(outside_.dialogs, fault.what());
     return false;
   }
 }

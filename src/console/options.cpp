@@ -25,7 +25,7 @@ Value oneOf(std::string_view option, const std::string& word,
 }
 
 // Takes a number of exactly that many digits and the mark behind it off the front.
-int taken(std::string_view& text, std::size_t digits, char mark, const std::string& whole) {
+int cutNumber(std::string_view& text, std::size_t digits, char mark, const std::string& whole) {
   int value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + std::min(digits, text.size()), value);
   const bool complete = error == std::errc{} && end == text.data() + digits && value >= 0;
@@ -38,13 +38,13 @@ int taken(std::string_view& text, std::size_t digits, char mark, const std::stri
 platform::LocalTime parseNow(const std::string& whole) {
   const std::string padded = whole.find('.') == std::string::npos ? whole + ".000" : whole;
   std::string_view text = padded;
-  const int year = taken(text, 4, '-', whole);
-  const int month = taken(text, 2, '-', whole);
-  const int day = taken(text, 2, ' ', whole);
-  const int hour = taken(text, 2, ':', whole);
-  const int minute = taken(text, 2, ':', whole);
-  const int second = taken(text, 2, '.', whole);
-  const int milliseconds = taken(text, 3, 0, whole);
+  const int year = cutNumber(text, 4, '-', whole);
+  const int month = cutNumber(text, 2, '-', whole);
+  const int day = cutNumber(text, 2, ' ', whole);
+  const int hour = cutNumber(text, 2, ':', whole);
+  const int minute = cutNumber(text, 2, ':', whole);
+  const int second = cutNumber(text, 2, '.', whole);
+  const int milliseconds = cutNumber(text, 3, 0, whole);
   const std::chrono::year_month_day date{std::chrono::year{year},
                                          std::chrono::month{static_cast<unsigned>(month)},
                                          std::chrono::day{static_cast<unsigned>(day)}};

@@ -59,7 +59,7 @@ class RideDialogs final : public platform::Dialogs {
   RideDialogs(RideScreen& screen, std::string session) : screen_(screen), session_(std::move(session)) {}
 
   platform::Answer message(const platform::Message& message) override {
-    screen_.say(message.title + "\n" + message.text);
+    screen_.printLine(message.title + "\n" + message.text);
     const bool okOffered = message.buttons != platform::MessageButtons::YesNoCancel;
     return okOffered ? platform::Answer::Ok : platform::Answer::Yes;
   }
@@ -77,11 +77,11 @@ class WrittenVoice final : public platform::SoundOutput {
 
   bool hasDevice() override { return true; }
   void play(const platform::SoundClip& clip) override {
-    screen_.say("« " + std::string(clip.spoken.empty() ? clip.name : clip.spoken) + " »");
+    screen_.printLine("« " + std::string(clip.spoken.empty() ? clip.name : clip.spoken) + " »");
     silence_.play(clip);
   }
   void playFile(const std::string& path) override {
-    screen_.say("« " + fs::path(path).filename().string() + " »");
+    screen_.printLine("« " + fs::path(path).filename().string() + " »");
     silence_.playFile(path);
   }
 
@@ -110,16 +110,16 @@ class Ride {
         program_(
             {clock_, voice_, dialogs_, files_, saver_, mediaCommands_, level_, shell_, volume_, printer_},
             {scratch_.folder(), VENTORIA_VERSION, {}}),
-        glance_(static_cast<int>(100 * speed)) {
+        refreshPeriod_(static_cast<int>(100 * speed)) {
     silence_.attach(loop_);
-    loop_.onInput([this] { attend(); });
+    loop_.onInput([this] { handleInput(); });
   }
 
   int run() {
     if (!program_.start() || !load()) return 1;
     bool started = false;
     while (!loop_.quitting()) {
-      loop_.runUntil(clock_.now() + glance_);
+      loop_.runUntil(clock_.now() + refreshPeriod_);
       started = started || main_.Timer1.enabled;
       if (started && ended()) break;
     }
@@ -134,7 +134,7 @@ class Ride {
     press(editor.MyButton4);
     if (!loop_.quitting()) press(editor.MyButton5);
     if (program_.state().nbSequences == 0) {
-      if (!loop_.quitting()) screen_.say("Aucune séquence à parcourir.");
+      if (!loop_.quitting()) screen_.printLine("Aucune séquence à parcourir.");
       return loop_.quitting();
     }
     // The hand-over itself presses Start, which is what readies the countdown.
@@ -159,7 +159,7 @@ class Ride {
   }
 
   // Between events: the keys, Ctrl+C, the screen.
-  void attend() {
+  void handleInput() {
     if (cancelling_) return;
     screen_.show(main_, program_.state());
     for (char key = terminal_.key(); key != 0 && !cancelling_; key = terminal_.key()) {
@@ -195,7 +195,7 @@ class Ride {
   app::Program program_;
   platform::EventLoop& loop_ = program_.loop();
   forms::MainForm& main_ = program_.screens().main;
-  platform::Instant glance_;
+  platform::Instant refreshPeriod_;
   bool cancelling_ = false;
 };
 

@@ -73,7 +73,7 @@ void RideScreen::draw() {
   out_.flush();
 }
 
-void RideScreen::say(const std::string& line) {
+void RideScreen::printLine(const std::string& line) {
   erase();
   out_ << line << '\n';
   if (terminal_.canRedraw()) draw();
@@ -88,7 +88,7 @@ void RideScreen::show(const forms::MainForm& form, const model::SharedState& sta
     // Until its first second has passed, the fields still show the sequence before.
     if (sequence == sequence_ || !form.Timer1.enabled || state.ecouleSequence <= 0) return;
     sequence_ = sequence;
-    say(presentLine(form, state) + "  ·  " + totalsLine(form, state));
+    printLine(presentLine(form, state) + "  ·  " + totalsLine(form, state));
     return;
   }
   const auto width = static_cast<std::size_t>(std::max(10, terminal_.width() - 1));

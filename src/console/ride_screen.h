@@ -17,7 +17,7 @@ class RideScreen {
   RideScreen(const Terminal& terminal, std::ostream& out) : terminal_(terminal), out_(out) {}
 
   // A line that stays, above the redrawn ones.
-  void say(const std::string& line);
+  void printLine(const std::string& line);
   // Draws what has changed.
   void show(const forms::MainForm& form, const model::SharedState& state);
 

@@ -15,7 +15,7 @@ std::string pathInside(const std::string& folder, const std::string& path) {
   return inside.empty() || *inside.begin() == ".." ? path : inside.string();
 }
 
-void SimulatedSound::take(std::span<const unsigned char> wav) {
+void SimulatedSound::letTimePass(std::span<const unsigned char> wav) {
   if (mode_ != SoundMode::Timed || loop_ == nullptr) return;
   const platform::EventLoop::Blocking blocking(*loop_);
   platform::Clock& clock = loop_->clock();
@@ -26,7 +26,7 @@ void SimulatedSound::take(std::span<const unsigned char> wav) {
 void SimulatedSound::play(const platform::SoundClip& clip) {
   if (!hasDevice()) return;
   journal_.write("prompt", {std::to_string(clip.number), clip.name});
-  take(clip.wav);
+  letTimePass(clip.wav);
 }
 
 void SimulatedSound::playFile(const std::string& path) {
@@ -41,7 +41,7 @@ void SimulatedSound::playFile(const std::string& path) {
   } catch (const platform::FileFault&) {
     wav.clear();  // the beep takes no time
   }
-  take(wav);
+  letTimePass(wav);
 }
 
 }  // namespace console

@@ -29,7 +29,7 @@ class SimulatedSound final : public platform::SoundOutput {
   void playFile(const std::string& path) override;
 
  private:
-  void take(std::span<const unsigned char> wav);
+  void letTimePass(std::span<const unsigned char> wav);
 
   SoundMode mode_;
   platform::FileSystem& files_;

@@ -16,7 +16,7 @@ constexpr std::array endingSignals{SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 
 volatile std::sig_atomic_t signalled = 0;  // a handler can reach nothing else
 
-void noteSignal(int) {
+void recordSignal(int) {
   signalled = 1;
 }
 
@@ -28,7 +28,7 @@ struct Terminal::Saved {
 
 Terminal::Terminal() : redraws_(isatty(STDOUT_FILENO) != 0) {
   struct sigaction note {};
-  note.sa_handler = &noteSignal;  // without SA_RESTART, so that a wait ends
+  note.sa_handler = &recordSignal;  // without SA_RESTART, so that a wait ends
   for (const int number : endingSignals) sigaction(number, &note, nullptr);
   auto saved = std::make_unique<Saved>();
   if (tcgetattr(STDIN_FILENO, &saved->mode) != 0) return;

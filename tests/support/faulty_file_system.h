@@ -23,13 +23,13 @@ class FaultyFileSystem final : public platform::FileSystem {
 
   [[nodiscard]] bool exists(const std::string& path) const override { return inner_.exists(path); }
   std::unique_ptr<platform::RandomFile> open(const std::string& path, platform::OpenMode mode) override {
-    meet(Call::Open, "d'ouvrir", path, "accès refusé");
+    failIfDue(Call::Open, "d'ouvrir", path, "accès refusé");
     return std::make_unique<File>(inner_.open(path, mode), [this, path] {
-      meet(Call::Write, "d'écrire dans", path, "espace disque insuffisant");
+      failIfDue(Call::Write, "d'écrire dans", path, "espace disque insuffisant");
     });
   }
   void makeFolder(const std::string& path) override {
-    meet(Call::MakeFolder, "de créer le dossier", path, "accès refusé");
+    failIfDue(Call::MakeFolder, "de créer le dossier", path, "accès refusé");
     inner_.makeFolder(path);
   }
   [[nodiscard]] std::vector<std::string> list(const std::string& folder) const override {
@@ -57,7 +57,7 @@ class FaultyFileSystem final : public platform::FileSystem {
     std::function<void()> beforeWrite_;
   };
 
-  void meet(Call call, const char* action, const std::string& path, const char* reason) {
+  void failIfDue(Call call, const char* action, const std::string& path, const char* reason) {
     if (call != failing_ || left_ < 0) return;
     if (left_ > 0) --left_;
     if (left_ == 0) throw platform::FileFault(action, path, reason);

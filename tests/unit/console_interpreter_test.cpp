@@ -119,19 +119,19 @@ TEST_F(InterpreterTest, APostponedCommandComesInsideAWaitAndBehindASound) {
 
 TEST_F(InterpreterTest, TheHandsRaiseWhatARidersWouldRaise) {
   std::string heard;
-  const auto note = [&](const char* what) { return [&heard, what] { heard += std::string(what) + " "; }; };
-  main_.Check2.click.handle(note("check"));
-  main_.MyButton1.click.handle(note("click"));
-  main_.MyButton1.doubleClick.handle(note("double"));
-  main_.Combo1.click.handle(note("pick"));
-  main_.Combo1.enter.handle(note("enter"));
-  main_.Combo1.validate.handle(note("leave"));
+  const auto record = [&](const char* what) { return [&heard, what] { heard += std::string(what) + " "; }; };
+  main_.Check2.click.handle(record("check"));
+  main_.MyButton1.click.handle(record("click"));
+  main_.MyButton1.doubleClick.handle(record("double"));
+  main_.Combo1.click.handle(record("pick"));
+  main_.Combo1.enter.handle(record("enter"));
+  main_.Combo1.validate.handle(record("leave"));
   main_.Combo1.setLines({"00", "01"});
   main_.Picture1.visible = editor_.File1.visible = true;
   editor_.File1.readThrough([](const std::string&) { return std::vector<std::string>{"a.wav", "b.wav"}; });
   editor_.File1.path = "/";
   editor_.File1.key.handle([&](const std::string& key) { heard += key + " "; });
-  editor_.File1.click.handle(note("file"));
+  editor_.File1.click.handle(record("file"));
   const std::pair<const char*, const char*> cases[]{
       {"tick MainForm.Check2 1", "check "},     {"tick MainForm.Check2 1", ""},
       {"press MainForm.Check2", "check "},      {"double MainForm.MyButton1", "click double "},

@@ -25,14 +25,14 @@ struct Sample : Form {
 TEST(ControlEvents, WritesFromCodeRaiseEventsByTheTable) {
   Sample form;
   std::vector<std::string> raised;
-  const auto note = [&](const char* what) { return [&raised, what] { raised.emplace_back(what); }; };
-  form.button.click.handle(note("button"));
-  form.check.click.handle(note("check"));
-  form.option.click.handle(note("option"));
-  form.combo.click.handle(note("combo"));
-  form.bar.change.handle(note("bar"));
-  form.bar.scroll.handle(note("bar scrolled"));
-  form.box.enter.handle(note("box"));
+  const auto record = [&](const char* what) { return [&raised, what] { raised.emplace_back(what); }; };
+  form.button.click.handle(record("button"));
+  form.check.click.handle(record("check"));
+  form.option.click.handle(record("option"));
+  form.combo.click.handle(record("combo"));
+  form.bar.change.handle(record("bar"));
+  form.bar.scroll.handle(record("bar scrolled"));
+  form.box.enter.handle(record("box"));
   form.combo.setLines({"a", "b"});
   for (int twice = 0; twice < 2; ++twice) {
     form.button.caption = "Stop";
