@@ -12,6 +12,7 @@ class CellEditor {
  public:
   CellEditor(const context::Context& context, heartrate::Calculator& calculator);
 
+ private:
   void cliquerCellule();
   void presserCellule(platform::MouseButton button);
   void placerEditeur();
@@ -20,8 +21,6 @@ class CellEditor {
   // A pick in a duration box, or Enter, or leaving it. What is no entry of its list is never written.
   void validerDuree();
   void ecouterAnnonce();
-
- private:
   void endEditing();
   void finishDuration();
   [[nodiscard]] bool durationOpen() const;

@@ -14,15 +14,15 @@ class Lines {
   // What every command begins with: the cell editors go, a preview stops, the volume dialog closes.
   void preambule();
   void creerSeance();
-  void viderListe();
-  void ajouterSequence();
   // MyButton4 while its caption adds rows and not sessions.
   void ajouterSequenceVariante();
+
+ private:
+  void viderListe();
+  void ajouterSequence();
   void insererLigne();
   void supprimerLigne();
   void basculerCycle();
-
- private:
   void buildList();
   void showTotalTitle();
   void showRefusal(const std::string& text, const std::string& title);

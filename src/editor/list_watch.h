@@ -10,11 +10,10 @@ class ListWatch {
  public:
   explicit ListWatch(const context::Context& context);
 
+ private:
   void calculerTotal();
   void verifierLignes();
   void survolerCellule();
-
- private:
   void markStale(const platform::GridChange& change);
   // Colours every row but the first; how many are not finished.
   [[nodiscard]] int paintRows();

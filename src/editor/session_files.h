@@ -15,10 +15,9 @@ class SessionFiles {
  public:
   SessionFiles(const context::Context& context, voice::Voice& voice, Lines& lines);
 
+ private:
   void ajouterUneSeance();
   void enregistrerListe();
-
- private:
   void prepareAddition();
   void add(const std::string& chosen);
   // MyButton4 and Command5: a session or a row, as the caption says.

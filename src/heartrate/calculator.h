@@ -20,10 +20,8 @@ class Calculator {
   void lireAuChargement() { personal_.lireAuChargement(); }
   void finirChargement();
 
-  void ouvrirCalculateur() { screen_.ouvrirCalculateur(); }
   // A percentage was picked for the sequence of that row, whose cell holds it already: completes the cell.
   void viserCellule(int row, const std::string& pickedText) { column_.viserCellule(row, pickedText); }
-  void recalculerColonneFC() { column_.recalculerColonneFC(); }
 
   [[nodiscard]] const Figures& figures() const { return figures_; }
 

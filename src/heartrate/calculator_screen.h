@@ -12,9 +12,9 @@ class CalculatorScreen {
 
   // The labels of the results lose the texts that they were drawn with.
   void clearDesignTexts();
-  void ouvrirCalculateur();
 
  private:
+  void ouvrirCalculateur();
   void attachInputs();
   void calculerFrequences();
   void choisirMethode();

@@ -15,10 +15,10 @@ class PersonalParameters {
 
   // While the form loads: a file that cannot be read is told to the rider and leaves the figures blank.
   void lireAuChargement();
-  void chargerParPerso();
-  void enregistrerParPerso();
 
  private:
+  void chargerParPerso();
+  void enregistrerParPerso();
   [[nodiscard]] std::string path() const;
   void coupleModes();
   void montrer(const model::PersonalFigures& saved);

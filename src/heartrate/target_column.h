@@ -15,9 +15,9 @@ class TargetColumn {
   TargetColumn(const context::Context& context, Figures& figures);
 
   void viserCellule(int row, const std::string& pickedText);
-  void recalculerColonneFC();
 
  private:
+  void recalculerColonneFC();
   [[nodiscard]] TargetOperands operands() const;
   void choisirMethode();
 

@@ -11,8 +11,7 @@ constexpr int largestSize = 14;      // points
 constexpr int nameWidth = 7000;      // twips
 constexpr int twipsAPointWide = 11;  // of one character in the mean, for each point of its size
 
-}  // namespace
-
+// Shows the name of the chosen piece in the largest size that fits its place.
 void fitName(forms::EnrUneAnnonce& form, const std::string& name) {
   const auto characters = static_cast<int>(platform::length(name));
   const auto measure = [&](int size) {
@@ -25,6 +24,8 @@ void fitName(forms::EnrUneAnnonce& form, const std::string& name) {
   form.Label23.size = form.Label26.size;
   form.Label6.size = form.Label26.size;
 }
+
+}  // namespace
 
 SelectionPlayer::SelectionPlayer(const context::Context& context, SelectionList& list, Selection& selection)
     : context_(context), library_(context.screens.announcements), list_(list), selection_(selection) {

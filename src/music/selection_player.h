@@ -25,7 +25,4 @@ class SelectionPlayer {
   Selection& selection_;
 };
 
-// The name of the chosen piece in the largest size that lets it fit its place.
-void fitName(forms::EnrUneAnnonce& form, const std::string& name);
-
 }  // namespace music

@@ -11,12 +11,11 @@ class Chrono {
  public:
   Chrono(const context::Context& context, Advance& advance, RideWaits& waits);
 
+ private:
   void tickChrono();
   void tickSurveillance();
   void tickPanneau();
   void tickEcranVeille();
-
- private:
   void showTarget();
   void countTotal();
   void count();

@@ -11,11 +11,10 @@ class Countdown {
  public:
   Countdown(const context::Context& context, voice::Voice& voice, Advance& advance);
 
+ private:
   void lancerCompteRebours();
   void tickCompteRebours();
   void basculerPause();
-
- private:
   [[nodiscard]] bool somethingRuns() const;
   void leaveFrame();
   void chooseLength();

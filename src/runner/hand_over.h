@@ -10,9 +10,8 @@ class HandOver {
  public:
   HandOver(const context::Context& context, RideWaits& waits);
 
-  void validerSeance();
-
  private:
+  void validerSeance();
   // Tells the rider of the first row that would bring a text that is no duration into the plan, and shows it.
   [[nodiscard]] bool refuseWrongDuration();
   void prepareOtherForms();

@@ -16,9 +16,9 @@ class MainScreen {
 
   // A platform::FileFault where one of the program's folders cannot be made.
   void demarrerProgramme();
-  void quitterProgramme();
 
  private:
+  void quitterProgramme();
   void makeFolders();
   void fillLists();
   void connectMenus();

@@ -12,10 +12,9 @@ class Reset {
  public:
   Reset(const context::Context& context, voice::Voice& voice, RideWaits& waits);
 
+ private:
   void annulerSeance();
   void boutonStart();
-
- private:
   void startManualChrono();
 
   context::Context context_;

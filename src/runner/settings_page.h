@@ -16,13 +16,13 @@ class SettingsPage {
 
   // At start-up: reads the file, or makes it.
   void lireOuCreer();
-  void lireParametres();
-  void parametresParDefaut();
-  void enregistrerParametres();
   // Opens the page over the time boxes.
   void ouvrir();
 
  private:
+  void lireParametres();
+  void parametresParDefaut();
+  void enregistrerParametres();
   void coupleBoxes();
   void close();
   void setAnnouncements(int value);

@@ -17,11 +17,6 @@ class Voice {
         main_(context.screens.main),
         player_(context.screens.player) {}
 
-  // Replaces the name in `sonDemande` by its number; a name that is not in the bank stays.
-  void nommerSon();
-  // Plays what `sonDemande` asks for and returns at its end; no event is served meanwhile. A name that is
-  // not in the bank repeats the sound before it.
-  void jouerSon();
   // Plays a personal announcement from the announcements' folder, without any test.
   void jouerAnnonce(const std::string& fileName);
   // Serves events for `seconds`, counted from the present time of day rounded to the whole second: it lasts
@@ -39,6 +34,11 @@ class Voice {
   void dire(const std::string& name);
 
  private:
+  // Replaces the name in `sonDemande` by its number; a name that is not in the bank stays.
+  void nommerSon();
+  // Plays what `sonDemande` asks for and returns at its end; no event is served meanwhile. A name that is
+  // not in the bank repeats the sound before it.
+  void jouerSon();
   [[nodiscard]] bool musiqueCede() const { return main_.Check10.value == 1 && forms::musicLoaded(player_); }
 
   model::SharedState& state_;
