@@ -118,9 +118,9 @@ void Recorder::demarrerCapture() {
 }
 
 void Recorder::watch() {
-  etatCapture_ = statusOf(send("status capture mode"));
-  page_.Label1.caption = " " + etatCapture_;
-  if (etatCapture_ == takeEnded && stop()) page_.Timer1.enabled = false;
+  const std::string etatCapture = statusOf(send("status capture mode"));
+  page_.Label1.caption = " " + etatCapture;
+  if (etatCapture == takeEnded && stop()) page_.Timer1.enabled = false;
   page_.Command5.click();
 }
 

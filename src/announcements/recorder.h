@@ -39,7 +39,6 @@ class Recorder {
   int secondesEnregistrees_ = 0;  // since the last press of Command2
   int secondesEcoutees_ = 0;      // since listening began
   std::string ecouteApresArret_;  // "oui" until the first stop has played the take back
-  std::string etatCapture_;       // last status word
   platform::Instant heureDebut_{0};
   unsigned take_ = 0;  // another one for each take, and for none
 };

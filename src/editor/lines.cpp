@@ -29,7 +29,6 @@ Lines::Lines(const context::Context& context)
 
 void Lines::preambule() {
   editor_.Command1.click();
-  dernierClic_ = "onclic";
   if (forms::musicLoaded(context_.screens.player)) context_.screens.player.Timer3.enabled = true;
   forms::showMusicStopped(context_.screens.main);
   if (context_.screens.volume.visible) context_.screens.volume.unload();
@@ -54,7 +53,6 @@ void Lines::creerSeance() {
   editor_.Timer1.enabled = false;
   editor_.Combo1.visible = false;
   editor_.Label9.caption = "Création d'une Séance d'Entraînement";
-  compteLignes_ = 0;
   buildList();
   editor_.Timer3.enabled = false;
   editor_.Picture2.visible = false;
@@ -145,11 +143,11 @@ void Lines::ajouterSequence() {
 
 // A name that came from a file is lost as soon as a row is added by hand.
 void Lines::forgetNameForOwnRows() {
-  compteLignes_ = 0;
+  int compteLignes = 0;
   for (int row = 2; row <= grid_.rowCount(); ++row) {
-    if (!grid_.text(row, column::sessionName).starts_with(model::noMeaning)) ++compteLignes_;
+    if (!grid_.text(row, column::sessionName).starts_with(model::noMeaning)) ++compteLignes;
   }
-  if (compteLignes_ == 0) return;
+  if (compteLignes == 0) return;
   state_.seanceTitre = model::untitledSession;
   editor_.Label8.caption = std::string(model::untitledSession);
   main_.MyFrame1.caption = "Ventoria";
@@ -170,7 +168,6 @@ void Lines::ajouterSequenceVariante() {
     refuseAddition();
     return;
   }
-  ++compteLignes_;
   appendBlankRow(model::rowStyle::finished);
   recalerColonnes(editor_);
 }
@@ -208,12 +205,9 @@ void Lines::supprimerLigne() {
   }
   const int row = grid_.selectedRow();
   grid_.removeRow(row);
-  --compteLignes_;
   if (grid_.text(grid_.rowCount(), column::sessionName).starts_with(model::noMeaning)) {
     grid_.removeRow(grid_.rowCount());
-    --compteLignes_;
   }
-  compteLignes_ = std::max(compteLignes_, 0);
   grid_.select(std::min(row, grid_.rowCount()));
   grid_.reveal(grid_.selectedRow());
   grid_.focus();

@@ -37,8 +37,6 @@ class Lines {
   platform::Grid& grid_;
   forms::MainForm& main_;
   model::SharedState& state_;
-  int compteLignes_ = 0;
-  std::string dernierClic_;
 };
 
 }  // namespace editor

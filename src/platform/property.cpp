@@ -46,12 +46,6 @@ std::optional<Prop> propertyByName(std::string_view name) {
   return found->prop;
 }
 
-std::string propertyNames() {
-  std::string all;
-  for (const PropName& n : names) all.append(all.empty() ? "" : ", ").append(n.name);
-  return all;
-}
-
 std::string toText(const std::string& value) {
   return value;
 }

@@ -36,7 +36,6 @@ enum class Prop : std::uint8_t {
 
 [[nodiscard]] std::string_view propertyName(Prop prop);
 [[nodiscard]] std::optional<Prop> propertyByName(std::string_view name);
-[[nodiscard]] std::string propertyNames();
 
 // A text colour; `automatic` is the front's own.
 struct Colour {

@@ -20,16 +20,12 @@ class Medium {
   int largeurMedia = 0;  // the picture's own size
   int hauteurMedia = 0;
   std::string infoMedia;  // its code and size
-  std::string derniereCommande;
 
   // Sends `verb`, the alias and the rest; the answer.
   std::string send(const std::string& verb, const std::string& rest = {}) {
     return sendWhole(verb + " " + alias + rest);
   }
-  std::string sendWhole(const std::string& command) {
-    derniereCommande = command;
-    return media_.send(derniereCommande);
-  }
+  std::string sendWhole(const std::string& command) { return media_.send(command); }
 
  private:
   platform::MediaCommands& media_;

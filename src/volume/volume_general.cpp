@@ -119,8 +119,7 @@ void VolumeGeneral::showVolume() {
   dialog_.VScroll1.value = percent;
   context_.screens.announcements.VScroll2.value = percent;
   dialog_.Lbl_Volume.caption = std::to_string(percent) + " %";
-  volumeAffiche_ = std::to_string(percent);
-  main_.Label38.caption = "Volume Actuel (" + volumeAffiche_ + "%)";
+  main_.Label38.caption = "Volume Actuel (" + std::to_string(percent) + "%)";
   const Advice& advice = adviceFor(percent);
   main_.Label36.caption = advice.text;
   main_.Label36.colour = advice.colour;

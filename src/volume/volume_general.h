@@ -27,7 +27,6 @@ class VolumeGeneral {
   forms::MainForm& main_;
   std::optional<clsAfMasterVolume> master_;  // made at first use, dropped at load and unload
   int etatMuet_ = 0;
-  std::string volumeAffiche_;
   bool noticed_ = false;
 };
 
