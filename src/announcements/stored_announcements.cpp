@@ -9,16 +9,11 @@ namespace {
 
 constexpr const char* nothingOpened = "Lire une Annonce Enregistrée";
 
-std::string padded(long long value, std::size_t digits) {
-  std::string text = std::to_string(value);
-  return text.size() < digits ? std::string(digits - text.size(), '0') + text : text;
-}
-
 // hh:mm:ss.mmm
 std::string formatTemps(double milliseconds) {
   const auto ms = static_cast<long long>(milliseconds);
-  return padded(ms / 3600000, 2) + ":" + padded(ms / 60000 % 60, 2) + ":" + padded(ms / 1000 % 60, 2) + "." +
-         padded(ms % 1000, 3);
+  return platform::zeroPadded(ms / 3600000, 2) + ":" + platform::zeroPadded(ms / 60000 % 60, 2) + ":" +
+         platform::zeroPadded(ms / 1000 % 60, 2) + "." + platform::zeroPadded(ms % 1000, 3);
 }
 
 void enable(std::initializer_list<platform::Button*> buttons, bool on) {

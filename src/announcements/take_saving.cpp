@@ -9,10 +9,6 @@ namespace {
 
 constexpr std::string_view extension = ".wav";
 
-std::string twoDigits(long value) {
-  return (value < 10 ? "0" : "") + std::to_string(value);
-}
-
 }  // namespace
 
 TakeSaving::TakeSaving(const context::Context& context)
@@ -26,10 +22,10 @@ std::string TakeSaving::proposedName() const {
   const auto midnight = std::chrono::floor<std::chrono::days>(now);
   const std::chrono::year_month_day day{midnight};
   const std::chrono::hh_mm_ss time{now - midnight};
-  return "Annonce du " + twoDigits(static_cast<long>(unsigned{day.day()})) + " " +
-         twoDigits(static_cast<long>(unsigned{day.month()})) + " " + twoDigits(int{day.year()} % 100) +
-         " à " + twoDigits(time.hours().count()) + " " + twoDigits(time.minutes().count()) + " " +
-         twoDigits(static_cast<long>(time.seconds().count()));
+  const auto twoDigits = [](long long number) { return platform::zeroPadded(number, 2); };
+  return "Annonce du " + twoDigits(unsigned{day.day()}) + " " + twoDigits(unsigned{day.month()}) + " " +
+         twoDigits(int{day.year()} % 100) + " à " + twoDigits(time.hours().count()) + " " +
+         twoDigits(time.minutes().count()) + " " + twoDigits(static_cast<long long>(time.seconds().count()));
 }
 
 std::string TakeSaving::pathOf(const std::string& name) const {

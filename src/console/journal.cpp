@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "console/escaping.h"
+#include "platform/text.h"
 
 namespace console {
 
 std::string secondsText(platform::Instant instant) {
-  const std::string fraction = std::to_string(instant.count() % 1000);
-  return std::to_string(instant.count() / 1000) + "." + std::string(3 - fraction.size(), '0') + fraction;
+  return std::to_string(instant.count() / 1000) + "." + platform::zeroPadded(instant.count() % 1000, 3);
 }
 
 const std::vector<std::string>& Journal::kinds() {

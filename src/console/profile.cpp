@@ -10,8 +10,6 @@
 namespace console {
 namespace {
 
-constexpr double secondsADay = 86400;
-
 struct Step {
   int ends;  // seconds from the start of the pass
   int height;
@@ -51,7 +49,7 @@ Profile profileOf(const model::SharedState& state, int width) {
   if (state.plan.sequenceCourante < 1 || state.plan.sequenceCourante > rows) return profile;
   const auto current = static_cast<std::size_t>(state.plan.sequenceCourante);
   const double before = current == 1 ? 0 : steps[current - 2].ends;
-  const double ridden = before + state.ecouleSequence * secondsADay;
+  const double ridden = before + state.ecouleSequence * model::secondsADay;
   profile.place = std::clamp(static_cast<int>(ridden / total * width), 0, width - 1);
   return profile;
 }

@@ -11,7 +11,6 @@ namespace {
 
 namespace column = model::column;
 
-constexpr int secondsADay = 86400;
 constexpr int warningShown = 3000;   // ms
 constexpr int warningHidden = 500;   // ms
 constexpr int characterWidth = 110;  // twips that a character takes on the average
@@ -46,7 +45,7 @@ void ListWatch::calculerTotal() {
     const std::string& duration = grid_.text(row, column::duration);
     if (duration == model::noMeaning || duration.empty()) continue;
     if (const std::optional<int> seconds = model::parseSeconds(duration))
-      sum = (sum + *seconds) % secondsADay;
+      sum = (sum + *seconds) % model::secondsADay;
   }
   const int times = model::lenientInteger(grid_.text(1, column::times));
   grid_.setText(1, column::duration,

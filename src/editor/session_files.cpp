@@ -3,22 +3,20 @@
 #include "editor/layout.h"
 #include "model/grid_rows.h"
 #include "platform/fault.h"
+#include "platform/text.h"
 
 namespace editor {
 namespace {
 
 constexpr const char* sessionFilter = "Fichiers (Séances)|*.tq2";
 
-std::string twoDigits(long value) {
-  return (value < 10 ? "0" : "") + std::to_string(value);
-}
-
 // "hh mm ss"
 std::string timeOfDay(const platform::Clock& clock) {
   const platform::LocalTime now = clock.localTime();
   const std::chrono::hh_mm_ss parts{now - std::chrono::floor<std::chrono::days>(now)};
-  return twoDigits(parts.hours().count()) + " " + twoDigits(parts.minutes().count()) + " " +
-         twoDigits(static_cast<long>(parts.seconds().count()));
+  return platform::zeroPadded(parts.hours().count(), 2) + " " +
+         platform::zeroPadded(parts.minutes().count(), 2) + " " +
+         platform::zeroPadded(static_cast<long long>(parts.seconds().count()), 2);
 }
 
 }  // namespace

@@ -9,8 +9,6 @@
 namespace model {
 namespace {
 
-constexpr int secondsADay = 86400;
-
 // Reads one or two digits at the front and takes them away; -1 where there are none.
 int cutTwoDigits(std::string_view& text) {
   int value = -1;

@@ -13,6 +13,8 @@ namespace model {
 
 using TimeValue = double;  // days
 
+inline constexpr int secondsADay = 86400;
+
 // "H:M" or "H:M:S" under 24 hours, blanks around it ignored.
 [[nodiscard]] std::optional<TimeValue> parseTime(std::string_view text);
 // The same; a platform::Fault where the text is no time.

@@ -1,5 +1,7 @@
 #include "model/vocabulary.h"
 
+#include "platform/text.h"
+
 namespace model {
 namespace {
 
@@ -75,7 +77,7 @@ const std::vector<std::string>& targetPercents() {
 
 std::vector<std::string> twoDigits(int last) {
   std::vector<std::string> list;
-  for (int n = 0; n <= last; ++n) list.push_back((n < 10 ? "0" : "") + std::to_string(n));
+  for (int n = 0; n <= last; ++n) list.push_back(platform::zeroPadded(n, 2));
   return list;
 }
 

@@ -1,4 +1,4 @@
-// What the surroundings tell the program by name.
+// The environment variables of the process.
 #pragma once
 
 #include <cstdlib>
@@ -6,7 +6,7 @@
 
 namespace platform {
 
-// Empty where it is not set.
+// Empty where the variable is not set.
 [[nodiscard]] inline std::string environmentVariable(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? std::string() : std::string(value);

@@ -78,6 +78,11 @@ std::vector<std::string> split(std::string_view text, char separator) {
   }
 }
 
+std::string zeroPadded(long long number, std::size_t digits) {
+  const std::string text = std::to_string(number);
+  return std::string(digits - std::min(digits, text.size()), '0') + text;
+}
+
 std::string lowerAscii(std::string_view text) {
   std::string lower(text);
   std::transform(lower.begin(), lower.end(), lower.begin(),

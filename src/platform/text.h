@@ -18,6 +18,8 @@ namespace platform {
 // Without blanks (0x20 only) at both ends.
 [[nodiscard]] std::string trim(std::string_view text);
 [[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);
+// A number that is not negative, with zeros in front up to that many digits.
+[[nodiscard]] std::string zeroPadded(long long number, std::size_t digits);
 // ASCII letters to lower case; everything else as it stands.
 [[nodiscard]] std::string lowerAscii(std::string_view text);
 // Whether a file name fits a list of patterns such as "*.mp3;*.wma", letters' case aside.

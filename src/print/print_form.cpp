@@ -8,6 +8,7 @@
 #include "model/grid_rows.h"
 #include "model/time_value.h"
 #include "platform/fault.h"
+#include "platform/text.h"
 
 namespace print {
 namespace {
@@ -44,15 +45,11 @@ int stepsTo(int last, int step) {
   return (last + step - 1) / step;
 }
 
-std::string twoDigits(unsigned number) {
-  return (number < 10 ? "0" : "") + std::to_string(number);
-}
-
 // "16/11/2026"
 std::string dateOf(platform::LocalTime now) {
   const std::chrono::year_month_day date{std::chrono::floor<std::chrono::days>(now)};
-  return twoDigits(static_cast<unsigned>(date.day())) + "/" + twoDigits(static_cast<unsigned>(date.month())) +
-         "/" + std::to_string(static_cast<int>(date.year()));
+  return platform::zeroPadded(unsigned{date.day()}, 2) + "/" +
+         platform::zeroPadded(unsigned{date.month()}, 2) + "/" + std::to_string(int{date.year()});
 }
 
 std::string timeOf(platform::LocalTime now) {

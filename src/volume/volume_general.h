@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 #include "context/context.h"
 #include "volume/cls_af_master_volume.h"
