@@ -50,7 +50,7 @@ constexpr std::array<KindFamily, 29> kinds{{
 
 constexpr std::array<int, 8> ownHeights{35, 55, 75, 90, 75, 30, 45, 0};
 
-// The number before the last " %", behind the beats' dash.
+// The percentage of a target such as "132-75 %"; 0 where there is none.
 int percentOf(std::string_view target) {
   const std::size_t dash = target.rfind('-');
   if (dash == std::string_view::npos || !target.ends_with('%')) return 0;

@@ -59,13 +59,13 @@ struct SequenceTexts {
 // A row without a sequence: the announcement of a repeat, or the end of a list.
 [[nodiscard]] std::vector<std::string> closingRow(int number, const std::string& sessionName);
 
-// The short test of a last row: its kind or its duration is not chosen yet. An empty grid has none such.
+// Whether the last row's kind or duration is not chosen yet; false for an empty grid.
 [[nodiscard]] bool lastRowUnfinished(const platform::Grid& grid);
-// The full test that paints a row red.
+// Whether the row lacks something that a ride needs: such rows are shown in red.
 [[nodiscard]] bool isUnfinished(const platform::Grid& grid, int row);
 // Whether the row holds a sequence, which the session file keeps.
 [[nodiscard]] bool isSequence(const platform::Grid& grid, int row);
-// Whether a ride takes the row in: a repeat row, the end of a list and a duration not chosen stay behind.
+// Whether the row goes into a ride. Repeat rows, the closing row and rows without a chosen duration do not.
 [[nodiscard]] bool isRidden(const platform::Grid& grid, int row);
 // Whether the row's duration can be ridden: eight characters as the boxes of the duration write them, or the
 // dashes of a spoken row.

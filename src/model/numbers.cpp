@@ -48,7 +48,8 @@ double strictNumber(std::string_view text) {
 
 std::string plainNumber(double value) {
   if (value == 0 || !std::isfinite(value)) return "0";
-  // To fifteen digits, which is what a sum of decimals is good for; then the shortest text of that number.
+  // To fifteen digits, because sums of decimals are not exact beyond them; then the shortest text of that
+  // number.
   std::array<char, 400> text{};
   constexpr int digitsBehindTheFirst = 14;
   const char* end = std::to_chars(text.data(), text.data() + text.size(), value,

@@ -1,4 +1,4 @@
-// Reading and writing numbers as the system's texts have them. Nothing depends on the locale.
+// Reading and writing numbers as the forms and record files hold them. Nothing depends on the locale.
 #pragma once
 
 #include <optional>
@@ -8,20 +8,19 @@
 
 namespace model {
 
-// Lenient: blanks are passed over, leading digits (with a sign, a decimal point) count, anything else gives
-// 0.
+// Lenient: skips blanks and reads the leading digits (with a sign, a decimal point); 0 where there are none.
 [[nodiscard]] double lenientNumber(std::string_view text);
 // The same, cut to a whole number and kept within an int.
 [[nodiscard]] int lenientInteger(std::string_view text);
 // Strict: the whole text, blanks at its ends aside, must be a number; a platform::Fault otherwise.
 [[nodiscard]] double strictNumber(std::string_view text);
-// The plain conversion to text: whole numbers without decimals, others with as few digits as tell them;
-// never an exponent, nor what rounding leaves behind the fifteenth digit.
+// The shortest decimal text of the value rounded to fifteen digits: no exponent, and no decimals on a whole
+// number.
 [[nodiscard]] std::string plainNumber(double value);
 // The format "###" of heart rates: rounded to a whole number, halves away from zero; empty for 0.
 [[nodiscard]] std::string formatBpm(double value);
-// The line that a typed number stands for in a list, "7" being "07" where the list has two digits; none where
-// no line does.
+// The line of a list that equals what was typed; a typed "7" also finds "07". None where there is no such
+// line.
 [[nodiscard]] std::optional<std::string> lineFor(const std::vector<std::string>& lines,
                                                  const std::string& typed);
 

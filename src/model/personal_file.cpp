@@ -23,7 +23,7 @@ constexpr std::array<std::pair<Field, std::string PersonalFigures::*>, 6> figure
 }  // namespace
 
 PersonalFigures readPersonal(platform::FileSystem& files, const std::string& path) {
-  // Figures that may only be read are figures all the same.
+  // An existing file is opened for reading alone, so that one without write permission can be read.
   using enum platform::OpenMode;
   const auto file = files.open(path, files.exists(path) ? Read : ReadWriteCreate);
   Record record(personalWidth);

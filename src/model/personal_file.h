@@ -8,8 +8,8 @@
 
 namespace model {
 
-// The fields as texts without blanks at their ends. What the file lacks is empty: a missing file is made
-// empty, and a text ends at its first character of code 0.
+// The fields as texts without blanks at their ends. A field that the file lacks is empty; a missing file is
+// created. A text ends at its first character of code 0.
 struct PersonalFigures {
   std::string age;            // years; empty in a new file
   std::string sexe;           // "Féminin" or "Masculin"

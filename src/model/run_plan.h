@@ -21,7 +21,7 @@ struct PlanRow {
 };
 
 struct RunPlan {
-  // From row 1; row 0 exists and stays empty, for the ride reads it before the first sequence.
+  // From row 1; row 0 stays empty: the ride reads it before the first sequence.
   std::vector<PlanRow> rows{PlanRow{}};
   int sequenceCourante = 0;  // row being ridden; 0 before the first
 

@@ -13,7 +13,7 @@
 namespace model {
 namespace {
 
-// EnregSeance, and in its first eight fields EnregSeanceAncien.
+// A record's fields; the predecessor's records have the first eight.
 namespace field {
 constexpr Field nbEnreg{"nbEnreg", 0, 15};
 constexpr Field sequence{"sequence", 15, 15};
@@ -37,11 +37,11 @@ constexpr std::size_t oldRecordWidth = 84;
 constexpr std::string_view versionTag = "ver2";
 constexpr std::size_t extensionLength = 4;
 
-// A count above this is no count but damage: no list of a rider comes near, and the rows would fill memory.
+// A larger count means a damaged file: no list comes near it, and its rows would exhaust the memory.
 constexpr int mostRecords = 32767;
 constexpr int mostRows = 200000;
 
-// What a cell's text is in the file, by field; the grid shows exactly what the file holds.
+// Which field holds the text of which column; the grid shows exactly what the file holds.
 struct CellField {
   const Field& field;
   int column;
@@ -78,7 +78,7 @@ SequenceTexts textsOf(const Record& record) {
           record.trimmed(field::freqCard)};
 }
 
-// One pass over the file's sequences: rows numbered 1 to n in the session column. How many were not blank.
+// Appends the file's sequences once, numbered in the session column. Returns how many were not blank.
 int appendPass(platform::RandomFile& file, int nbEnreg, const std::string& name, platform::Grid& grid) {
   Record record(recordWidth);
   int found = 0;
@@ -130,7 +130,7 @@ SessionHeader lireEnTete(platform::FileSystem& files, const std::string& chemin)
 }
 
 std::string convertirAncien(platform::FileSystem& files, const std::string& chemin) {
-  // The blanks keep the work file's name as long as the old one, so that it ends by the same cut.
+  // Three blanks in place of an extension, so that withoutExtension() can cut them off again.
   const std::string base = withoutExtension(chemin);
   const std::string work = base + ".   ";
   std::string target = withoutExtension(work) + ".tq2";
@@ -165,10 +165,10 @@ FoundSequences ajouterSeance(platform::FileSystem& files, const std::string& che
   Record record(recordWidth);
   record.read(*file, 1);
   const SessionHeader header = headerOf(record);
-  // 1 and 2 both give two passes: the count of the header is that of the passes only from 2 on.
+  // A count of 1 gives two passes, too; only from 2 on is the header's count the number of passes.
   const int repeats = header.fois > 1 ? header.fois - 1 : header.fois;
   refuseDamage(header, repeats + 1, chemin);
-  // The first row stays, although its total can read as a duration not chosen yet.
+  // Never the first row, although its total can look like a duration not chosen yet.
   if (grille.rowCount() > 1 && lastRowUnfinished(grille)) grille.removeRow(grille.rowCount());
   FoundSequences sequences{std::max(0, header.nbEnreg - 1), 0};
   for (int pass = 1; pass <= repeats + 1; ++pass) {

@@ -31,8 +31,8 @@ struct FoundSequences {
   int found = 0;      // in the records behind it; the others are blank rows
 };
 
-// Appends the file's sequences as rows, once for each pass, with a closing row behind each pass of a
-// repeated session. A last row that is not finished goes first. What it found in one pass.
+// Appends the file's sequences as rows, once for each pass, with a closing row behind each pass of a repeated
+// session. First removes a last row that is not finished. Returns what one pass found.
 FoundSequences ajouterSeance(platform::FileSystem& files, const std::string& chemin, platform::Grid& grille);
 
 // The session's name: what stands before the first dot of the path's last part; none where it has no dot.

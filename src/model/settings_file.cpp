@@ -20,7 +20,7 @@ constexpr Field boxField(std::size_t index) {
 }  // namespace
 
 std::optional<Settings> readSettings(platform::FileSystem& files, const std::string& path) {
-  // Settings that may only be read are settings all the same.
+  // An existing file is opened for reading alone, so that one without write permission can be read.
   using enum platform::OpenMode;
   const auto file = files.open(path, files.exists(path) ? Read : ReadWriteCreate);
   Record record(settingsWidth);
@@ -31,7 +31,7 @@ std::optional<Settings> readSettings(platform::FileSystem& files, const std::str
     if (i < validatedBoxes && settings.boxes.at(i) > 1) return std::nullopt;
   }
   settings.countdown = record.get(countdownField);
-  // The test is on the character, not on the value: a number above 60 passes.
+  // The code of the first character is tested, not the number: a number above 60 passes.
   if (static_cast<unsigned char>(settings.countdown.front()) > greatestCountdownCode) return std::nullopt;
   return settings;
 }

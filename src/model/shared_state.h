@@ -31,9 +31,10 @@ struct SharedState {
   std::string etatFin;            // "terminer" once a run has ended with the voice off
   int modeAffichageFC = 1;        // how the target is shown: 1 beats, 2 percentage, 3 both in turn
   int alternanceFC = 0;           // in mode 3, which of the two comes next: 1 or 2
-  std::string ecranVeilleActif;   // "oui" when the last look found the screen saver active
+  std::string ecranVeilleActif;   // "oui" if the screen saver was active at the last check
 
-  // The voice: the one slot of every sound, a name and then a number, and the names of a boundary.
+  // The voice: the sound to be played, first as a name, then as its number; and the sound names of the row
+  // that is announced.
   std::variant<std::string, int> sonDemande;
   std::string sonSeance;
   std::string sonNumSequence;
@@ -42,7 +43,7 @@ struct SharedState {
   std::string sonBraquet;
   std::string sonPlateau;
 
-  // The order to the music player: "oui" to go on, "non" to hold, empty when none waits.
+  // The order to the music player: "oui" to go on, "non" to hold, empty when there is none.
   std::string musiqueSuit;
 
   // The music's own state.

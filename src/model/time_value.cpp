@@ -9,7 +9,7 @@
 namespace model {
 namespace {
 
-// Reads one or two digits at the front and takes them away; -1 where there are none.
+// Cuts a number of one or two digits off the front; -1 where there is none.
 int cutTwoDigits(std::string_view& text) {
   int value = -1;
   for (int digits = 0; digits < 2 && !text.empty() && text.front() >= '0' && text.front() <= '9'; ++digits) {
@@ -53,7 +53,7 @@ TimeValue timeValue(std::string_view text) {
 
 std::string formatTime(TimeValue days) {
   const double fraction = std::fabs(std::fmod(days, 1.0));
-  // A hair more, so that a half second goes up whatever the division left in the last binary digits.
+  // A little is added, so that half a second is rounded up even where the division came out slightly too low.
   return formatSeconds(std::llround(fraction * secondsADay + 1e-6));
 }
 

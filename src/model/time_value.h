@@ -22,7 +22,7 @@ inline constexpr int secondsADay = 86400;
 // "hh:nn:ss", rounded to the whole second; whole days are dropped and a negative value shows its distance
 // from midnight.
 [[nodiscard]] std::string formatTime(TimeValue days);
-// Whole seconds of a time text, or none; the quick road for sums over many rows.
+// Whole seconds of a time text, or none; quicker than parseTime for sums over many rows.
 [[nodiscard]] std::optional<int> parseSeconds(std::string_view text);
 // "hh:nn:ss" of a number of seconds, whole days dropped.
 [[nodiscard]] std::string formatSeconds(long long seconds);

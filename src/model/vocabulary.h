@@ -17,7 +17,7 @@ inline constexpr std::string_view endOfList = "----------------";
 inline constexpr std::string_view handMade = "Ajouter Séquence =>";
 inline constexpr std::string_view untitledSession = "Nouvelle Séance d'Essais";
 
-// The lists begin with a blank entry, but for the two of the first row and the times.
+// The choices of a cell. All but the two about repetition begin with a blank entry.
 [[nodiscard]] const std::vector<std::string>& sequenceKinds();
 [[nodiscard]] const std::vector<std::string>& cadences();      // revolutions a minute
 [[nodiscard]] const std::vector<std::string>& chainrings();    // words, then teeth

@@ -26,7 +26,7 @@ void appendUtf8(std::string& text, std::uint32_t code) {
   }
 }
 
-// The code point at the front of `text`, which is shortened by it; a byte that is no UTF-8 counts as 0xFFFD.
+// Cuts the first code point off `text`; a byte that is not UTF-8 counts as 0xFFFD.
 std::uint32_t cutCodePoint(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text.front());
   const std::size_t size = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;

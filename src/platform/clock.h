@@ -13,8 +13,8 @@ class Clock {
   virtual ~Clock() = default;
   [[nodiscard]] virtual Instant now() const = 0;
   [[nodiscard]] virtual LocalTime localTime() const = 0;
-  // Lets time pass until `when`, or shorter if something else wants attention (input, a device).
-  // Fires nothing by itself; at once when `when` has passed.
+  // Lets time pass until `when`, or less if input or a device needs attention. Returns at once if `when` has
+  // passed already. Fires no timer.
   virtual void sleepUntil(Instant when) = 0;
 };
 

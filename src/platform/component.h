@@ -48,7 +48,7 @@ class Component {
   // A property by its id, null where this kind of control has none such.
   [[nodiscard]] PropertyBase* property(Prop id) const;
   [[nodiscard]] const std::vector<PropertyBase*>& properties() const { return properties_; }
-  // For the fronts: told after each real change. A watcher lives as long as the component.
+  // For the fronts: called after each real change, for as long as the component lives.
   void watch(Watcher watcher) { watchers_.push_back(std::move(watcher)); }
 
   // The events that a write from code can raise; null where this kind has none such.

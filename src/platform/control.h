@@ -54,7 +54,7 @@ class Control : public Component {
 
 // Whether the rider can see it: itself, every container around it and its form are visible.
 [[nodiscard]] bool canBeSeen(const Control& control);
-// Whether it would answer to him: itself and every container around it are enabled.
+// Whether it reacts to the rider: itself and every container around it are enabled.
 [[nodiscard]] bool isEnabled(const Control& control);
 
 }  // namespace platform

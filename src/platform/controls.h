@@ -89,7 +89,7 @@ class ComboBox final : public Control {
   void propertyChanged(Prop id) override;
 
   std::vector<std::string> lines_;
-  bool following_ = false;  // text and index are being brought into step
+  bool following_ = false;  // while one is set after the other, no click is raised
 };
 
 class TextBox final : public Control {

@@ -29,7 +29,8 @@ struct FileRequest {
 
 // ".tq2" of "words|*.tq2;*.b|words|*.c"; empty where the first pattern fits any ending.
 [[nodiscard]] std::string suffixOf(const std::string& filter);
-// The name under which a save dialog saves: with the filter's suffix, also behind a dot of the rider's own.
+// The name that a save dialog saves under: the filter's suffix is added unless the name ends in it already,
+// also where the name has a dot of its own.
 [[nodiscard]] std::string withSuffix(std::string name, const std::string& filter);
 
 class Dialogs {

@@ -60,7 +60,7 @@ Stream openStream(const std::string& path, OpenMode mode) {
 class DiskFile final : public RandomFile {
  public:
   DiskFile(std::string path, Stream stream) : path_(std::move(path)), stream_(std::move(stream)) {
-    // Unbuffered, so that a full disk is told by the write that meets it.
+    // Unbuffered, so that on a full disk the write itself fails, and not a later flush.
     std::setvbuf(stream_.get(), nullptr, _IONBF, 0);
   }
 
@@ -104,7 +104,7 @@ bool DiskFileSystem::exists(const std::string& path) const {
 
 std::unique_ptr<RandomFile> DiskFileSystem::open(const std::string& path, OpenMode mode) {
   std::error_code ignored;
-  // The C library opens a folder for reading without a word.
+  // fopen() opens a folder for reading without reporting an error.
   if (fs::is_directory(path, ignored))
     fail("d'ouvrir", path, std::make_error_code(std::errc::is_a_directory));
   Stream stream = openStream(path, mode);
@@ -121,7 +121,7 @@ void DiskFileSystem::makeFolder(const std::string& path) {
 }
 
 std::vector<std::string> DiskFileSystem::list(const std::string& folder) const {
-  std::vector<std::pair<std::string, std::string>> names;  // to sort by, to give
+  std::vector<std::pair<std::string, std::string>> names;  // in lower case to sort by, as it is
   std::error_code error;
   for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
     std::error_code vanished;

@@ -8,9 +8,8 @@ namespace platform {
 class EndpointVolume {
  public:
   virtual ~EndpointVolume() = default;
-  // Turns to what is the default playback device now, and stays with it until it is asked again. False:
-  // there is none. All that follows is about this device; where it has gone meanwhile, reads give false, 0
-  // and an empty text, and writes do nothing.
+  // Finds the present default playback device, which the other functions then use until the next call. False:
+  // there is none. Once the device has gone, reads give false, 0 or an empty text, and writes do nothing.
   virtual bool open() = 0;
   virtual bool muted() = 0;
   virtual void setMuted(bool muted) = 0;

@@ -70,7 +70,7 @@ void EventLoop::release(Timer& timer) {
   unschedule(*entry);
   timer.scheduler_ = nullptr;
   entry->timer = nullptr;
-  entry->released = true;  // its handler may be on the stack: the entry goes at the next adoption
+  entry->released = true;  // its handler may be running: the next adoption erases the entry
 }
 
 void EventLoop::restart(Timer& timer) {
@@ -159,7 +159,7 @@ void EventLoop::whenFree(std::function<void()> action) {
 }
 
 void EventLoop::runHeld() {
-  // An action that waits serves events, and so lets those behind it run meanwhile.
+  // An action that waits serves events, so the next ones in the queue may run inside it.
   while (!quitting_ && !blocked() && !held_.empty()) {
     const std::function<void()> action = std::move(held_.front());
     held_.pop_front();

@@ -1,8 +1,8 @@
 // The program's one loop: it owns the timers and the clock, and everything runs on its thread.
 //
 // Due timers fire in order of due time, then of creation. A late timer fires once, not once for each period
-// missed, and keeps its phase. A timer whose handler runs is not entered again by its own event, however deep
-// the waits inside it. A blocking sound stops the loop: see Blocking.
+// missed, and keeps its phase. A timer does not fire while its own handler still runs, even if that handler
+// waits and other timers fire. A blocking sound stops the loop: see Blocking.
 #pragma once
 
 #include <cstdint>
@@ -31,20 +31,21 @@ class EventLoop final : public TimerScheduler {
   void fireDue();
   // Serves events until `when`, sleeping from one due time to the next. Ends early when quitting.
   void runUntil(Instant when);
-  // When the next timer that may fire falls due; now, where something is held back that may run.
+  // When the next timer falls due; now, if an action that was held back can run.
   [[nodiscard]] std::optional<Instant> nextDue() const;
 
   // Runs something on behalf of the rider or a timer: an exception ends it and goes to the fault handler.
   void guard(const std::function<void()>& action);
-  // Guards what the rider caused: at once, or, while a sound blocks the loop, where the loop next serves
-  // events after it, each in its turn. The sound's end itself runs nothing: who played it is in the midst of
-  // his work.
+  // Runs, guarded, what the rider caused: at once, or, while a sound blocks the loop, when events are next
+  // served after the sound, in the order of arrival. Not at the end of the sound itself, because the handler
+  // that played it has not finished.
   void whenFree(std::function<void()> action);
   // Runs what was held back, for a front that handles the rider's input in a loop of its own.
   void runHeld();
-  // The number of what runs now, the innermost where waits and dialogs let others in; 0: nothing does.
+  // The number of the action that runs now, of several (one inside a wait or dialog of another) the
+  // innermost; 0: none runs.
   [[nodiscard]] std::uint64_t action() const { return actions_.empty() ? 0 : actions_.back(); }
-  // Whether it has not come to its end yet.
+  // Whether that action has not ended yet.
   [[nodiscard]] bool runs(std::uint64_t action) const;
 
   // `pump` lets the front handle the rider's input; `next` says when more will come, where that is known.
@@ -53,7 +54,7 @@ class EventLoop final : public TimerScheduler {
     nextInput_ = std::move(next);
   }
   void onFault(std::function<void(const std::string&)> handler) { faultHandler_ = std::move(handler); }
-  // Told when the next due time may have changed, and when a sound no longer blocks the loop: for a front
+  // Called when the next due time may have changed, and when a sound no longer blocks the loop: for a front
   // that sleeps on a timer of its own.
   void onReschedule(std::function<void()> handler) { rescheduled_ = std::move(handler); }
 

@@ -9,11 +9,11 @@
 
 namespace platform {
 
-// Told after each block how many of how many bytes are copied; false gives the copy up.
+// Called after each block with the bytes copied so far and the total; returns false to cancel the copy.
 using CopyProgress = std::function<bool(std::uint64_t done, std::uint64_t total)>;
 
-// Replaces what stands at `to`, and only by the whole copy: one that fails or is given up leaves nothing
-// behind. False when it was given up.
+// Replaces the file at `to` only once the copy is complete; a copy that fails or is cancelled leaves nothing
+// behind. False: it was cancelled.
 bool copyFile(FileSystem& files, const std::string& from, const std::string& to,
               const CopyProgress& progress = {});
 

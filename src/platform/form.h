@@ -53,7 +53,7 @@ class Form : public Component {
   bool loaded_ = false;
 };
 
-// Up to three names of `names` that resemble `wanted`, as ": near a, b"; empty where none does.
+// Up to three names of `names` that resemble `wanted`, as "; near: a, b"; empty where none does.
 [[nodiscard]] std::string nearNames(std::string_view wanted, const std::vector<std::string>& names);
 
 }  // namespace platform

@@ -76,22 +76,22 @@ class Grid final : public Control {
   void setChecked(int row, bool on);
   void tickRow(int row, bool on);
 
-  // Selection: one row, or 0 for none. Goes with its row when rows move.
+  // The selected row, or 0 for none. It moves with its row when others are inserted or removed.
   [[nodiscard]] int selectedRow() const { return selected_; }
   void select(int row);
   // Scrolls so that the row shows, or gives the list the keyboard's focus: told to the front.
   void reveal(int row) { notifyWatchers({GridChange::What::Reveal, row, 0}); }
   void focus() { notifyWatchers({GridChange::What::Focus}); }
 
-  // Where the rider's pointer is; 0 outside. Kept by the front before it raises the mouse events.
+  // Where the rider's pointer is; 0 outside. The front sets it before it raises the mouse events.
   [[nodiscard]] int pointedRow() const { return pointedRow_; }
   [[nodiscard]] int pointedColumn() const { return pointedColumn_; }
   // Which rows the list shows at present; a list without a screen shows all.
   void setVisibleRows(int first, int last) { firstVisible_ = first, lastVisible_ = last; }
   [[nodiscard]] bool rowShows(int row) const { return row >= firstVisible_ && row <= lastVisible_; }
 
-  // The mouse. pointAt moves the pointer; pressAt is a whole press of a button at a cell, in a list's order:
-  // the pointer moves, the button goes down, the row is selected, and with the left button it is clicked.
+  // The mouse. pointAt moves the pointer; pressAt is a whole press of a button on a cell: the pointer moves,
+  // `pressed` is raised, the row is selected, and the left button raises the click.
   void pointAt(int row, int column);
   void pressAt(int row, int column, MouseButton button);
   Event<> pointerMoved;

@@ -8,8 +8,8 @@ namespace platform {
 class MediaCommands {
  public:
   virtual ~MediaCommands() = default;
-  // Carries out one command and gives its answer. A command that fails, or that has nothing to answer, gives
-  // an empty text; nothing is ever thrown, since nobody looks at how a command went.
+  // Carries out one command and gives its answer. The answer is empty where the command fails or has nothing
+  // to answer. Throws nothing, because callers do not check whether a command succeeded.
   virtual std::string send(const std::string& command) = 0;
   // The folder in which "save" writes a name that has no folder of its own.
   virtual void workIn(const std::string& folder) = 0;

@@ -12,7 +12,7 @@
 namespace platform {
 namespace {
 
-// What a command says beside its fixed words.
+// The variable parts of a command.
 struct Call {
   std::string alias;
   std::string path;
@@ -146,8 +146,8 @@ std::optional<Call> match(std::string_view words, std::string_view command) {
   return call;
 }
 
-// "open MPEGVideo!" path " alias " name " parent " handle " Style " number. A path may hold any of these
-// words, so that the last of them count.
+// "open MPEGVideo!" path " alias " name " parent " handle " Style " number. A path may contain these words
+// itself, so the last " alias " is the one that counts.
 std::optional<Call> matchOpenFile(std::string_view command) {
   constexpr std::string_view start = "open MPEGVideo!";
   constexpr std::string_view middle = " alias ";

@@ -8,7 +8,7 @@ namespace platform {
 class OutputLevel {
  public:
   virtual ~OutputLevel() = default;
-  // 0 is silence, 0xFFFF all there is. Called ten times a second, mostly with what was set already.
+  // 0 is silence, 0xFFFF full volume. Called ten times a second, mostly with unchanged values.
   virtual void set(std::uint16_t left, std::uint16_t right) = 0;
 };
 

@@ -13,8 +13,8 @@ enum class PrintQuality { Draft, High };
 
 enum class CellPlace { Left, Centre, CentreBottom };
 
-// A piece of a list as it is to stand on paper, on white ground: a head, and rows of cells below it.
-// Lengths are in twips and say how the parts stand to one another; the printer fits the whole to the page.
+// The part of a list that goes on one page, on white ground: a head, and rows of cells below it. Lengths are
+// in twips, but only their proportions count: the printer scales the whole to the page.
 struct PageGrid {
   struct Column {
     std::string head;
@@ -28,10 +28,10 @@ struct PageGrid {
   std::vector<Column> columns;
   int headHeight = 0;
   std::vector<Row> rows;  // their cells are centred
-  int kindColumn = -1;    // the cells that name kinds of effort, which a printer may mark with their colours
+  int kindColumn = -1;    // its cells name kinds of effort, which a printer may colour; from 0, -1: none
 };
 
-// A fault (platform::OutOfMemory among them) may come from any operation.
+// Any operation may throw a platform::Fault, OutOfMemory among them.
 class Printer {
  public:
   virtual ~Printer() = default;
@@ -43,7 +43,7 @@ class Printer {
   virtual void paintPicture(const PageGrid& grid, int left, int top) = 0;
   virtual void printLine(const std::string& line) = 0;  // below what stands on the page
   virtual void endDocument() = 0;
-  virtual void killDocument() = 0;  // what is not ended yet is never printed
+  virtual void killDocument() = 0;  // discards the document that is not ended yet
   // No document follows for now: a printer that gathers them in one file closes it.
   virtual void finish() = 0;
 };

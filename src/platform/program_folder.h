@@ -1,4 +1,4 @@
-// Where the program keeps what it keeps when nobody says otherwise.
+// The folder of all that the program stores, unless another one is chosen on the command line.
 #pragma once
 
 #include <string>

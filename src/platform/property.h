@@ -24,7 +24,7 @@ enum class Prop : std::uint8_t {
   Colour,
   Bold,
   Size,  // font size in points
-  Top,   // geometry in twips, as far as the logic moves anything
+  Top,   // geometry in twips, of the controls that the logic moves
   Left,
   Width,
   Height,
@@ -53,7 +53,7 @@ struct Colour {
 [[nodiscard]] std::string toText(int value);
 [[nodiscard]] std::string toText(bool value);
 [[nodiscard]] std::string toText(const Colour& value);  // "R,G,B", empty for the automatic one
-// These throw std::invalid_argument on a text that is no such value.
+// These throw std::invalid_argument if the text is no such value.
 void fromText(std::string_view text, std::string& value);
 void fromText(std::string_view text, int& value);
 void fromText(std::string_view text, bool& value);

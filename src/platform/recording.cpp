@@ -52,7 +52,7 @@ std::int64_t RecordingFormat::millisecondsFor(std::int64_t bytes) const {
 }
 
 std::vector<char> wavFile(const RecordingFormat& format, std::span<const unsigned char> samples) {
-  constexpr std::size_t afterSize = 36;  // of the header, what stands behind the file's size
+  constexpr std::size_t afterSize = 36;  // bytes of the header behind the file's size
   const auto number = [](int value) { return static_cast<std::size_t>(value); };
   const std::size_t padding = samples.size() % 2;
   Writer writer;
@@ -70,13 +70,13 @@ std::vector<char> wavFile(const RecordingFormat& format, std::span<const unsigne
 }
 
 void saveWhole(FileSystem& files, const std::string& path, std::span<const char> bytes) {
-  const std::string passing = path + ".tmp";
+  const std::string temporary = path + ".tmp";
   try {
-    if (files.exists(passing)) files.remove(passing);
-    files.open(passing, OpenMode::ReadWriteCreate)->writeAt(0, bytes);
-    files.rename(passing, path);
+    if (files.exists(temporary)) files.remove(temporary);
+    files.open(temporary, OpenMode::ReadWriteCreate)->writeAt(0, bytes);
+    files.rename(temporary, path);
   } catch (const Fault&) {
-    eachOnItsOwn([&] { files.remove(passing); });
+    eachOnItsOwn([&] { files.remove(temporary); });
     throw;
   }
 }

@@ -16,7 +16,7 @@ struct RecordingFormat {
   int bitsPerSample = 8;
   int channels = 1;
 
-  // A value that no recorder has changes nothing.
+  // A value that no recorder supports is ignored.
   void set(RecordingFigure figure, int value);
   [[nodiscard]] int frameBytes() const { return channels * bitsPerSample / 8; }
   [[nodiscard]] int bytesPerSecond() const { return samplesPerSecond * frameBytes(); }
@@ -29,7 +29,8 @@ struct RecordingFormat {
 [[nodiscard]] std::vector<char> wavFile(const RecordingFormat& format,
                                         std::span<const unsigned char> samples);
 
-// Writes a whole file under a passing name first: a full disk leaves what was there. Throws FileFault.
+// Writes the whole file under a temporary name, then renames it, so that on a full disk the old file stays.
+// Throws FileFault.
 void saveWhole(FileSystem& files, const std::string& path, std::span<const char> bytes);
 
 }  // namespace platform

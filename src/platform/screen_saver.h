@@ -1,4 +1,4 @@
-// The desktop's screen saver, as far as a ride needs it: is it armed, arm it, hold it off.
+// The desktop's screen saver: whether it may come on, and holding it off during a ride.
 #pragma once
 
 namespace platform {

@@ -1,4 +1,5 @@
-// The one road of voice to the loudspeaker: blocking plays from memory or from a file.
+// Where the voice sounds: plays a prompt from memory or a recording from a file, and blocks until it has
+// ended.
 #pragma once
 
 #include <span>
@@ -18,7 +19,7 @@ struct SoundClip {
 class SoundOutput {
  public:
   virtual ~SoundOutput() = default;
-  // False: no output device, so that nothing can be heard and nothing should be waited for.
+  // False: there is no output device, so nothing is played and no time passes.
   virtual bool hasDevice() = 0;
   // Plays to the end, then returns. A failure is silence, never a fault.
   virtual void play(const SoundClip& clip) = 0;

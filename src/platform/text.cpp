@@ -5,7 +5,8 @@
 namespace platform {
 namespace {
 
-// Where the character that begins at `at` ends: a whole UTF-8 sequence, or the one byte that is none.
+// Where the character that begins at `at` ends: behind a whole UTF-8 sequence, or behind one byte that is not
+// UTF-8.
 std::size_t nextCharacter(std::string_view text, std::size_t at) {
   const auto lead = static_cast<unsigned char>(text[at]);
   std::size_t size = 1;

@@ -1,4 +1,4 @@
-// UTF-8 text cut and counted by characters, never by bytes. Bytes that are no UTF-8 count one each.
+// UTF-8 text cut and counted by characters, never by bytes. A byte that is not UTF-8 counts as one character.
 #pragma once
 
 #include <string>

@@ -32,7 +32,7 @@ class Timer final : public Component {
   TimerScheduler* scheduler_ = nullptr;
 };
 
-// A one-shot: each time it is turned on, the timer turns itself off, and then acts.
+// Makes the timer a one-shot: when it fires, it first turns itself off and then runs the action.
 inline void once(Timer& timer, std::function<void()> action) {
   timer.tick.handle([&timer, action = std::move(action)] {
     timer.enabled = false;
