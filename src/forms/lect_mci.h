@@ -1,5 +1,5 @@
 // The player. Its screen never shows: it is the engine of the background music, worked from outside by
-// `Text1` and the timers. Keeping a picture on top of others, or copying it, has nothing to act on.
+// `Text1` and the timers. So the commands that keep a picture on top or copy it have no effect.
 #pragma once
 
 #include <array>

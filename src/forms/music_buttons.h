@@ -1,4 +1,4 @@
-// The main screen's two music buttons, of which one stands at a time.
+// The main screen's two music buttons: at most one of them is visible.
 #pragma once
 
 #include "forms/main_form.h"
@@ -10,7 +10,7 @@ inline void showMusicPlaying(MainForm& main) {
   main.MyButton19.visible = false;
 }
 
-// After whatever has stopped the music for good. Where it was not offered, it is not offered now.
+// Once the music has stopped for good. Does nothing where the screen does not show music as playing.
 inline void showMusicStopped(MainForm& main) {
   if (!main.MyButton21.visible) return;
   main.MyButton21.visible = false;

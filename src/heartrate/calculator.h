@@ -20,7 +20,7 @@ class Calculator {
   void lireAuChargement() { personal_.lireAuChargement(); }
   void finirChargement();
 
-  // A percentage was picked for the sequence of that row, whose cell holds it already: completes the cell.
+  // Completes the target cell of a row for which a percentage was picked: "132-75 %".
   void viserCellule(int row, const std::string& pickedText) { column_.viserCellule(row, pickedText); }
 
   [[nodiscard]] const Figures& figures() const { return figures_; }

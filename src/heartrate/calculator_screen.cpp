@@ -31,7 +31,7 @@ constexpr std::array<Label CreerCycle::*, 9> valueLabels{
     &CreerCycle::Label52, &CreerCycle::Label53, &CreerCycle::Label54,
     &CreerCycle::Label55, &CreerCycle::Label56, &CreerCycle::Label57};
 
-// What a method shows. The fourth hides the age although it reads it, as it always did.
+// The boxes that each method shows. Karvonen hides the age although it reads it, as it always did.
 struct BoxesOfMethod {
   bool age, sex, fcMax, fcRepos, note;
 };
@@ -88,7 +88,7 @@ void CalculatorScreen::calculerFrequences() {
   if (figures_.loading()) return;
   editor_.Combo9.text = "100";
   if (!requireFigures(context_.outside.dialogs, editor_)) return;
-  // From here it is the method in use that counts, which the grid's own box may have set.
+  // From here on the method in use counts, not the one shown: the box over the grid may have changed it.
   const int methode = figures_.methodeFC;
   if (!byAge(methode) && !byReserve(methode)) return;
   if (byAge(methode) && isBlank(editor_.Combo7)) return;
@@ -110,7 +110,7 @@ void CalculatorScreen::calculerFrequences() {
 void CalculatorScreen::choisirMethode() {
   if (figures_.loading()) return;
   const int methode = editor_.Combo8.index;
-  // Before the check: what it finds missing is entered in the boxes of the method that was picked.
+  // Before the check, so that the boxes are there for what it finds missing.
   showBoxesOf(methode);
   if (!requireFigures(context_.outside.dialogs, editor_)) return;
   if (methode < 0 && isBlank(editor_.Combo7)) {

@@ -10,7 +10,7 @@ class CalculatorScreen {
  public:
   CalculatorScreen(const context::Context& context, Figures& figures);
 
-  // The labels of the results lose the texts that they were drawn with.
+  // Empties the result labels if they still hold their names ("Label50") as text.
   void clearDesignTexts();
 
  private:

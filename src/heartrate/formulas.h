@@ -30,7 +30,7 @@ inline constexpr int ownFigures = 5;
   return methode == karvonen || methode == ownFigures;
 }
 
-// The text of the maximal rate; none on the rider's own figures, where he has chosen it himself.
+// The text of the maximal rate; none for the rider's own figures, where he has entered it himself.
 [[nodiscard]] std::optional<std::string> fcMaxMethode(int methode, std::string_view age,
                                                       std::string_view fcRepos, std::string_view percent);
 
@@ -43,8 +43,8 @@ struct Band {
 [[nodiscard]] std::string reserveText(double fcMax, double fcRepos);
 [[nodiscard]] std::string workRateText(int methode, double fcMax, double fcRepos, double percent);
 
-// Who asks for a target. The two do not read the same operands, nor compute in the same order; targets that
-// riders have in their sessions depend on it.
+// Who asks for a target. The two read different operands and compute in a different order; keep it so,
+// because the targets in riders' sessions depend on it.
 enum class TargetWriter { CellPick, ColumnRewrite };
 
 struct TargetOperands {

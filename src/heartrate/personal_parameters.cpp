@@ -66,7 +66,7 @@ void PersonalParameters::montrer(const model::PersonalFigures& saved) {
   show(editor_.Combo11, figures_.persoFCMax);
   show(editor_.Combo12, figures_.persoFCRepos);
   showMethod();
-  // The reverse of what a pick of the method does: the note shows on the first reading where it hides later.
+  // The opposite of what picking a method does: Karvonen shows the note here and hides it there.
   editor_.Label62.visible = editor_.Combo8.index == karvonen;
   setDisplayMode(figures_.persoMethode.empty() ? std::string() : saved.modeAffichage);
 }

@@ -1,4 +1,4 @@
-// The saved figures and the display mode: file to globals to screen, and back.
+// The saved figures and the display mode: read from the file onto the screen, and saved from there.
 #pragma once
 
 #include <array>

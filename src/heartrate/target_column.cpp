@@ -10,7 +10,7 @@
 namespace heartrate {
 namespace {
 
-constexpr std::size_t percentSign = 2;  // " %", the end of a picked text
+constexpr std::size_t percentSign = 2;  // characters: " %" at the end of a picked text
 
 bool hasTarget(const std::string& cell) {
   const std::string text = platform::trim(cell);
@@ -50,7 +50,7 @@ void TargetColumn::viserCellule(int row, const std::string& pickedText) {
 
   const int methode = editor_.Combo13.index;
   if (byAge(methode) && isBlank(editor_.Combo7)) return refuse(Needed::Age);
-  // Wider than the age methods need: a blank resting rate refuses the pick for them, too.
+  // Stricter than the age methods need: they, too, refuse a pick while the resting rate is blank.
   if ((byReserve(methode) && isBlank(editor_.Combo7)) || isBlank(editor_.Combo11) ||
       isBlank(editor_.Combo12)) {
     return refuse(Needed::AllFigures);

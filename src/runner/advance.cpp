@@ -13,7 +13,7 @@ Advance::Advance(const context::Context& context, voice::Voice& voice, RideWaits
 
 void Advance::avancerSequence() {
   if (state_.nbSequences == 0) return;
-  // A boundary can come up inside the waits of the one before it, which then has nothing more to say.
+  // A boundary can begin inside a wait of the one before it, which is then abandoned.
   waits_.overtake();
   struct Standing {
     bool& flag;
@@ -41,8 +41,8 @@ void Advance::crossBoundary() {
   playOwnAnnouncement();
   saySequenceNumber();
   // From here on time runs, although the voice that follows still delays the first tick. A ride that was
-  // paused during the waits above stays paused; an announcement, which has no time to hold, ends all the
-  // same.
+  // paused during the waits above stays paused; but an announcement has no time that could be stopped, so it
+  // ends all the same.
   holdsTime_ = false;
   if (main_.Command7.caption == "Pause" || state_.dureeSequence == 0) main_.Timer1.enabled = true;
   sayRow();
@@ -74,7 +74,7 @@ void Advance::endRun() {
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
   if (main_.Check2.value == 1) {
-    state_.plan.sequenceCourante = 0;  // so that the cancel below says nothing
+    state_.plan.sequenceCourante = 0;  // so that the cancel below does not speak
     waits_.hold();
     showMessage(main_, endMessage);
     waits_.pause();
@@ -100,7 +100,8 @@ void Advance::showRideFields() {
   hide({&main_.Label12, &main_.Label39, &main_.Label18, &main_.Image2, &main_.Image4});
 }
 
-// The hold and the release come at every boundary, the number only before the first row of a pass.
+// The music is held and released at every boundary, but the number is said only before the first row of a
+// pass.
 void Advance::sayPass() {
   if (main_.Check2.value != 1 || main_.Check3.value != 1 || state_.sonSeance.empty()) return;
   waits_.hold();
@@ -133,7 +134,7 @@ void Advance::composeGearText() {
       inWords ? chainring + " * " + gear : "Braquet de (" + chainring + " x " + gear + ")";
 }
 
-// By what stands on the screen, not in the plan.
+// From the captions on the screen, not from the plan.
 void Advance::nameSounds() {
   state_.sonSequence = sequenceSound(main_.Label11.caption);
   state_.sonCadence = cadenceSound(main_.Label10.caption);
@@ -178,19 +179,20 @@ void Advance::sayRow() {
   if (!isAnnouncement()) waits_.release();
 }
 
-// The cadence alone holds the music, too, but does not say the kind.
+// With the cadence alone switched on the music is held, too, but the kind is not said.
 void Advance::sayKind() {
   const bool wanted = main_.Check5.value == 1 || main_.Check13.value == 1;
   if (!wanted || isAnnouncement() || state_.sonSequence.empty()) return;
   voice_.nommer(state_.sonSequence);
   waits_.hold();
-  // Named again: who paused during the hold has used the one slot of the sounds.
+  // Named again, because a pause during the hold has put its own sound into `sonDemande`.
   if (main_.Check13.value == 1) voice_.dire(state_.sonSequence);
 }
 
 void Advance::sayChainring() {
   if (main_.Check6.value != 1 || state_.sonPlateau.empty()) return;
-  // By the sound's first letter, so that of the two words only the big chainring keeps its own field.
+  // Decided by the sound's first letter: teeth ("P28.wav") and "Petit Plateau" go into one text with the
+  // gear, "Grand Plateau" does not.
   const bool inOneText = state_.sonPlateau.front() == 'P';
   main_.Label15.visible = !inOneText;
   main_.Label20.visible = !inOneText;

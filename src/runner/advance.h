@@ -13,7 +13,7 @@ class Advance {
 
   // Runs at each boundary. When it returns the chrono runs on the new sequence, or the run has ended.
   void avancerSequence();
-  // A boundary is at work that has not yet come to where time runs again.
+  // A boundary has begun, and the new sequence's time does not run yet.
   [[nodiscard]] bool holdsTime() const { return holdsTime_; }
 
  private:

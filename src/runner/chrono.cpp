@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t beatsLength = 3;    // "132" of "132-75 %"
 constexpr std::size_t beforePercent = 4;  // "132-"
 
-// What of the target's text mode 2 shows; nothing where the cell is too short to be cut.
+// The part of the target that display mode 2 shows: "75 %" of "132-75 %"; empty if the text is too short.
 std::string percentPart(const std::string& target) {
   return platform::length(target) < beforePercent ? std::string() : platform::mid(target, beforePercent + 1);
 }
@@ -65,9 +65,9 @@ void Chrono::showTarget() {
   if (inTurn) state_.alternanceFC = state_.alternanceFC == 1 ? 2 : 1;
 }
 
-// The total is kept in the label and read back from it, and so always in whole seconds.
+// The total is read back from the label, so that it always stays in whole seconds.
 void Chrono::countTotal() {
-  // A ride that comes out of a paused countdown has not ridden a second yet.
+  // After a paused countdown the chrono ticks before the first sequence: no second is ridden yet.
   if (state_.nbSequences != 0 && state_.plan.sequenceCourante == 0) return;
   if (state_.plan.current().planSequence != model::vocalAnnouncement) {
     main_.Label40.caption = model::formatTime(state_.dureeTotale - state_.pasChrono);
@@ -79,7 +79,8 @@ Chrono::Sequence Chrono::countSecond() {
   main_.Label16.caption =
       std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
   state_.ecouleSequence += state_.pasChrono;
-  // Through the text and back: sums of many seconds drift off the whole ones, and the test below needs them.
+  // Converted to text and back, because sums of many seconds drift off whole seconds, which the test below
+  // needs.
   const std::string left = model::formatTime(state_.dureeSequence - state_.ecouleSequence);
   state_.restantSequence = model::timeValue(left);
   main_.Label4.caption = platform::left(left, 2);
@@ -110,10 +111,10 @@ void Chrono::tickPanneau() {
 }
 
 void Chrono::hidePanelBriefly() {
-  // The large message outlives the ride: with no panel to step aside, nothing is to come back.
+  // The large message is still there after a ride, when there is no panel to hide and to bring back.
   if (!main_.Picture6.visible && !main_.Timer10.enabled) return;
   main_.Picture6.visible = false;
-  // Off and on: the second counts from the last move.
+  // Off and on, so that the second counts from the last move.
   main_.Timer10.enabled = false;
   main_.Timer10.enabled = true;
 }

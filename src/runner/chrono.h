@@ -20,7 +20,7 @@ class Chrono {
   void countTotal();
   void count();
   enum class Sequence { GoesOn, HasRunOut };
-  // One second off the sequence.
+  // Counts one second of the sequence.
   Sequence countSecond();
   void hidePanelBriefly();
 

@@ -75,7 +75,7 @@ void Countdown::tickCompteRebours() {
   main_.Label40.caption = model::formatTime(state_.dureeTotale);
   main_.Picture6.visible = true;
   if (state_.nbSequences == 0) {
-    // No countdown has shown the digits of a manual chrono.
+    // A manual chrono starts without the button that shows the digits.
     showDigits(main_);
     main_.Timer1.enabled = true;
   } else {
@@ -86,14 +86,15 @@ void Countdown::tickCompteRebours() {
 void Countdown::basculerPause() {
   if (main_.Command7.caption == "Pause") {
     if (!somethingRuns()) return;
-    // An announcement has no time to hold: it ends by itself, and the pause then holds the row behind it.
+    // An announcement has no time that could be stopped: it ends by itself, and the pause takes effect on the
+    // row after it.
     if (state_.dureeSequence != 0) main_.Timer1.enabled = false;
     main_.Timer2.enabled = false;
     if (main_.Check2.value == 1) voice_.dire("pausedemande.wav");
     main_.Command7.caption = "REPRENDRE";
   } else if (main_.Command7.caption == "REPRENDRE") {
     voice_.dire("repriseentrainement.wav");
-    // Before a row's time begins, its boundary starts the chrono.
+    // While a boundary is still speaking, the chrono is left to it.
     main_.Timer1.enabled = !advance_.holdsTime();
     main_.Timer2.enabled = false;
     main_.Timer10.enabled = true;
@@ -125,7 +126,7 @@ void Countdown::chooseManualTime() {
   state_.ecouleSequence = 0;
 }
 
-// A length that is none would be counted down for ever.
+// A countdown of zero or less would never end.
 void Countdown::replaceInvalidLength() {
   if (model::lenientInteger(main_.Combo5.text.get()) >= 1) return;
   main_.Combo5.text = state_.dureeChrono.empty() ? "16" : state_.dureeChrono;

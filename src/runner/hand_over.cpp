@@ -42,7 +42,7 @@ void HandOver::validerSeance() {
     return;
   }
   fillPlan();
-  // Only to open the start button, until the first sequence replaces it.
+  // Any duration enables the start button; the first sequence replaces it.
   state_.dureeSequence = model::timeValue("00:00:03");
   showTitle();
   main_.Timer4.enabled = true;
@@ -55,7 +55,7 @@ bool HandOver::refuseWrongDuration() {
   int row = 2;
   while (row <= grid.rowCount() && (!model::isRidden(grid, row) || model::hasDuration(grid, row))) ++row;
   if (row > grid.rowCount()) return false;
-  editor_.Timer6.tick();  // paints it red and takes the start away
+  editor_.Timer6.tick();  // paints it red and hides the start button
   grid.select(row);
   grid.reveal(row);
   context_.outside.dialogs.message(
@@ -79,7 +79,7 @@ void HandOver::prepareOtherForms() {
 }
 
 void HandOver::resetRide() {
-  // The menu leads to the editor from the midst of a ride, too.
+  // A ride may be under way, because the menu leads to the editor at any time.
   waits_.overtake();
   waits_.forgetHold();
   main_.Timer1.enabled = false;

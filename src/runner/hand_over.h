@@ -12,7 +12,7 @@ class HandOver {
 
  private:
   void validerSeance();
-  // Tells the rider of the first row that would bring a text that is no duration into the plan, and shows it.
+  // If a row that would be ridden has no valid duration, tells the rider, selects it and returns true.
   [[nodiscard]] bool refuseWrongDuration();
   void prepareOtherForms();
   void resetRide();

@@ -67,8 +67,8 @@ void Reset::boutonStart() {
   }
 }
 
-// With nothing programmed the time boxes are ridden: what they hold outlives the cancel that begins every
-// start.
+// With nothing programmed the time boxes set the duration. The cancel at each start empties them, so they are
+// filled again.
 void Reset::startManualChrono() {
   const std::array boxes{&main_.Combo1, &main_.Combo2, &main_.Combo3};
   const std::array<std::string, 3> chosen{main_.Combo1.text, main_.Combo2.text, main_.Combo3.text};

@@ -13,7 +13,7 @@ void RideWaits::run(const std::function<void()>& work) {
   try {
     work();
   } catch (const Overtaken&) {
-    // What has overtaken it leaves the screen as it is to be.
+    // Whatever overtook it has put the screen in order.
   }
 }
 

@@ -1,5 +1,6 @@
-// The waits of a ride, and the one way in which they end early: what was at work when a cancel, a stop, a new
-// hand-over, a later boundary or the end of the program came inside one of them has nothing more to say.
+// The waits of a ride. Buttons and timers are served inside a wait, so a cancel, a stop, a new hand-over, a
+// later boundary or the program's end can come before the work that waits is done. That work is then
+// overtaken: it is abandoned at the wait, and neither speaks nor changes the screen any more.
 #pragma once
 
 #include <cstdint>
@@ -15,23 +16,24 @@ class RideWaits {
  public:
   RideWaits(voice::Voice& voice, const platform::EventLoop& loop) : voice_(voice), loop_(loop) {}
 
-  // Does the work. Where one of its waits finds it overtaken, the rest of it is left undone.
+  // Does the work. If one of its waits finds it overtaken, the rest is skipped.
   void run(const std::function<void()>& work);
-  // Whatever is at work now is overtaken.
+  // All work that is under way is overtaken from now on.
   void overtake() { ++turn_; }
 
-  // The waits, for a work that is run: one second, and holding the music where the settings ask for it.
+  // Only inside run(): pause() waits one second; hold() has the music stop where the settings ask for it,
+  // which takes a second; release() lets it go on.
   void pause();
   void hold();
   void release();
-  // Named before and after: who pauses during the hold has used the one slot of the sounds.
+  // Names the sound before and after the hold, because a pause meanwhile puts its own into `sonDemande`.
   void sayWithMusicHeld(const std::string& name);
 
-  // Music that only a hold keeps silent plays on, so that a cancel leaves it alike at any moment.
+  // Releases the music if a hold keeps it silent, so that it plays on whenever a cancel comes.
   void endHold();
-  // Holds the music for good: no cancel gives it back.
+  // Stops the music for good: endHold() does not release it.
   void silenceMusic();
-  // Somebody else has taken the music in hand.
+  // From now on something else decides about the music: endHold() leaves it alone.
   void forgetHold() { held_ = false; }
 
  private:

@@ -1,4 +1,5 @@
-// Showing and hiding controls in groups.
+// States of the main screen that several parts of the ride set: groups of controls shown, hidden or enabled,
+// and the large message.
 #pragma once
 
 #include <initializer_list>
@@ -36,7 +37,7 @@ inline void enableRideButtons(forms::MainForm& main, bool enabled) {
   for (auto* button : {&main.MyButton1, &main.MyButton4, &main.Command7}) button->enabled = enabled;
 }
 
-// Where a start finds neither a plan nor a time: the rider reads why, and can still choose a time.
+// For a start with neither a plan nor a time: tells the rider why, and shows the boxes to choose a time.
 inline void showNothingToRide(forms::MainForm& main) {
   main.MyFrame2.visible = false;
   main.Label18.caption = "Rien à Parcourir : Composez ou Chargez une Séance d'Entraînement";
@@ -44,7 +45,7 @@ inline void showNothingToRide(forms::MainForm& main) {
   hideTimeBoxesUnderSettings(main);
 }
 
-// The countdown's number at rest is the length that is chosen for it.
+// While the countdown does not run, its number is the chosen length.
 inline void showCountdownLength(forms::MainForm& main) {
   if (!main.Timer2.enabled) main.Label9.caption = main.Combo5.text;
 }
@@ -60,7 +61,7 @@ inline void showMessage(forms::MainForm& main, const char* text) {
 
 inline constexpr const char* endMessage = "Séance d'Entraînement Terminée";
 
-// The one message that outlives its ride.
+// The only message that stays after its ride.
 inline bool showsEndMessage(const forms::MainForm& main) {
   return main.Label44.caption == endMessage;
 }

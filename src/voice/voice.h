@@ -17,7 +17,7 @@ class Voice {
         main_(context.screens.main),
         player_(context.screens.player) {}
 
-  // Plays a personal announcement from the announcements' folder, without any test.
+  // Plays a personal announcement from the announcements' folder, without checking settings or file.
   void jouerAnnonce(const std::string& fileName);
   // Serves events for `seconds`, counted from the present time of day rounded to the whole second: it lasts
   // up to half a second less or more.
