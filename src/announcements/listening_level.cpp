@@ -41,7 +41,7 @@ void ListeningLevel::makeReady() {
   page_.VScroll1.value = usualListeningLevel;
 }
 
-// Above the table the last level stays.
+// A level that is not in the table changes nothing.
 void ListeningLevel::apply() {
   const int down = page_.VScroll1.value - 1;
   const int across = page_.HScroll1.value + 2;

@@ -24,7 +24,7 @@ void Page::makeReady() {
   stored_.makeReady();
 }
 
-// Nothing plays where the rider is to be recorded.
+// Music would be recorded with the voice, so it stops.
 void Page::open() {
   forms::MainForm& main = context_.screens.main;
   context_.screens.player.Timer3.enabled = true;

@@ -1,4 +1,4 @@
-// The page of own announcements: its parts, the way to it, and what it is when it is loaded.
+// The page of own announcements: its parts, how it is opened, and its state when it is loaded.
 #pragma once
 
 #include "announcements/info_panel.h"
@@ -14,7 +14,7 @@ class Page {
  public:
   Page(const context::Context& context, voice::Voice& voice);
 
-  // The page as it first was, with the recorder open.
+  // Resets the page and opens the recorder.
   void makeReady();
 
  private:

@@ -56,7 +56,7 @@ void Recorder::makeReady() {
   send("open new type waveaudio alias capture");
 }
 
-// No take is left to listen to or to save, whatever was under way.
+// Whatever was under way, no take is left to listen to or to save.
 void Recorder::resetToIdle() {
   ++take_;
   page_.Command2.caption = recordCaption;
@@ -148,7 +148,7 @@ bool Recorder::stop() {
   page_.Label1.caption = readyStatus;
   page_.Command1.enabled = true;
   page_.Command4.enabled = true;
-  // The watch may have stopped, too, during the wait, and begun to play the take back.
+  // During the wait, watch() may have stopped the take as well and begun to play it back.
   page_.MyButton10.enabled = !listening();
   page_.Command2.enabled = !listening();
   page_.Command3.enabled = false;
@@ -186,7 +186,7 @@ void Recorder::listen() {
   stop();
 }
 
-// The count ends the listening, not the device.
+// Listening ends by this count; the device is not asked.
 void Recorder::countListening() {
   ++secondesEcoutees_;
   page_.Label14.caption =

@@ -24,7 +24,7 @@ class Recorder {
   void enforceTimeLimit();
   void resetToIdle();
   void leave();
-  // These wait. False: meanwhile another take was begun or the device closed, and the rest is not to be done.
+  // These wait. False: another take has begun meanwhile or the recorder was closed, so the caller stops.
   bool waitWithSameTake();
   bool stop();
   bool playBackOnce();
@@ -40,7 +40,7 @@ class Recorder {
   int secondesEcoutees_ = 0;      // since listening began
   std::string ecouteApresArret_;  // "oui" until the first stop has played the take back
   platform::Instant heureDebut_{0};
-  unsigned take_ = 0;  // another one for each take, and for none
+  unsigned take_ = 0;  // changes with every new or discarded take
 };
 
 }  // namespace announcements

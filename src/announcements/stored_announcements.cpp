@@ -20,7 +20,7 @@ void enable(std::initializer_list<platform::Button*> buttons, bool on) {
   for (platform::Button* button : buttons) button->enabled = on;
 }
 
-const std::string alias = aliasVideo;
+const std::string alias = "video001";  // the name of this page's player in the commands
 
 }  // namespace
 
@@ -62,7 +62,7 @@ void StoredAnnouncements::ouvrir() {
   enable({&page_.Command14, &page_.MyButton8}, true);
 }
 
-// The player does not say what it misses: the disk does, or else it is the file's own fault.
+// The player gives no reason: either the disk does, or the file is no sound.
 void StoredAnnouncements::showOpenFailure(const std::string& path) {
   std::string title = "ERR #75";
   std::string text;
@@ -93,7 +93,7 @@ bool StoredAnnouncements::lireAnnonce() {
   return !length.empty();
 }
 
-// Positions are compared as texts of one width.
+// Position and length are compared as texts, which works because they have the same width.
 void StoredAnnouncements::follow() {
   const std::string& length = page_.Label16.caption;
   page_.Label17.caption = formatTemps(model::lenientNumber(send("status " + alias + " position notify")));
@@ -134,7 +134,7 @@ void StoredAnnouncements::replay() {
   lireAnnonce();
 }
 
-// The file goes before the player lets go of it, and nobody is asked.
+// Removes the file while the player still has it open, and does not ask the rider.
 void StoredAnnouncements::destroy() {
   enable({&page_.Command7, &page_.Command14, &page_.MyButton8}, false);
   const std::string annonceADetruire = page_.Label15.caption;

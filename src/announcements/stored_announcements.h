@@ -7,9 +7,6 @@
 
 namespace announcements {
 
-// The name under which this page's player goes.
-inline constexpr const char* aliasVideo = "video001";
-
 class StoredAnnouncements {
  public:
   explicit StoredAnnouncements(const context::Context& context);

@@ -7,7 +7,7 @@
 namespace announcements {
 namespace {
 
-// With two decimals at least and at most.
+// Always with two decimals.
 std::string megabytes(double value) {
   const long long hundredths = std::llround(value * 100);
   const std::string decimals = std::to_string(hundredths % 100 + 100).substr(1);

@@ -41,7 +41,8 @@ std::optional<std::string> TakeSaving::askName() {
     std::string name = chosen.front().substr(chosen.front().rfind('/') + 1);
     name.resize(name.size() - extension.size());
     if (name.empty()) return std::nullopt;
-    // It lands among the announcements wherever the rider went, so that is where it may replace one.
+    // Whatever folder the rider chose, the take is saved in the announcements' folder and may replace one
+    // there.
     if (!context_.outside.files.exists(pathOf(name))) return name;
     const platform::Answer answer = context_.outside.dialogs.message(
         {platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,
@@ -53,7 +54,8 @@ std::optional<std::string> TakeSaving::askName() {
   }
 }
 
-// The recorder does not tell whether it saved: its scratch file does, once the one before is out of the way.
+// The recorder does not tell whether it saved. So its last scratch file is removed first: a new one proves
+// it.
 bool TakeSaving::write(const std::string& name) {
   const std::string& folder = context_.state.dossierAnnonces;
   platform::FileSystem& files = context_.outside.files;

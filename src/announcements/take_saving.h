@@ -1,4 +1,4 @@
-// Keeping the take as an announcement.
+// Saving the take as an announcement.
 #pragma once
 
 #include <optional>
@@ -14,7 +14,7 @@ class TakeSaving {
 
  private:
   void save();
-  // Whether the take now stands there under that name.
+  // Returns whether the take has been written under that name.
   bool write(const std::string& name);
   // The announcement's name without its extension; none where the rider gave up or the name is refused.
   std::optional<std::string> askName();

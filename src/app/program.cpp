@@ -42,8 +42,8 @@ struct Program::Logic {
         printForm(context),
         films(context),
         web(context) {
-    // One page for two trades; left with an empty list of music it is loaded anew, and starts as it first
-    // did.
+    // Announcements and music library share this page. It is unloaded when left with an empty list of music,
+    // so both are reset when it is loaded again.
     context.screens.announcements.onLoad.handle([this] {
       library.makeReady();
       announcementsPage.makeReady();

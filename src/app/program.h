@@ -16,7 +16,7 @@ namespace app {
 struct Setup {
   std::string folder;   // the program's folder; everything that the program keeps lies in it
   std::string version;  // shown in the main menu
-  std::function<void(const std::string&)> faultObserver;  // told each fault before the rider is
+  std::function<void(const std::string&)> faultObserver;  // called with each fault before the rider is told
   std::string documentsFolder = {};                       // where the rider picks music to import
 };
 

@@ -79,7 +79,7 @@ void CellEditor::cliquerCellule() {
   showDuration();
   if (colonneEdit_ == column::deleteMark) {
     if (model::lenientInteger(grid_.text(row, column::number)) != 1) {
-      // The editor of another cell would follow to this one, and write over its mark.
+      // Otherwise the editor of another cell would move to this one and overwrite its mark.
       endEditing();
       return;
     }
@@ -97,7 +97,7 @@ void CellEditor::cliquerCellule() {
   placerEditeur();
 }
 
-// The duration of the row in hand; a row without one stands at zero.
+// The duration of the selected row; zero for a row without one.
 void CellEditor::showDuration() {
   const std::string& duration = grid_.text(grid_.selectedRow(), column::duration);
   editor_.Label7.caption = duration == model::noMeaning ? std::string(model::noDuration) : duration;
@@ -116,8 +116,8 @@ void CellEditor::chargerListeCellule() {
   editor_.Combo1.setLines(cellEntries(editor_, colonneEdit_));
 }
 
-// The entry that equals the cell; a value that the list lacks shows as typed. A text from code is no pick.
-// A session file fills an announcement up with blanks, which are no part of its file's name.
+// Shows the cell's value in the editor; set from code, it does not count as a pick. An announcement from a
+// session file is padded with blanks, which are no part of its file's name.
 void CellEditor::selectPresentText() {
   const std::string& cell = grid_.text(grid_.selectedRow(), colonneEdit_);
   const bool padded = colonneEdit_ == column::announcement && cell != model::emptyCell;
@@ -127,7 +127,8 @@ void CellEditor::selectPresentText() {
 void CellEditor::placerEditeur() {
   if (grid_.rowCount() == 0 || colonneEdit_ <= column::number) return;
   const int row = grid_.selectedRow();
-  // The keyboard and the profile select without a click: what is in hand belongs to the row that was clicked.
+  // The keyboard and the profile select rows without a click, but the editor belongs to the row that was
+  // clicked.
   if (row != ligneEdit_) {
     endEditing();
     return;
@@ -187,7 +188,7 @@ void CellEditor::placeOverCell() {
   editor_.Combo1.visible = grid_.rowShows(row);
 }
 
-// No editor stays open on a refused cell, so that the badge can go by itself.
+// No editor stays open on a refused cell: hiding the badge later would hide it, too.
 void CellEditor::refuse() {
   endEditing();
   showBadge(refusal, refusalColour);
@@ -223,7 +224,7 @@ void CellEditor::presserCellule(platform::MouseButton button) {
   }
   editor_.Label4.caption = refusal;
   editor_.Label4.colour = refusalColour;
-  // The right button selects its row without a click: the editor that is open would write there.
+  // The right button selects its row without a click, and an open editor would write into it.
   if (button == platform::MouseButton::Right) endEditing();
   const bool menu = button == platform::MouseButton::Right && onDelete;
   editor_.mnSupprimer.enabled = menu;
@@ -278,7 +279,7 @@ bool CellEditor::durationOpen() const {
          editor_.Timer1.enabled;
 }
 
-// As the boxes show it. What is no duration, as a file may bring it, stands there as zero.
+// The duration as the boxes show it; a text from a file that is no duration counts as zero.
 std::string CellEditor::presentDuration() const {
   return model::formatSeconds(model::parseSeconds(grid_.text(ligneEdit_, column::duration)).value_or(0));
 }
@@ -290,8 +291,8 @@ void CellEditor::fillDurationBoxes() {
   editor_.Combo4.text = platform::mid(duration, 7, 2);
 }
 
-// What the boxes stand for, "7" being "07". A box that stands for no entry of its list goes back to the
-// cell's.
+// The duration in the boxes, where "7" counts as "07". A box whose text is not in its list goes back to the
+// value of the cell.
 std::string CellEditor::chosenDuration() {
   const std::string texts[] = {editor_.Combo2.text, editor_.Combo3.text, editor_.Combo4.text};
   fillDurationBoxes();
@@ -313,7 +314,7 @@ void CellEditor::validerDuree() {
   if (durationOpen()) grid_.setText(ligneEdit_, column::duration, chosenDuration());
 }
 
-// The click that leaves a box also ends the time in which the total follows.
+// Sums at once, because the click that leaves a box turns the summing timer off.
 void CellEditor::finishDuration() {
   if (!durationOpen()) return;
   const std::string present = presentDuration();
@@ -323,7 +324,7 @@ void CellEditor::finishDuration() {
   editor_.Timer4.tick();
 }
 
-// The announcement that was chosen is played on leaving its cell, with the volume at hand.
+// Leaving the cell plays the announcement that was chosen, and shows the volume dialog.
 void CellEditor::ecouterAnnonce() {
   const std::string& chosen = editor_.Combo1.text;
   if (colonneEdit_ != column::announcement || platform::trim(chosen).empty()) return;

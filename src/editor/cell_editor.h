@@ -1,4 +1,4 @@
-// Editing a cell: the click that opens the shared editor over it or refuses, and what a pick writes.
+// Editing a cell: a click opens the shared editor over it or is refused, and a pick writes to the grid.
 #pragma once
 
 #include <string>
@@ -18,7 +18,7 @@ class CellEditor {
   void placerEditeur();
   void validerChoix();
   void validerSaisie();
-  // A pick in a duration box, or Enter, or leaving it. What is no entry of its list is never written.
+  // On a pick in a duration box, or Enter. Only entries of its list are written.
   void validerDuree();
   void ecouterAnnonce();
   void endEditing();

@@ -14,7 +14,7 @@ constexpr std::size_t mostSteps = 200;
 
 namespace column = model::column;
 
-// The buttons whose captions are the cycle mode come last, the session's title behind them.
+// Places in Words: the captions of the two buttons that tell the cycle mode, then the session's title.
 constexpr std::size_t firstOfCycleMode = 3;
 constexpr std::size_t sessionTitle = 5;
 
@@ -64,14 +64,14 @@ History::Words History::words() const {
   return all;
 }
 
-// What another action has left open is a step of its own.
+// Changes that another action has left open become a step of their own.
 void History::beginStep() {
   if (loop_.action() != action_) closeStep();
   action_ = loop_.action();
   editor_.TimerUndoStep.enabled = true;
 }
 
-// A step ends when the action that made it does, however long it waits or asks the rider in between.
+// A step ends with the action that made it, even if that waits or asks the rider in between.
 void History::endStep() {
   if (!loop_.runs(action_)) {
     closeStep();
@@ -111,7 +111,7 @@ void History::recordChange(const platform::GridChange& change) {
 void History::recordText(int row, int col) {
   std::string& before = shadow_[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(col - 1)];
   const std::string& after = grid_.text(row, col);
-  // The total follows by itself, some time after what changed it: it is no step, and no part of one.
+  // The total is summed by a timer some time after a change, so it belongs to no step.
   if (row != 1 || col != column::duration) open_.push_back({Kind::Text, row, col, {before, after}});
   before = after;
 }
@@ -129,7 +129,7 @@ void History::closeStep() {
   enableMenuEntries();
 }
 
-// Words alone are no step, but for the cycle mode.
+// A change of captions alone is no step, unless it is the cycle mode that changed.
 bool History::hasEffect() const {
   for (std::size_t i = firstOfCycleMode; i < sessionTitle; ++i) {
     if (wordsBefore_.at(i) != wordsNow_.at(i)) return true;
@@ -176,7 +176,7 @@ void History::apply(const Change& change, bool backwards) {
                  first ? model::rowStyle::firstRow : model::rowStyle::finished);
 }
 
-// Only what the step changed: a hand-over may have named the list anew since.
+// Only what the step changed, because a hand-over may have set other captions since.
 void History::restoreWords(const Words& from, const Words& to) {
   for (std::size_t i = 0; i < captions_.size(); ++i) {
     if (from.at(i) != to.at(i)) *captions_.at(i) = to.at(i);

@@ -1,6 +1,6 @@
-// Undo and redo of the list: every change of the grid's texts is written down as it happens, in steps of one
-// action of the rider each, with what is said about the list, and can be played backwards and forwards. Cell
-// texts come back exactly; the total is summed anew.
+// Undo and redo of the list. Every change of the grid's texts is recorded as it happens, together with the
+// captions about the list; what one action of the rider changes is one step. Cell texts come back exactly;
+// the total is summed anew.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ class History {
 
   void undo();
   void redo();
-  // The list as it stands is where undoing ends.
+  // Empties the history: nothing before the present list can be undone.
   void clear();
 
  private:
@@ -64,7 +64,7 @@ class History {
   Words wordsBefore_;          // as they were before the open step
   Words wordsNow_;             // as they are
   Changes open_;
-  std::uint64_t action_ = 0;  // who makes the open step
+  std::uint64_t action_ = 0;  // the action that makes the open step
   std::deque<Step> undo_;
   std::deque<Step> redo_;
   bool replaying_ = false;

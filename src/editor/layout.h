@@ -5,7 +5,7 @@
 
 namespace editor {
 
-// "Annuler ce Cycle" on its button is what cycle mode is.
+// Cycle mode is on while its button reads "Annuler ce Cycle".
 [[nodiscard]] bool inCycleMode(const forms::CreerCycle& form);
 // Sets the columns back to their widths, which the rider may have dragged or a mode changed.
 void recalerColonnes(forms::CreerCycle& form);

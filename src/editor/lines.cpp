@@ -109,8 +109,8 @@ bool Lines::announcementMissing() const {
          grid_.text(last, column::announcement) == model::emptyCell;
 }
 
-// Whether another row may follow. A spoken row with its announcement may, whatever its duration; so may the
-// first row, whose duration is the total.
+// Whether another row may follow the last one. An announcement needs no duration, and that of the first row
+// is the total.
 bool Lines::lastRowClosed() const {
   const int last = grid_.rowCount();
   const std::string& sequence = grid_.text(last, column::sequence);
@@ -172,8 +172,8 @@ void Lines::ajouterSequenceVariante() {
   recalerColonnes(editor_);
 }
 
-// A row is inserted by moving what stands behind it, and the place comes from the number in the first column,
-// which deletions leave behind the rows' real places. Nothing is renumbered.
+// Adds a row at the end, then moves the rows from the wanted place on behind it. The place comes from the
+// number in the first column, which is never renumbered and so, after deletions, is not the row's real place.
 void Lines::insererLigne() {
   const int selected = grid_.selectedRow();
   if (selected == 0) return;
@@ -188,7 +188,7 @@ void Lines::insererLigne() {
     grid_.addRow(std::move(cells));
   }
   for (int moved = place; moved <= before; ++moved) grid_.removeRow(place);
-  // The rows behind a refused one were moved, too, the selected one perhaps among them.
+  // If the new row was refused, the rows have been moved all the same, perhaps with the selected one.
   if (grid_.rowCount() == before) {
     grid_.select(selected);
   } else {

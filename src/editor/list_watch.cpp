@@ -36,8 +36,7 @@ void ListWatch::markStale(const platform::GridChange& change) {
   if (change.what != What::Style) totalStale_ = true;
 }
 
-// In whole seconds, which is what going through the texts at every step comes to: a day drops out of each
-// sum.
+// In whole seconds. Whole days drop out, as they do where times are added as texts.
 void ListWatch::calculerTotal() {
   if (!totalStale_) return;
   int sum = 0;

@@ -1,5 +1,5 @@
-// The editor's watches: the total of the first row, the unfinished rows, the blinking warning, the cell under
-// the pointer. The operations that change cells recompute nothing.
+// Watches the editor's list on timers: sums the durations, paints unfinished rows red, blinks the warning,
+// follows the pointer. The commands that change cells leave all of this to it.
 #pragma once
 
 #include "context/context.h"
@@ -21,8 +21,7 @@ class ListWatch {
 
   forms::CreerCycle& editor_;
   platform::Grid& grid_;
-  // Whether the list has changed since it was last summed or painted: a look at an unchanged list costs
-  // nothing.
+  // Whether the list has changed since it was last summed or painted; an unchanged list is not gone through.
   bool totalStale_ = true;
   bool stylesStale_ = true;
   int unfinished_ = 0;

@@ -1,4 +1,5 @@
-// What a pick in one cell does to the others of its row, and how the first row's two repeat cells keep step.
+// What a pick in one cell does to the others of its row, and how the first row's two repeat cells are
+// matched.
 #pragma once
 
 #include <string>
@@ -7,8 +8,8 @@
 
 namespace editor {
 
-// Brings the row in line with its kind of sequence. `duration` is what the row's duration cell takes where it
-// has one. A target goes with every pick, and so must be chosen last.
+// Fits the row's other cells to its kind of sequence. `duration` is written where the kind has one. The
+// heart-rate target is emptied, and so must be chosen last.
 void applyRowRules(platform::Grid& grid, int row, const std::string& duration);
 
 // After a pick in the first row's "Répéter" or "Fois". False where the list has nothing to repeat.

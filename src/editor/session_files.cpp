@@ -79,7 +79,7 @@ void SessionFiles::add(const std::string& chosen) {
   editor_.Timer4.enabled = false;
 }
 
-// A file that was cut short: its blank rows stand in the list, red, to be filled or taken away.
+// The file was cut short: what it lacks stands in the list as blank rows, in red.
 void SessionFiles::reportMissingRows(const std::string& path, const model::FoundSequences& sequences) {
   if (sequences.found == sequences.announced) return;
   context_.outside.dialogs.message(
@@ -142,7 +142,7 @@ std::optional<std::string> SessionFiles::askPath() {
   }
 }
 
-// The records are written over those that stand there: a failure in their midst has changed some of them.
+// The records are overwritten in place, so a failure in between leaves some of them changed.
 void SessionFiles::write(const std::string& path) {
   bool touched = false;
   try {

@@ -32,7 +32,7 @@ void Films::connectPage() {
 void Films::connectOpeners() {
   forms::CreerCycle& editor = context_.screens.editor;
   forms::MainForm& main = context_.screens.main;
-  // The two pictures without a name of their own promise the films when the pointer is over them.
+  // The hover help of the last two pictures promises the films, so they open them, too.
   for (platform::Event<>* opener : {&editor.Image6.click, &editor.Image7.click, &editor.Label20.click,
                                     &main.mnAideVideo.click, &editor.Image1.click, &main.Image15.click}) {
     opener->handle([this] { page_.show(); });

@@ -15,7 +15,7 @@ class Films {
   void connectPage();
   void connectOpeners();
   void playIfThere(const std::string& film);
-  // Whatever the system has for films plays it, and says itself where it cannot.
+  // The desktop's own film player plays it, and reports its own errors.
   void play(const std::string& film);
   [[nodiscard]] std::string pathOf(const std::string& film) const;
 

@@ -9,7 +9,7 @@ Web::Web(const context::Context& context) : context_(context) {
   main.mnVisitSite.click.handle([this] { visit(address::author); });
   main.mnMenuVentoria.click.handle([this] { visit(address::product); });
   main.mnPartenaire.click.handle([this] { visit(address::partner); });
-  // The product's name is where a rider looks for those who made it.
+  // A click on the product's name shows whom to contact.
   main.Label30.click.handle([&main] { main.Picture12.visible = true; });
 }
 

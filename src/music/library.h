@@ -1,4 +1,4 @@
-// The music library: its parts, and what it is when its page is loaded.
+// The music library: its parts, and its state when its page is loaded.
 #pragma once
 
 #include <string>
@@ -16,7 +16,7 @@ class Library {
  public:
   Library(const context::Context& context, voice::Voice& voice, std::string documentsFolder);
 
-  // The library as it first was, read from its folder again, and its player.
+  // Resets the library and its player, and reads the music folder again.
   void makeReady();
 
  private:

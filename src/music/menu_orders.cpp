@@ -54,7 +54,7 @@ void MenuOrders::startWholeLibrary() {
   library_.MyButton12.click();
 }
 
-// With a list the page only hides, so that the music keeps going from piece to piece.
+// With a list the page is only hidden, so that the music goes on from piece to piece.
 void MenuOrders::leaveLibrary() {
   if (library_.ListView1.rowCount() > 0) {
     library_.hide();

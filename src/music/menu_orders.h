@@ -1,4 +1,4 @@
-// What the main screen asks of the library: to open, to play all of it, to fall silent; and the way back.
+// What the main screen asks of the library: to open, to play all its music, to stop it; and the way back.
 #pragma once
 
 #include "context/context.h"

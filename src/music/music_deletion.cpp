@@ -13,7 +13,7 @@ MusicDeletion::MusicDeletion(const context::Context& context, SelectionList& lis
   library_.mnSupTotBiblioth.click.handle([this] { deleteAll(); });
   library_.mnViderListe.click.handle([this] {
     library_.MyButton13.click();
-    library_.MyButton8.click();  // the announcement that is open goes along
+    library_.MyButton8.click();  // also deletes the announcement that is open
   });
 }
 

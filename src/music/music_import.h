@@ -28,7 +28,7 @@ class MusicImport {
   std::size_t nbFichiersChoisis_ = 0;
   bool givenUp_ = false;
   std::string failed_;  // names of what could not be copied
-  std::string why_;     // the first of them
+  std::string why_;     // why the first of them failed
 };
 
 }  // namespace music

@@ -6,7 +6,7 @@
 namespace music {
 
 struct Selection {
-  int nbMusiquesCochees = 0;  // ticked, as the start button says; removing rows may put it out of step
+  int nbMusiquesCochees = 0;  // ticked, as the start button shows; wrong after the removal of an unticked row
   int nbMusiquesJouees = 0;   // started since the selection began
   int prochaineMusique = 1;   // row where the search for the next ticked one begins
   std::string listeChargee;   // "ok": the list keeps its ticks; empty: it is made anew at the next visit

@@ -91,7 +91,7 @@ void SelectionList::tickAll() {
   offerStart(selection_.nbMusiquesCochees);
 }
 
-// Repetition goes with the ticks, whatever was clicked.
+// The box is set from the ticks, whatever the rider has clicked: 0 without any, 1 with all, 2 with some.
 void SelectionList::tickRepeat() {
   library_.Check2.value = recount();
 }

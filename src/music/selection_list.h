@@ -14,9 +14,9 @@ class SelectionList {
 
   // Reads the library's folder again.
   void readLibrary();
-  // The count of the list in its own words, and "select all" only where there is something to select.
+  // Shows the number of rows; "select all" is enabled if there are any.
   void showCount();
-  // The start button for that many ticked pieces.
+  // Labels the start button for that many ticked pieces, and enables it if there are any.
   void offerStart(int ticked);
   [[nodiscard]] std::string pathOf(const std::string& name) const;
 

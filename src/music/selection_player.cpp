@@ -9,7 +9,7 @@ namespace {
 
 constexpr int largestSize = 14;      // points
 constexpr int nameWidth = 7000;      // twips
-constexpr int twipsAPointWide = 11;  // of one character in the mean, for each point of its size
+constexpr int twipsAPointWide = 11;  // average width of a character, for each point of its size
 
 // Shows the name of the chosen piece in the largest size that fits its place.
 void fitName(forms::EnrUneAnnonce& form, const std::string& name) {
@@ -67,7 +67,7 @@ void SelectionPlayer::musiqueSuivante() {
   play(library_.ListView1.text(indexMusique, 1));
 }
 
-// The player does it in an event of its own, once this handler is through.
+// The timer starts the player in an event of its own, after this handler.
 void SelectionPlayer::play(const std::string& name) {
   context_.screens.player.Text1.text = list_.pathOf(name);
   context_.screens.player.Timer2.enabled = true;
@@ -87,8 +87,8 @@ void SelectionPlayer::watch() {
   }
   if (chosen) {
     library_.Label6.visible = true;
-    // The player holds the position at the end of a piece, so that a look each second finds it there. Before
-    // a piece is open it has no length to be at the end of.
+    // The player stays at the end of a piece, so checking once a second is enough. Before a piece is open the
+    // length is empty.
     const std::string& length = context_.state.dureeMusique;
     if (!length.empty() && library_.Label5.caption == length) musiqueSuivante();
   }

@@ -1,4 +1,4 @@
-// What a file says of itself: name, size, times, attributes and, for a program, its version.
+// What is known of a file: name, size, time, attributes and, for a program, its version.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,7 @@
 
 namespace player {
 
-// Attribute bits, as disks of the field have them.
+// Attribute bits, with the values that disks give them.
 enum Attribute : std::uint32_t { ReadOnly = 1, Hidden = 2, Folder = 16, Archive = 32, Normal = 128 };
 
 struct FileInformation {

@@ -78,8 +78,8 @@ Found scanMpeg(Bytes& bytes) {
   return found;
 }
 
-// The header names the coder ("WMV", "MP4" and their kin) a few bytes behind the picture's size; a place
-// whose size has not the shape of a film is chance.
+// The header names the codec ("WMV", "MP4" and the like) twelve bytes behind the picture's size. A match
+// whose size does not have the shape of a film is coincidence.
 Found scanAsf(Bytes& bytes, std::uint64_t fileSize) {
   constexpr std::uint64_t sizeBefore = 12;
   constexpr std::uint64_t longest = 16U << 20;  // a header tells its own length, which may be nonsense
@@ -138,7 +138,7 @@ std::string typeParContenu(platform::FileSystem& files, const std::string& path)
   };
   static constexpr std::array<Mark, 4> marks{
       {{"MThd", "mid"}, {"\x30\x26\xB2\x75", "wmv"}, {".RMF", "ram"}, {{"\x00\x00\x01\xBA", 4}, "mpg"}}};
-  // A file that claims to be a film and lacks its mark is none of them.
+  // A file with one of these extensions but without the mark of its type is none of them.
   static constexpr std::array<std::string_view, 7> films{"ram", "avi", "mpg", "mpe", "mpeg", "asf", "wmv"};
   const auto file = files.open(path, platform::OpenMode::Read);
   Bytes bytes(*file);

@@ -1,4 +1,4 @@
-// The open medium: what the player's parts share, and the one road to its device.
+// The open medium: the state that the player's parts share, and the commands to its device.
 #pragma once
 
 #include <cstdint>
@@ -21,7 +21,7 @@ class Medium {
   int hauteurMedia = 0;
   std::string infoMedia;  // its code and size
 
-  // Sends `verb`, the alias and the rest; the answer.
+  // Sends `verb`, the alias and the rest; returns the answer.
   std::string send(const std::string& verb, const std::string& rest = {}) {
     return sendWhole(verb + " " + alias + rest);
   }

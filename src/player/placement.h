@@ -1,5 +1,5 @@
-// Where the film and the still pictures stand in their box. Nothing is drawn without a window; the sizes
-// and the commands are kept, so that a window needs nothing but to follow them.
+// Places films and still pictures in their box. The player has no window, so nothing is drawn; but sizes and
+// commands are right, and a window would only have to follow them.
 #pragma once
 
 #include "forms/lect_mci.h"
@@ -12,7 +12,7 @@ struct PictureSize {
   int height = 0;
 };
 
-// The greatest size of the shape of `native` that fits into the box.
+// The largest size with the proportions of `native` that fits into the box.
 [[nodiscard]] PictureSize fitted(PictureSize native, PictureSize box);
 
 class Placement {

@@ -9,7 +9,7 @@
 namespace player {
 namespace {
 
-// A name of its own among all that the devices hold open.
+// A name that hardly any other open device will have.
 std::string newAlias(const platform::Clock& clock) {
   constexpr unsigned names = 100;
   std::minstd_rand random(static_cast<unsigned>(clock.localTime().time_since_epoch().count()));

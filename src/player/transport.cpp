@@ -80,7 +80,7 @@ void Transport::ouvrir(const std::string& path) {
     return;
   }
   placement_.cacherImage();
-  // The window to draw in is none: sound needs no parent.
+  // Parent 0: there is no window to draw in.
   medium_.sendWhole("open MPEGVideo!" + path + " alias " + medium_.alias + " parent 0 Style 1073741824");
   context_.loop.serveEvents();
   identifier(path);

@@ -40,7 +40,7 @@ constexpr std::array<HeadCell, 12> headCells{{
 
 constexpr int kindColumn = 2;
 
-// Steps of `step` from 1 up to `last`.
+// How many steps of `step` it takes to reach `last`.
 int stepsTo(int last, int step) {
   return (last + step - 1) / step;
 }
@@ -151,7 +151,7 @@ void PrintForm::printList() {
   print_.ProgressBar1.visible = true;
   print_.ProgressBar1.value = 0;
   page_ = 0;
-  // By the grid's rows, not the list's: 35 rows of a list make two pages.
+  // The head counts as a row, so a list of 35 rows makes two pages.
   pages_ = stepsTo(gridRows(), rowsPerPage);
   try {
     for (int row = 1; row <= gridRows(); row += rowsPerPage) {
@@ -186,7 +186,7 @@ void PrintForm::printPage(int firstRow) {
   printer_.endDocument();
 }
 
-// Nothing of a page that broke off may lie in wait for the next document.
+// Discards the page that broke off, or it would be printed with the next document.
 void PrintForm::giveUp(bool tooLarge) {
   printer_.killDocument();
   if (tooLarge) {

@@ -24,7 +24,7 @@ class PrintForm {
   void printPage(int firstRow);
   void giveUp(bool tooLarge);
   void leave();
-  // The grid's rows on paper, the head counted in.
+  // The grid's rows including the head.
   [[nodiscard]] int gridRows() const { return print_.Grid.rowCount() + 1; }
 
   context::Context context_;

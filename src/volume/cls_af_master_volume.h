@@ -1,5 +1,5 @@
-// The master volume and mute of the default playback device, with the contract of the riders' vocabulary:
-// whatever is not there reads as off or 0 and ignores what is written.
+// The master volume and mute of the default playback device. Whatever the device lacks reads as off or 0, and
+// writing to it does nothing.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ namespace volume {
 
 class clsAfMasterVolume {
  public:
-  // What the device can do is found once, here; a change of default device shows in a new instance.
+  // Asks once, here, what the device can do; after a change of the default device a new instance is needed.
   explicit clsAfMasterVolume(platform::EndpointVolume& endpoint);
 
   // The device is reached by its endpoint, never by a mixer of the older kind.

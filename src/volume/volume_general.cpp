@@ -81,7 +81,7 @@ clsAfMasterVolume& VolumeGeneral::master() {
 }
 
 void VolumeGeneral::load() {
-  // Anew, also where the bar was written while the dialog was closed: the default device may be another one.
+  // Made anew, because the default device may have changed since the dialog was last open.
   master_.reset();
   const bool volume = master().VolumeEnabled();
   const bool mute = master().MuteEnabled();
@@ -113,7 +113,7 @@ void VolumeGeneral::showMute() {
   context_.screens.editor.Image2.picture = dialog_.Image3.picture;
 }
 
-// Where the bars really move they write back what was read, which changes nothing.
+// If this moves a bar, its handler sets the volume to what was just read, which changes nothing.
 void VolumeGeneral::showVolume() {
   const int percent = master().Percent();
   dialog_.VScroll1.value = percent;
@@ -125,7 +125,7 @@ void VolumeGeneral::showVolume() {
   main_.Label36.colour = advice.colour;
 }
 
-// A sound that nobody would hear is told once, at the start, where it can be put right.
+// Once, at the start: tells the rider if the sound is too low or off, while he can still change it.
 void VolumeGeneral::noticeOnce() {
   if (noticed_) return;
   noticed_ = true;
