@@ -21,7 +21,7 @@ void fill(platform::Grid& grid, int rows) {
   for (int number = 2; number <= rows; ++number) grid.addRow(row(number));
 }
 
-// A change in the last row, since an unchanged list is not looked through again.
+// Changes the last row, since an unchanged list is not gone through again.
 void touch(platform::Grid& grid) {
   const std::string& cadence = grid.text(grid.rowCount(), model::column::cadence);
   grid.setText(grid.rowCount(), model::column::cadence, cadence == "60" ? "70" : "60");

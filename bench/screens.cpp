@@ -25,7 +25,7 @@ struct Screens : support::SimulatedProgram {
   Screens(int rows, const QSize& size) {
     if (!start()) std::abort();
     run("press MainForm.MyButton5");
-    list().removeRow(2);  // the one that waits to be filled
+    list().removeRow(2);  // the blank row of a new list
     for (int number = 2; number <= rows; ++number) list().addRow(row(number));
     run("advance 2");
     windows.emplace(program(), widgets::ThemeMode::Dark);

@@ -1,4 +1,4 @@
-// What stands behind a command's name, taken word by word.
+// The words behind a command's name, read one after the other.
 #pragma once
 
 #include <stdexcept>
@@ -29,11 +29,11 @@ class Arguments {
   int number(std::string_view what);
   double decimal(std::string_view what);
   bool flag(std::string_view what);  // 0 or 1
-  // All that is left, unescaped and without the double quotes around it; nothing is left behind it.
+  // The rest of the line, unescaped and without double quotes around it.
   std::string text();
-  // All that is left, as it stands.
+  // The rest of the line as it stands.
   std::string_view rest();
-  // Nothing may be left.
+  // Throws CommandError if anything is left.
   void end() const;
 
  private:

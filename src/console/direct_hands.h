@@ -1,4 +1,4 @@
-// Hands that work the controls themselves, with no window between.
+// Hands that work the controls directly, without a window.
 #pragma once
 
 #include "console/rider_hands.h"

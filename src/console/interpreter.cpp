@@ -43,7 +43,7 @@ void Interpreter::postpone(Arguments& arguments) {
   const std::string_view line = arguments.rest();
   Arguments postponed(line);
   const std::string name = postponed.word("command");
-  // What lets time pass is not for a rider to do, and would never come to its end inside a wait of its own.
+  // A rider cannot let time pass, and inside a wait `advance` would never come to its end.
   for (const char* unfit : {"at", "advance", "quit"}) {
     if (name == unfit) throw CommandError(name + " cannot be postponed");
   }
@@ -58,7 +58,7 @@ std::optional<platform::Instant> Interpreter::nextPending() const {
 void Interpreter::carryOutDue() {
   while (!pending_.empty() && pending_.begin()->first <= loop_.clock().now()) {
     const std::string line = std::move(pending_.extract(pending_.begin()).mapped());
-    // Before it is carried out: what it prints comes in between where it waits itself.
+    // Taken before the command runs, which may itself wait.
     const std::string stamp = secondsText(loop_.clock().now()) + "\t";
     perform(line);
     deliver(stamp);

@@ -24,11 +24,11 @@ class Interpreter {
   Interpreter(const Interpreter&) = delete;
   Interpreter& operator=(const Interpreter&) = delete;
 
-  // A front's own command.
+  // Adds a command of the front's own.
   void add(const std::string& name, std::function<void(Arguments&)> command) {
     commands_[name] = std::move(command);
   }
-  // To be told by the front when a pop-up menu has opened.
+  // For the front to call when a pop-up menu has opened.
   void menuOpened(const platform::MenuItem& root) { rider_.menuOpened(root); }
 
   // Until `quit` or the end of the input. The exit status: 1 if anything failed or was in error, else 0.
@@ -41,7 +41,7 @@ class Interpreter {
   void carryOutDue();
   [[nodiscard]] std::optional<platform::Instant> nextPending() const;
   void perform(std::string_view line);
-  // Hands on what a command has printed, each line behind the stamp.
+  // Prints the output of a command, the stamp before each line.
   void deliver(const std::string& stamp);
   void printError(const std::string& text);
 

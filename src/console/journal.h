@@ -20,7 +20,8 @@ class Journal {
 
   // The rest is given as fields, parted by tabs; each is escaped.
   void write(std::string_view kind, const std::vector<std::string_view>& fields);
-  // For what is set over and over: nothing where the last line of the kind, not printed yet, says the same.
+  // For a state that is set over and over: writes nothing if the last line of the kind, not printed yet, says
+  // the same.
   void writeState(std::string_view kind, const std::string& state);
   // Prints the lines of a kind, or all of them for an empty one, and forgets what it printed.
   void print(std::ostream& out, std::string_view kind);
@@ -35,7 +36,7 @@ class Journal {
 
   const platform::Clock& clock_;
   std::vector<Line> lines_;
-  std::map<std::string, std::string> states_;  // the last of each kind that is such
+  std::map<std::string, std::string> states_;  // the last one of each kind
 };
 
 }  // namespace console

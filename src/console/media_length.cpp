@@ -73,7 +73,7 @@ std::optional<std::uint64_t> countedFrames(std::string_view bytes, const Frame& 
   return std::nullopt;
 }
 
-// Behind the tag that may stand at the start.
+// Where the sound begins, behind a tag at the start.
 std::uint64_t startOfSound(platform::RandomFile& file) {
   std::array<char, 10> head{};
   const std::string_view tag(head.data(), file.readAt(0, head));
@@ -102,7 +102,7 @@ std::optional<Milliseconds> mpegLength(platform::RandomFile& file) {
   for (std::size_t at = 0; at + 4 <= bytes.size(); ++at) {
     const std::optional<Frame> frame = frameAt(bytes, at);
     if (!frame) continue;
-    // Two bytes of a picture or of noise look like a frame too: another one, or the end, must follow it.
+    // Other data can begin like a frame by chance, so another frame or the end must follow.
     const std::size_t next = at + frame->bytes;
     if (start + next != end && !frameAt(bytes, next)) continue;
     const std::uint64_t sound = end - start - at;

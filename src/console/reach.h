@@ -1,4 +1,4 @@
-// What a rider can touch: only what he can see and what answers him.
+// What a rider can touch: only what he can see and what is enabled.
 #pragma once
 
 #include "platform/component.h"

@@ -1,4 +1,4 @@
-// The machine's clock, run faster, that listens to the terminal while it sleeps.
+// The machine's clock, run faster; it listens to the terminal while it sleeps.
 #pragma once
 
 #include "console/terminal.h"

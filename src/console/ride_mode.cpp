@@ -53,7 +53,7 @@ class ScratchFolder {
   fs::path session_;
 };
 
-// Shows messages, agrees to them (a conversion meets only the copy), and always chooses the one session.
+// Shows messages and agrees to them (a conversion changes only the copy); always chooses the one session.
 class RideDialogs final : public platform::Dialogs {
  public:
   RideDialogs(RideScreen& screen, std::string session) : screen_(screen), session_(std::move(session)) {}
@@ -70,7 +70,7 @@ class RideDialogs final : public platform::Dialogs {
   std::string session_;
 };
 
-// Says on the screen what the loudspeaker would, for as long as it would.
+// Prints what the loudspeaker would say, and takes as long as it would.
 class WrittenVoice final : public platform::SoundOutput {
  public:
   WrittenVoice(RideScreen& screen, platform::SoundOutput& silence) : screen_(screen), silence_(silence) {}
@@ -127,7 +127,7 @@ class Ride {
   }
 
  private:
-  // As a rider does: to the editor, add the file, hand the list over, start the countdown.
+  // As a rider does it: goes to the editor, adds the file, hands the list over, starts the countdown.
   bool load() {
     forms::CreerCycle& editor = program_.screens().editor;
     press(main_.MyButton5);
@@ -171,7 +171,7 @@ class Ride {
 
   void cancel() {
     cancelling_ = true;
-    if (!press(main_.MyButton4)) press(main_.MyButton2);  // the countdown's own, while its frame is open
+    if (!press(main_.MyButton4)) press(main_.MyButton2);  // while the countdown frame is open, its own cancel
     loop_.quit();
   }
 

@@ -39,8 +39,8 @@ class RiderCommands {
 
   platform::Control& control(Arguments& arguments, std::string_view command,
                              std::initializer_list<platform::ControlKind> kinds);
-  // Does it, or throws Refusal. A touch takes the keyboard from the list that had it; the pointer alone does
-  // not.
+  // Both throw Refusal if the rider cannot reach the control. touch() also moves the keyboard away from the
+  // list that had it; point() does not.
   void touch(const platform::Component& target, const Action& action);
   void point(const platform::Component& target, const Action& action);
   void reach(const platform::Component& target);

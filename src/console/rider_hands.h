@@ -1,5 +1,5 @@
-// The rider's hands: what he does to a control that he can touch. Who may be touched, and what kind of
-// control a command suits, is decided before; the hands only do it.
+// The rider's hands: how his actions reach a control, directly or through a window's widgets. Whether he can
+// touch the control, and whether the action suits its kind, has been checked before.
 #pragma once
 
 #include <string>

@@ -17,7 +17,7 @@ class ScriptedDialogs final : public platform::Dialogs {
 
   // "ok", "cancel", "yes", "no", or for a file dialog one or several paths parted by '|'.
   void queue(std::string answer) { answers_.push_back(std::move(answer)); }
-  // Told of an answer that its dialog cannot take and that was put aside.
+  // Called with a text about an answer that did not suit its dialog and was dropped.
   void onMisfit(std::function<void(const std::string&)> told) { misfit_ = std::move(told); }
 
   platform::Answer message(const platform::Message& message) override;

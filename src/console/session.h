@@ -22,8 +22,8 @@ namespace console {
 
 class Session {
  public:
-  // `folder` is absolute. `hands` are those of a front with windows, which also tells of its pop-up menus;
-  // none: hands on the controls themselves. `files` stands in for the disk.
+  // `folder` is absolute. `hands` belong to a front with windows, which then also reports its pop-up menus;
+  // without them the controls are worked directly. `files` replaces the disk.
   Session(const Options& options, const std::string& folder, std::ostream& out, RiderHands* hands = nullptr,
           platform::FileSystem* files = nullptr);
 
@@ -32,7 +32,7 @@ class Session {
 
   [[nodiscard]] app::Program& program() { return program_; }
   [[nodiscard]] Interpreter& interpreter() { return interpreter_; }
-  // Writes the recorder's take to a file, for a front that shows its form; the journal knows nothing of it.
+  // Writes the recorder's take to a file, for a front that draws its curve; not in the journal.
   void saveTake(const std::string& path) { media_.save("capture", path); }
 
  private:

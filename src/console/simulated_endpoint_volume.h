@@ -1,4 +1,4 @@
-// The simulated machine's master volume: a stereo loudspeaker that is only a level and a journal.
+// The simulated machine's master volume, of a stereo loudspeaker; changes are written to the journal.
 #pragma once
 
 #include <cmath>

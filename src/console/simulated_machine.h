@@ -1,4 +1,4 @@
-// What other programs and the rider's hands may change on the machine while the program runs.
+// What may change on the machine while the program runs, by other programs or by the rider.
 #pragma once
 
 #include <optional>

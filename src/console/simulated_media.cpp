@@ -16,7 +16,7 @@ using platform::MediaFigure;
 using platform::RecordingFormat;
 using platform::TimeFormat;
 
-// A4 at half the full level, coming and going as syllables and sentences do.
+// A tone of 440 Hz at half the full level, which comes and goes as syllables and sentences do.
 std::vector<unsigned char> tone(const RecordingFormat& format, std::int64_t milliseconds) {
   constexpr double pitch = 440;
   constexpr double halfSyllable = 0.35;  // seconds
@@ -46,7 +46,7 @@ SimulatedMedia::Device* SimulatedMedia::now(const std::string& alias) {
   Device& device = found->second;
   const std::int64_t passed = (clock_.now() - device.since).count();
   if (device.mode == Mode::Playing) {
-    // The instant stays that of the start, so that looking often loses no fraction of a millisecond.
+    // `since` stays the time of the start, so that frequent queries lose no fractions of a millisecond.
     const std::int64_t reached = device.position + passed * device.speed / 1000;
     if (reached >= device.length) {
       device.position = device.length;

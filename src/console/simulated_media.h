@@ -46,7 +46,7 @@ class SimulatedMedia final : public platform::MediaBackend {
     std::int64_t length = 0;  // ms
     std::int64_t position = 0;
     Mode mode = Mode::Stopped;
-    platform::Instant since{0};  // when the position was as it says
+    platform::Instant since{0};  // when `position` was right
     int speed = 1000;
     platform::TimeFormat timeFormat = platform::TimeFormat::Milliseconds;
     platform::RecordingFormat format;

@@ -1,4 +1,4 @@
-// The program's own level, which is only a journal.
+// The program's own level; changes are written to the journal.
 #pragma once
 
 #include <cstdio>

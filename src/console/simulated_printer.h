@@ -1,4 +1,5 @@
-// A printer whose paper is the journal: a line an operation, and the rows of each page below its picture.
+// A printer that writes to the journal: a line for each operation, and the rows of each page below its
+// picture.
 #pragma once
 
 #include "console/journal.h"

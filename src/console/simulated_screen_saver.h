@@ -1,4 +1,4 @@
-// A screen saver that is armed at the start and is only a journal.
+// A screen saver that is on at the start; changes are written to the journal.
 #pragma once
 
 #include "console/journal.h"

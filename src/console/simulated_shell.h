@@ -1,4 +1,4 @@
-// A desktop that opens nothing and is only a journal. The machine has a network.
+// A desktop that opens nothing, but writes what it should open to the journal. The machine has a network.
 #pragma once
 
 #include "console/journal.h"

@@ -1,4 +1,4 @@
-// A loudspeaker that is only a journal and, where wanted, the time that a sound takes.
+// A loudspeaker that writes each sound to the journal and, where wanted, lets its length pass.
 #pragma once
 
 #include <string>
@@ -21,7 +21,7 @@ class SimulatedSound final : public platform::SoundOutput {
   SimulatedSound(SoundMode mode, platform::FileSystem& files, std::string folder, Journal& journal)
       : mode_(mode), files_(files), folder_(std::move(folder)), journal_(journal) {}
 
-  // The loop that a timed sound stops; to be given before the first one.
+  // The loop that a timed sound blocks; to be given before the first sound.
   void attach(platform::EventLoop& loop) { loop_ = &loop; }
 
   bool hasDevice() override { return mode_ != SoundMode::None; }

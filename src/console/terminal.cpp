@@ -36,7 +36,7 @@ Terminal::Terminal() : redraws_(isatty(STDOUT_FILENO) != 0) {
   keys.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
   keys.c_cc[VMIN] = 0;
   keys.c_cc[VTIME] = 0;
-  // A program in the background would be stopped by this call, with nothing to put back.
+  // In the background the call below would stop the program.
   if (tcgetpgrp(STDIN_FILENO) != getpgrp()) return;
   tcsetattr(STDIN_FILENO, TCSANOW, &keys);
   saved_ = std::move(saved);

@@ -1,4 +1,4 @@
-// The person's terminal: single keys without Enter while one lives, and the terminal as it was afterwards.
+// The person's terminal: gives single keys without Enter, and is put back as it was at the end.
 #pragma once
 
 #include <chrono>

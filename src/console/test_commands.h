@@ -1,4 +1,4 @@
-// The commands that only a test gives: they look at everything, write from outside, and let time pass.
+// The commands for tests alone: they read everything, write to controls from outside, and let time pass.
 #pragma once
 
 #include <ostream>

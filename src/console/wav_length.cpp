@@ -85,7 +85,7 @@ std::optional<std::chrono::milliseconds> wavLength(platform::RandomFile& wav) {
   constexpr std::uint32_t pcm = 1;
   constexpr std::uint32_t msAdpcm = 2;
   constexpr std::uint32_t floating = 3;
-  constexpr std::uint32_t extensible = 0xFFFE;  // samples of any width, told in more words
+  constexpr std::uint32_t extensible = 0xFFFE;  // samples of any width, with a longer header
   if (!reads(wav, 0, "RIFF") || !reads(wav, 8, "WAVE")) return std::nullopt;
   const Chunks chunks = chunksOf(wav);
   if (chunks.format.size < 16) return std::nullopt;

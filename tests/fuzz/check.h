@@ -1,4 +1,4 @@
-// What must hold for every input: a broken promise ends the fuzz target.
+// A condition that must hold for every input; if it does not, the fuzz target aborts.
 #pragma once
 
 #include <cstdlib>

@@ -1,6 +1,6 @@
-// The bytes of the input are a rider at the editor, four for each thing that he does: clicks, picks, typed
-// values, commands, waits, saves and loads. Whatever he does the list keeps its shape, and nothing fails but
-// what he is told.
+// Turns the bytes of the input into a rider's actions at the editor, four bytes each: clicks, picks, typed
+// values, commands, waits, saves and loads. Whatever he does the list keeps its shape, and every fault is one
+// that he is told.
 #include <algorithm>
 #include <array>
 #include <functional>
@@ -65,7 +65,7 @@ class Rider {
     done_ += commands + "\n";
     return program_.run(commands);
   }
-  // A broken promise shows the commands that broke it.
+  // On a failure, prints the commands that led to it.
   void check(bool holds, const std::string& promise) const {
     if (!holds) fuzz::check(false, promise + " after\n" + done_);
   }

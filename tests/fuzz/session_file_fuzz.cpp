@@ -23,7 +23,7 @@ void load(support::MemoryFileSystem& files, const std::string& path) {
   }
   fuzz::check(grid.text(1, model::column::sessionName) == "Nouvelle Séance", "the first row stays");
   fuzz::check(grid.text(grid.rowCount(), model::columnCount + 1).empty(), "thirteen cells a row");
-  // What was read is written and read again alike.
+  // What was read is the same after writing and reading it again.
   model::ecrireSeance(files, "/d/again.tq2", grid);
   const int sequences = model::lireEnTete(files, "/d/again.tq2").nbEnreg - 1;
   const int before = grid.rowCount();

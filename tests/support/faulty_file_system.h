@@ -17,7 +17,7 @@ class FaultyFileSystem final : public platform::FileSystem {
 
   explicit FaultyFileSystem(platform::FileSystem& inner) : inner_(inner) {}
 
-  // The call of that kind numbered `number` from now (1 is the next) fails, and so do those after it.
+  // From the call of that kind numbered `number` on (1 is the next one), all fail.
   void failFrom(Call call, int number) { failing_ = call, left_ = number; }
   void heal() { left_ = -1; }
 

@@ -1,5 +1,4 @@
-// A master volume, a desktop and a printer that keep what was asked of them; the printer can run out of
-// memory or paper.
+// A master volume, a desktop and a printer that record what they are asked; the printer can be made to fail.
 #pragma once
 
 #include <functional>

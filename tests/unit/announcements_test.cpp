@@ -55,7 +55,7 @@ TEST_F(RecordingPage, AsksBeforeReplacingAndPassesOverAFullDisk) {
   program.run("answer Autre\npress EnrUneAnnonce.Command1");
   EXPECT_EQ(form.Label14.caption, "(Autre)Enregistrée");
   EXPECT_EQ(saved("Autre.wav").size(), 45 + 11025U);  // padded to an even length
-  // Where not even the scratch file is written, the one before is not taken for it.
+  // If the scratch file cannot be written, the older one is not saved in its place.
   program.run("press EnrUneAnnonce.MyButton7\nanswer Rien\ncall EnrUneAnnonce.Command1");
   EXPECT_EQ(saved("Rien.wav"), "");
 }
@@ -68,8 +68,8 @@ TEST_F(RecordingPage, TellsWhyAnAnnouncementDoesNotOpen) {
   EXPECT_THAT(program.run(open), testing::HasSubstr("ERR #75\tImpossible d'ouvrir"));
 }
 
-// What waited for a take that is gone changes nothing: left at any moment there is nothing to save, and a new
-// take begun at any moment runs on.
+// A wait for a take that was discarded changes nothing afterwards: whenever the rider leaves there is nothing
+// to save, and whenever he begins a new take it runs on.
 TEST_F(RecordingPage, LeavingOrATakeAnewMayComeAtAnyMoment) {
   for (int tenths = 1; tenths < 90; ++tenths) {
     for (const platform::Button* button : {&form.MyButton7, &form.Command2}) {

@@ -46,7 +46,7 @@ TEST(ControlEvents, WritesFromCodeRaiseEventsByTheTable) {
   }
   EXPECT_THAT(raised, ElementsAre("check", "option", "combo", "bar", "combo"));
   raised.clear();
-  form.combo.pick(1);  // the rider's pick comes even on the line that stands
+  form.combo.pick(1);  // a pick by the rider raises the click even on the line already picked
   form.bar.scrollTo(1000);
   form.combo.pick(7);
   EXPECT_THAT(raised, ElementsAre("combo", "bar", "bar scrolled"));

@@ -28,7 +28,7 @@ class DiskFileSystemTest : public testing::Test {
   platform::DiskFileSystem disk_;
 };
 
-// The disk and its make in memory must agree, or tests on the latter prove nothing.
+// The real disk and the one in memory must agree, or tests with the latter prove nothing.
 void writesAndReadsAnywhere(platform::FileSystem& files, const std::string& folder) {
   files.makeFolder(folder);
   const std::string path = folder + "/é b.tq2";

@@ -88,7 +88,7 @@ TEST_F(Editor, ATextThatIsNoDurationStaysOutOfThePlan) {
     EXPECT_EQ(program.list().style(3, column::duration), model::rowStyle::unfinished) << text;
     EXPECT_EQ(program.list().selectedRow(), 3);
     EXPECT_FALSE(form.MyButton5.visible) << text;
-    // The way on is the duration's own box, where the cell can be opened.
+    // Where the cell can be opened, the rider goes on by its duration boxes.
     program.list().setText(3, column::duration, text == std::string("-----") ? "00:00:00" : text);
     program.run(
         "cell CreerCycle.ListView1 3 10\npick CreerCycle.Combo4 01\ncall CreerCycle.Command1\nadvance 1");

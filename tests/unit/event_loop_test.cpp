@@ -78,7 +78,7 @@ TEST_F(Loop, AHandlerThatWaitsIsNotEnteredAgainButOthersAre) {
     fired_.push_back("out" + std::to_string(clock_.now().count()));
   });
   advance(400ms);
-  // Its own event fell due at 200 and 300 and comes once, as soon as the handler is free.
+  // The timer fell due at 200 and at 300 while its handler ran, and fires once when that has ended.
   EXPECT_THAT(fired_, ElementsAre("in100", "second100", "second200", "second300", "out350", "in350",
                                   "second400", "second500", "second600", "out600"));
 }
@@ -108,7 +108,7 @@ TEST_F(Loop, WhatIsHeldBackDuringASoundRunsInOrderWhereEventsAreServed) {
   const auto say = [this](const char* what) { return [this, what] { fired_.emplace_back(what); }; };
   const auto sound = [this](Instant length, auto... during) {
     const platform::EventLoop::Blocking outer(loop_);
-    const platform::EventLoop::Blocking inner(loop_);  // a device's own, inside the voice's
+    const platform::EventLoop::Blocking inner(loop_);  // a device blocks inside the voice's block
     (loop_.whenFree(during), ...);
     clock_.sleepUntil(clock_.now() + length);
   };
@@ -128,7 +128,7 @@ TEST_F(Loop, WhatIsHeldBackDuringASoundRunsInOrderWhereEventsAreServed) {
 
   fired_.clear();
   sound(10ms, say("first"));
-  loop_.whenFree(say("second"));  // freed, and not served yet
+  loop_.whenFree(say("second"));  // free again, but no events served yet
   EXPECT_THAT(fired_, ElementsAre("first", "second"));
   sound(
       10ms, [this] { loop_.quit(); }, say("too late"));

@@ -193,14 +193,14 @@ TEST_F(HeartRate, SavesTheScreenUnderTheRidersOwnMethod) {
   EXPECT_EQ(calculator.figures().persoFCMax, "018");
   EXPECT_EQ(form.Combo12.text, "55");
   EXPECT_EQ(form.Combo8.index, 5);
-  // The grid's own box still shows the old method, and has the last word.
+  // The box over the grid still shows the old method, and is the one that counts.
   EXPECT_EQ(calculator.figures().methodeFC, 3);
 }
 
 TEST_F(HeartRate, KeepsEverythingWhenSavingAtTheClosingFails) {
   load(saved);
   form.MyButton25.click();
-  form.Combo10.text = "Masculin";  // alone no reason to ask
+  form.Combo10.text = "Masculin";  // on its own no reason to ask
   form.Command2.click();
   EXPECT_FALSE(form.Picture8.visible);
   form.MyButton25.click();
@@ -240,7 +240,7 @@ TEST_F(HeartRate, AsksForWhatTheMethodNeeds) {
       form.Picture8.visible = false;
       byMethod ? form.Combo8.pick(row.methode) : form.MyButton38.click();
       EXPECT_EQ(form.Picture8.visible, row.asked != nullptr);
-      // Also after a failed check: what is missing has its box.
+      // After a failed check, too, so that the rider can enter what is missing.
       EXPECT_EQ(form.Combo12.visible, row.methode >= 4) << row.methode;
       ASSERT_EQ(dialogs.messages.size(), row.asked != nullptr ? 1U : 0U) << row.methode << row.age;
       if (row.asked == nullptr) continue;
@@ -377,7 +377,7 @@ TEST_F(HeartRate, OffersToSaveOnlyWhatDiffersOnTheLastMethod) {
   EXPECT_EQ(offered(), std::pair(false, false));
   form.Combo10.text = "Masculin";
   form.Check1.value = 0;
-  EXPECT_EQ(offered(), std::pair(true, false));  // the second one for good
+  EXPECT_EQ(offered(), std::pair(true, false));  // MyButton38 stays hidden
   EXPECT_EQ(form.Check1.value, 1);
   form.Combo8.index = 1;
   EXPECT_EQ(offered(), std::pair(false, false));

@@ -32,7 +32,7 @@ struct PlayerTest : testing::Test {
     alias = alias.substr(0, alias.find(' '));
   }
 
-  // What was sent since the last look, without the looks at the position; a line each, the alias as A.
+  // The commands since the last call, a line each, without the queries of the position; the alias reads A.
   std::string media() {
     std::istringstream journal(program.run("journal media"));
     std::string sent;
@@ -72,7 +72,7 @@ TEST_F(PlayerTest, OpensInOrderAndTellsTheLength) {
   EXPECT_EQ(form.Label2.caption, library.Label5.caption.get());
   EXPECT_THAT(form.Label2.caption.get(), HasSubstr("0:00:00."));
   advance("5");
-  EXPECT_EQ(library.Label5.caption, program.state().dureeMusique);  // held there, a selection decides
+  EXPECT_EQ(library.Label5.caption, program.state().dureeMusique);  // stays there: a selection decides
   EXPECT_EQ(media(), "");
   form.Timer3.enabled = true;
   advance("0.001");
@@ -101,7 +101,7 @@ TEST_F(PlayerTest, PausesByButtonTimersAndTheRidesOrders) {
   // A command, or an order of the ride; what is sent; the button's caption.
   const std::tuple<std::string, std::string, std::string> rows[] = {
       {"call LectMCI.Command5", "", "||"},
-      {"oui", "play A\n", "||"},  // nobody asks whether something is open
+      {"oui", "play A\n", "||"},  // sent even if nothing is open
       {start, "open", "||"},
       {"call LectMCI.Command5", "stop A\n", "|>"},
       {"call LectMCI.CMspeed(2)", "", "|>"},
@@ -143,7 +143,7 @@ TEST_F(PlayerTest, StepsThroughItsListUnlessASelectionDrives) {
   form.File1.key("Enter");
   EXPECT_THAT(media(), HasSubstr("open MPEGVideo!/d/ambiances/d.mp3 alias A "));
   EXPECT_EQ(library.Label6.caption, "d.mp3");
-  advance("1.6");  // its end, and round to the first
+  advance("1.6");  // it ends, and the list goes on with its first
   EXPECT_EQ(form.File1.index, 0);
   EXPECT_THAT(media(), HasSubstr("stop A\nclose A\nopen MPEGVideo!/d/ambiances/a & b.mp3 alias A "));
   form.Command3.click();

@@ -13,7 +13,7 @@ using support::SimulatedProgram;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-// The player tells the kind of a file by its bytes, whatever its name.
+// The player finds the kind of a file from its bytes, whatever its name.
 std::string piece(int seconds) {
   return support::wavOf(1000 * seconds);
 }
@@ -157,7 +157,7 @@ struct MusicRide : Library {
   void chooseMode(const std::string& box) {
     program.run("press MainForm.mnsons\ntick MainForm." + box + " 1\npress MainForm.MyButton6\njournal");
   }
-  // The voice and the orders to the music in their order: prompts "v", then "play", "stop", "open".
+  // Prompts ("v") and commands to the music ("play", "stop", "open") in their order.
   std::string heard() {
     std::istringstream lines(program.run("journal"));
     std::string all;
@@ -177,7 +177,7 @@ TEST_F(MusicRide, StartsWithTheRideAndYieldsToTheVoice) {
   chooseMode("Check10");
   EXPECT_EQ(playing(), "");
   program.run("press MainForm.MyButton3\nadvance 12");
-  // From the opening on a stop before each voice; the last three are the piece again at its end.
+  // From "open" on a stop before each prompt; the last three play the piece again after its end.
   EXPECT_EQ(heard(), "v stop v open play stop v stop v play stop v play stop open play ");
   EXPECT_EQ(playing(), "b.mp3");
   EXPECT_TRUE(program.screens().main.MyButton21.visible);
@@ -186,8 +186,8 @@ TEST_F(MusicRide, StartsWithTheRideAndYieldsToTheVoice) {
 TEST_F(MusicRide, PlaysOnUnderTheVoiceInTheOtherMode) {
   chooseMode("Check11");
   program.run("press MainForm.MyButton3\nadvance 12");
-  // The start countdown alone silences it; behind each boundary it is told to go on, and "stop open play" is
-  // its end.
+  // Only the start countdown silences it; after each boundary it is told to play, and "stop open play" is the
+  // piece starting again.
   EXPECT_EQ(heard(), "v stop v open play v play stop open play v stop open play ");
   const forms::MainForm& main = program.screens().main;
   EXPECT_FALSE(main.MyButton19.visible);

@@ -14,7 +14,7 @@ struct Ride {
   std::string settings;
   SoundMode sound;
   const char* passes;
-  int firstTenth;  // what goes before is as in another ride
+  int firstTenth;  // before it, the ride is the same as another one of the table
   bool music;
 };
 
@@ -48,7 +48,7 @@ class Ways : public testing::TestWithParam<Ride> {
     return !main().MyButton1.enabled && !main().MyButton4.enabled && !main().Command7.enabled;
   }
 
-  // From wherever the press has led: the list handed over anew, and the countdown begun.
+  // Whatever the press has led to, hands the list over again and starts the countdown.
   void startAnew() {
     if (paused()) pressWhenOpen(main().Command7);
     run("press MainForm.MyButton5\nadvance 0.1\npress CreerCycle.MyButton5\nadvance 0.2");
@@ -63,7 +63,7 @@ class Ways : public testing::TestWithParam<Ride> {
     for (int tenth = 0; !button.enabled && tenth < 60; ++tenth) run("advance 0.1");
     ASSERT_EQ(run("press MainForm." + button.name()), "");
   }
-  // What is said until the end, without its moments.
+  // All prompts until the end, without their times.
   std::string wholeRide() {
     startAnew();
     std::istringstream lines(run("advance 120\njournal prompt"));
@@ -74,7 +74,7 @@ class Ways : public testing::TestWithParam<Ride> {
   void pressAt(int tenth, const std::string& button) {
     startAnew();
     const std::string moment = std::to_string(tenth / 10.0);
-    // Who goes to the editor by the menu hands over at once, which may come just before a wait ends.
+    // The way by the menu leads to a hand-over at once, perhaps just before a wait ends.
     if (button == "mnCreat") run("at " + std::to_string(tenth / 10.0 + 0.05) + " press CreerCycle.MyButton5");
     const bool refused = run("at " + moment + " press MainForm." + button + "\nadvance " + moment) != "";
     for (int second = 0, shut = 0; second < 6; ++second) {
@@ -82,7 +82,7 @@ class Ways : public testing::TestWithParam<Ride> {
       shut = closed() && riding() ? shut + 1 : 0;
       ASSERT_LT(shut, 5);
     }
-    // The cancel leaves the music playing, whatever it was held for, and the stop leaves it silent.
+    // After a cancel the music plays, even if it was being held; after a stop it is silent.
     if (GetParam().music && !refused && (button == "MyButton4" || button == "MyButton1")) {
       EXPECT_EQ(program_.screens().player.Command5.caption.get(), button == "MyButton4" ? "||" : "|>");
     }
@@ -102,8 +102,8 @@ class Ways : public testing::TestWithParam<Ride> {
 
 TEST_P(Ways, LeadOnFromEveryPressAtEveryTenth) {
   wholeRide();
-  const std::string whole = wholeRide();  // behind a silent end the cancel at the end is silent, too
-  // Those of the countdown's frame can be pressed no longer than it stands.
+  const std::string whole = wholeRide();  // without a spoken end, the cancel at the end does not speak either
+  // The buttons of the countdown frame can be pressed only while it is open.
   const std::pair<const char*, int> buttons[] = {{"MyButton1", 170}, {"Command7", 170}, {"MyButton4", 170},
                                                  {"MyButton5", 170}, {"mnCreat", 170},  {"MyButton9", 15},
                                                  {"MyButton2", 15},  {"MyButton3", 15}, {"MyButton21", 30}};

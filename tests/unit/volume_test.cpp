@@ -38,7 +38,7 @@ TEST(MasterVolume, IsFixedAtItsMakingAndInertWithoutADevice) {
   device.present = false;
   device.silent = true;
   clsAfMasterVolume master(device);
-  device.present = true;  // comes too late for this one
+  device.present = true;  // too late: it was asked once, at its making
   EXPECT_FALSE(master.VolumeEnabled() || master.MuteEnabled() || master.Mute());
   EXPECT_EQ(master.Percent(), 0);
   EXPECT_EQ(master.GetNumberOfDevices(), 0);
