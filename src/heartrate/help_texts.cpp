@@ -39,7 +39,7 @@ constexpr std::array<HelpText, 12> texts{{
      "L'Affichage de ces Infos se feront que si vous avez Déterminé leurs Pourcentages en Fonction du Choix des Formules de Calculs pour la (Fréquence Cardiaque de Travail), correspondantes aux Séquences Individuelles dans vos Séances d'Entraînement...\n\nColonne de Droite dans la Liste Principale de vos créations ou Modifications des Séances d'Entraînements..."},
 }};
 
-// Beside the two lines that are not shown.
+// The help of the two hidden lines, shown on hover.
 constexpr std::array<HelpText, 2> hoverTexts{{
     {&CreerCycle::MyButton27,
      "La fréquence cardiaque de récupération est calculée en observant la baisse de fréquence cardiaque sur une période donnée, par exemple sur une minute après une séance d'exercice."},

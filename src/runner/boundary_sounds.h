@@ -1,4 +1,4 @@
-// Which prompt says a caption of the ride's screen. A caption that has none stays silent: an empty name.
+// The names of the sounds that speak the captions of the ride's screen; empty for a caption without a prompt.
 #pragma once
 
 #include <string>

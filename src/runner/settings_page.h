@@ -1,4 +1,4 @@
-// The sound-warning settings: the boxes with their couplings, and the file that keeps them.
+// The sound-warning settings: the boxes, of which some switch others, and the file that keeps them.
 #pragma once
 
 #include <array>
