@@ -65,24 +65,19 @@ struct HeartRate : testing::Test, support::Rig {
 };
 
 TEST(Formulas, GiveTheMaximalRateByMethod) {
-  struct Row {
-    int methode;
-    const char *age, *rest, *expected;
-  };
-  for (const Row& row : {Row{0, "40", "", "180"},
-                         {0, " 40.5 ", "", "179.5"},
-                         {1, "40", "", "178"},
-                         {1, "35", "", "182"},
-                         {1, "35 ans", "", "182"},
-                         {1, "", "", "206"},
-                         {2, "40", "", "179"},
-                         {3, "40", "", "179"},
-                         {3, "45", "", "176"},
-                         {4, "40", "60", "240"},
-                         {5, "40", "60", "none"},
-                         {-1, "40", "60", "none"}}) {
-    EXPECT_EQ(fcMaxMethode(row.methode, row.age, row.rest, "100").value_or("none"), row.expected)
-        << row.methode << ' ' << row.age;
+  for (const auto& [methode, age, rest, expected] : {std::tuple{0, "40", "", "180"},
+                                                     {0, " 40.5 ", "", "179.5"},
+                                                     {1, "40", "", "178"},
+                                                     {1, "35", "", "182"},
+                                                     {1, "35 ans", "", "182"},
+                                                     {1, "", "", "206"},
+                                                     {2, "40", "", "179"},
+                                                     {3, "40", "", "179"},
+                                                     {3, "45", "", "176"},
+                                                     {4, "40", "60", "240"},
+                                                     {5, "40", "60", "none"},
+                                                     {-1, "40", "60", "none"}}) {
+    EXPECT_EQ(fcMaxMethode(methode, age, rest, "100").value_or("none"), expected) << methode << ' ' << age;
   }
   for (const auto& [methode, age, rest] :
        {std::tuple{0, "abc", "60"}, {0, " ", "60"}, {4, "4O", "60"}, {4, "40", " "}})
@@ -91,20 +86,14 @@ TEST(Formulas, GiveTheMaximalRateByMethod) {
 
 TEST(Formulas, ReadTheOperandsOfTheWriterWhoAsks) {
   const TargetOperands mixed{"40", "60", "30", "190", "50"};
-  struct Row {
-    int methode;
-    double pick, rewrite;
-  };
-  for (const Row& row : {Row{0, 144, 152},
-                         {1, 148.2, 148.2},
-                         {2, 149.3872, 149.3872},
-                         {3, 148.8, 148.8},
-                         {4, 188, 188},
-                         {5, 162, 162}}) {
-    EXPECT_NEAR(cibleFC(TargetWriter::CellPick, row.methode, 80, mixed).value(), row.pick, 1e-9)
-        << row.methode;
-    EXPECT_NEAR(cibleFC(TargetWriter::ColumnRewrite, row.methode, 80, mixed).value(), row.rewrite, 1e-9)
-        << row.methode;
+  for (const auto& [methode, pick, rewrite] : {std::tuple{0, 144.0, 152.0},
+                                               {1, 148.2, 148.2},
+                                               {2, 149.3872, 149.3872},
+                                               {3, 148.8, 148.8},
+                                               {4, 188, 188},
+                                               {5, 162, 162}}) {
+    EXPECT_NEAR(cibleFC(TargetWriter::CellPick, methode, 80, mixed).value(), pick, 1e-9) << methode;
+    EXPECT_NEAR(cibleFC(TargetWriter::ColumnRewrite, methode, 80, mixed).value(), rewrite, 1e-9) << methode;
   }
   EXPECT_EQ(cibleFC(TargetWriter::CellPick, -1, 80, mixed), std::nullopt);
   // Only what the method reads has to be a number.
@@ -220,31 +209,28 @@ TEST_F(HeartRate, KeepsEverythingWhenSavingAtTheClosingFails) {
 
 TEST_F(HeartRate, AsksForWhatTheMethodNeeds) {
   load();
-  struct Row {
-    int methode;
-    const char *age, *fcMax, *rest, *asked;
-  };
-  for (const Row& row : {Row{0, " ", "", "", "au moins un (Age)...\nCe Paramètre vous"},
-                         {3, "40", "", "", nullptr},
-                         {4, " ", "", "60", "Persos,vous devez Choisir un (Age), puis une (FCRepos).\nCes"},
-                         {4, "40", "", " ", "un (Age), puis une (FCRepos).\nCes Paramètres vous"},
-                         {4, "40", "", "60", nullptr},
-                         {5, "40", " ", "60", "(Age), puis une (FCMaxi), puis une (FCRepos).\nCes"},
-                         {5, "40", "190", " ", "(Age), puis une (FCMaxi), puis une (FCRepos).\nCes"},
-                         {5, "40", "190", "60", nullptr}}) {
-    form.Combo7.text = row.age;
-    form.Combo11.text = row.fcMax;
-    form.Combo12.text = row.rest;
+  for (const auto& [methode, age, fcMax, rest, asked] :
+       {std::tuple{0, " ", "", "", "au moins un (Age)...\nCe Paramètre vous"},
+        {3, "40", "", "", nullptr},
+        {4, " ", "", "60", "Persos,vous devez Choisir un (Age), puis une (FCRepos).\nCes"},
+        {4, "40", "", " ", "un (Age), puis une (FCRepos).\nCes Paramètres vous"},
+        {4, "40", "", "60", nullptr},
+        {5, "40", " ", "60", "(Age), puis une (FCMaxi), puis une (FCRepos).\nCes"},
+        {5, "40", "190", " ", "(Age), puis une (FCMaxi), puis une (FCRepos).\nCes"},
+        {5, "40", "190", "60", nullptr}}) {
+    form.Combo7.text = age;
+    form.Combo11.text = fcMax;
+    form.Combo12.text = rest;
     for (const bool byMethod : {true, false}) {
       dialogs.messages.clear();
       form.Picture8.visible = false;
-      byMethod ? form.Combo8.pick(row.methode) : form.MyButton38.click();
-      EXPECT_EQ(form.Picture8.visible, row.asked != nullptr);
+      byMethod ? form.Combo8.pick(methode) : form.MyButton38.click();
+      EXPECT_EQ(form.Picture8.visible, asked != nullptr);
       // After a failed check, too, so that the rider can enter what is missing.
-      EXPECT_EQ(form.Combo12.visible, row.methode >= 4) << row.methode;
-      ASSERT_EQ(dialogs.messages.size(), row.asked != nullptr ? 1U : 0U) << row.methode << row.age;
-      if (row.asked == nullptr) continue;
-      EXPECT_THAT(dialogs.messages.front().text, HasSubstr(row.asked));
+      EXPECT_EQ(form.Combo12.visible, methode >= 4) << methode;
+      ASSERT_EQ(dialogs.messages.size(), asked != nullptr ? 1U : 0U) << methode << age;
+      if (asked == nullptr) continue;
+      EXPECT_THAT(dialogs.messages.front().text, HasSubstr(asked));
     }
   }
 }
@@ -281,36 +267,32 @@ TEST_F(HeartRate, ShowsTheResultsAndTheBoxesOfTheMethod) {
 TEST_F(HeartRate, CompletesAPickedPercentage) {
   load(record("30 Masculin190050", "01"));
   fillGrid({"000"});
-  struct Row {
-    int methode;
-    const char *age, *rest, *picked, *cell;
-    std::size_t messages;
-  };
-  for (const Row& row : {Row{0, "40", "60", "75 %", "135-75 %", 0},
-                         {0, "40", "60", "50 %", "90-50 %", 0},
-                         {1, "40", "60", "75 %", "139-75 %", 0},
-                         {4, "40", "60", "80 %", "188-80 %", 0},
-                         {5, "40", "60", "100 %", "190-100 %", 0},
-                         {0, "40", " ", "75 %", " ", 1},
-                         {2, " ", "60", "75 %", " ", 1},
-                         {5, " ", "60", "75 %", " ", 1},
-                         {0, " ", " ", " ", " ", 0},
-                         {0, "4O", "60", "75 %", "75 %", 0}}) {
+  for (const auto& [methode, age, rest, picked, cell, messages] :
+       {std::tuple{0, "40", "60", "75 %", "135-75 %", 0U},
+        {0, "40", "60", "50 %", "90-50 %", 0},
+        {1, "40", "60", "75 %", "139-75 %", 0},
+        {4, "40", "60", "80 %", "188-80 %", 0},
+        {5, "40", "60", "100 %", "190-100 %", 0},
+        {0, "40", " ", "75 %", " ", 1},
+        {2, " ", "60", "75 %", " ", 1},
+        {5, " ", "60", "75 %", " ", 1},
+        {0, " ", " ", " ", " ", 0},
+        {0, "4O", "60", "75 %", "75 %", 0}}) {
     form.Combo7.text = "40";
     form.Combo12.text = "60";
-    form.Combo13.index = row.methode;
-    form.Combo7.text = row.age;
-    form.Combo12.text = row.rest;
-    form.ListView1.setText(2, model::column::heartRate, row.picked);
+    form.Combo13.index = methode;
+    form.Combo7.text = age;
+    form.Combo12.text = rest;
+    form.ListView1.setText(2, model::column::heartRate, picked);
     dialogs.messages.clear();
     form.Picture8.visible = false;
-    calculator.viserCellule(2, row.picked);
-    EXPECT_EQ(target(2), row.cell) << row.methode << row.age << row.rest;
-    EXPECT_EQ(dialogs.messages.size(), row.messages) << row.methode << row.age << row.rest;
-    EXPECT_EQ(form.Picture8.visible, row.messages == 1);
-    if (row.messages == 0) continue;
+    calculator.viserCellule(2, picked);
+    EXPECT_EQ(target(2), cell) << methode << age << rest;
+    EXPECT_EQ(dialogs.messages.size(), messages) << methode << age << rest;
+    EXPECT_EQ(form.Picture8.visible, messages == 1);
+    if (messages == 0) continue;
     EXPECT_THAT(dialogs.messages.front().text,
-                HasSubstr(row.methode == 2 ? "au moins un (Age)" : "une (FCMaxi)"));
+                HasSubstr(methode == 2 ? "au moins un (Age)" : "une (FCMaxi)"));
   }
   form.Combo7.text = "40";
   form.Combo11.text = " ";
