@@ -8,6 +8,7 @@
 #include <array>
 
 #include "desktop/shortcuts.h"
+#include "forms/main_form_words.h"
 #include "ui_aide_tq.h"
 #include "widgets/accessible_faces.h"
 #include "widgets/qt_text.h"
@@ -158,8 +159,7 @@ void Windows::takeSession() {
   inbox_.pop_front();
   forms::Screens& screens = program_.screens();
   const forms::MainForm& main = screens.main;
-  const bool riding = main.Timer1.enabled || main.Timer2.enabled || main.Command7.caption != "Pause";
-  if (main.visible && !riding) main.MyButton5.click();
+  if (main.visible && !forms::rideUnderWay(main, program_.state())) main.MyButton5.click();
   screens.editor.sessionHandedIn(path);
 }
 

@@ -16,7 +16,6 @@ class Countdown {
   void basculerPause();
 
  private:
-  [[nodiscard]] bool somethingRuns() const;
   void leaveFrame();
   void chooseLength();
   void chooseManualTime();

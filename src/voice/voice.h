@@ -5,6 +5,7 @@
 
 #include "context/context.h"
 #include "forms/lect_mci_words.h"
+#include "forms/sound_settings_words.h"
 
 namespace voice {
 
@@ -39,7 +40,7 @@ class Voice {
   void dire(const std::string& name);
 
  private:
-  [[nodiscard]] bool musiqueCede() const { return main_.Check10.value == 1 && forms::musicLoaded(player_); }
+  [[nodiscard]] bool musiqueCede() const { return forms::musicYields(main_) && forms::musicLoaded(player_); }
 
   model::SharedState& state_;
   platform::EventLoop& loop_;
