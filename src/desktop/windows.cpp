@@ -45,7 +45,7 @@ Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice cho
   installAccessibleFaces();
   forms::Screens& screens = program.screens();
   mainView_ = std::make_unique<MainView>(screens.main, program.state(), *mainPage_);
-  editorView_ = std::make_unique<EditorView>(screens.editor, *editorPage_, binder_);
+  editorView_ = std::make_unique<EditorView>(screens.editor, program.state(), *editorPage_, binder_);
   announceView_ =
       std::make_unique<AnnounceView>(screens.announcements, program.state(), *announcePage_, binder_);
   const std::array<std::pair<platform::Form*, QWidget*>, 3> pages{

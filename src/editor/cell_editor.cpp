@@ -6,6 +6,7 @@
 #include "editor/cell_texts.h"
 #include "editor/layout.h"
 #include "editor/row_rules.h"
+#include "forms/creer_cycle_words.h"
 #include "forms/lect_mci_words.h"
 #include "forms/music_buttons.h"
 #include "model/grid_rows.h"
@@ -20,7 +21,6 @@ namespace {
 namespace column = model::column;
 
 constexpr const char* refusal = "Cette Zone n'est pas Modifiable";
-const platform::Colour refusalColour = platform::Colour::rgb(255, 255, 255);
 const platform::Colour deletionColour = platform::Colour::rgb(0, 0, 128);
 
 }  // namespace
@@ -35,7 +35,7 @@ CellEditor::CellEditor(const context::Context& context, heartrate::Calculator& c
   editor_.Combo1.click.handle([this] { validerChoix(); });
   editor_.Combo1.enter.handle([this] { validerSaisie(); });
   editor_.Combo1.validate.handle([this] { ecouterAnnonce(); });
-  for (auto* box : {&editor_.Combo2, &editor_.Combo3, &editor_.Combo4}) {
+  for (platform::ComboBox* box : forms::durationBoxes(editor_)) {
     box->click.handle([this] { validerDuree(); });
     box->enter.handle([this] { validerDuree(); });
     box->validate.handle([this] { finishDuration(); });
@@ -190,7 +190,7 @@ void CellEditor::placeOverCell() {
 // No editor stays open on a refused cell, so that the badge can go by itself.
 void CellEditor::refuse() {
   endEditing();
-  showBadge(refusal, refusalColour);
+  showBadge(refusal, forms::refusalColour);
 }
 
 void CellEditor::showBadge(const std::string& text, const platform::Colour& colour) {
@@ -222,7 +222,7 @@ void CellEditor::presserCellule(platform::MouseButton button) {
     return;
   }
   editor_.Label4.caption = refusal;
-  editor_.Label4.colour = refusalColour;
+  editor_.Label4.colour = forms::refusalColour;
   // The right button selects its row without a click: the editor that is open would write there.
   if (button == platform::MouseButton::Right) endEditing();
   const bool menu = button == platform::MouseButton::Right && onDelete;
@@ -284,10 +284,7 @@ std::string CellEditor::presentDuration() const {
 }
 
 void CellEditor::fillDurationBoxes() {
-  const std::string duration = presentDuration();
-  editor_.Combo2.text = platform::left(duration, 2);
-  editor_.Combo3.text = platform::mid(duration, 4, 2);
-  editor_.Combo4.text = platform::mid(duration, 7, 2);
+  forms::showInBoxes(forms::durationBoxes(editor_), forms::timeParts(presentDuration()));
 }
 
 // What the boxes stand for, "7" being "07". A box that stands for no entry of its list goes back to the
@@ -296,7 +293,7 @@ std::string CellEditor::chosenDuration() {
   const std::string texts[] = {editor_.Combo2.text, editor_.Combo3.text, editor_.Combo4.text};
   fillDurationBoxes();
   std::size_t next = 0;
-  for (auto* box : {&editor_.Combo2, &editor_.Combo3, &editor_.Combo4}) {
+  for (platform::ComboBox* box : forms::durationBoxes(editor_)) {
     const std::string typed = platform::trim(texts[next++]);
     const std::vector<std::string>& lines = box->lines();
     if (const std::optional<std::string> line = model::lineFor(lines, typed)) {
@@ -306,7 +303,7 @@ std::string CellEditor::chosenDuration() {
                                 ") à (" + lines.back() + ")...";
     }
   }
-  return editor_.Combo2.text.get() + ":" + editor_.Combo3.text.get() + ":" + editor_.Combo4.text.get();
+  return forms::timeInBoxes(forms::durationBoxes(editor_));
 }
 
 void CellEditor::validerDuree() {

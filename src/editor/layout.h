@@ -5,8 +5,6 @@
 
 namespace editor {
 
-// "Annuler ce Cycle" on its button is what cycle mode is.
-[[nodiscard]] bool inCycleMode(const forms::CreerCycle& form);
 // Sets the columns back to their widths, which the rider may have dragged or a mode changed.
 void recalerColonnes(forms::CreerCycle& form);
 // The grid's own size in the normal or the maximised list mode.

@@ -2,11 +2,13 @@
 // the music. Everything belongs to the event loop's thread.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
+#include "model/heart_zone.h"
 #include "model/run_plan.h"
 #include "model/time_value.h"
 
@@ -48,6 +50,10 @@ struct SharedState {
   // The music's own state.
   std::string selectionEnCours;  // "oui" while a selection drives the music, else empty
   std::string dureeMusique;      // length of the current piece, as the player shows it
+
+  // What the screens tell in words, as numbers: for what draws it.
+  // As the calculator shows them: safety, light, light to moderate, moderate, strong.
+  std::array<HeartZone, 5> heartZones;
 
   // The program's folders, each ending in a separator.
   std::string dossierProgramme;
