@@ -176,7 +176,8 @@ void MainView::refreshProfile() {
 
 void MainView::refreshCountdown() {
   const int length = forms::countdownLength(main_);
-  ui_->Label9->setTotal(length > 0 ? length : forms::usualCountdown);
+  ui_->Label9->setShare(static_cast<double>(forms::countdownLeft(main_)) /
+                        (length > 0 ? length : forms::usualCountdown));
   const bool planned = !ui_->countdownProfile->steps().empty();
   ui_->firstText->setText(planned ? QStringLiteral("D'abord : ") + describe(1) : QString());
 }
