@@ -31,6 +31,7 @@ class StoredAnnouncements {
 
   context::Context context_;
   forms::EnrUneAnnonce& page_;
+  model::Playback& sound_;
 };
 
 }  // namespace announcements

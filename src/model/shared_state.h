@@ -9,7 +9,9 @@
 #include <vector>
 
 #include "model/heart_zone.h"
+#include "model/playback.h"
 #include "model/run_plan.h"
+#include "model/take.h"
 #include "model/time_value.h"
 
 namespace model {
@@ -52,6 +54,9 @@ struct SharedState {
   std::string dureeMusique;      // length of the current piece, as the player shows it
 
   // What the screens tell in words, as numbers: for what draws it.
+  Take take;
+  Playback announcement;  // the stored one that is open
+  Playback music;         // the current piece
   // As the calculator shows them: safety, light, light to moderate, moderate, strong.
   std::array<HeartZone, 5> heartZones;
 

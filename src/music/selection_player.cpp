@@ -56,7 +56,7 @@ void SelectionPlayer::musiqueSuivante() {
   }
   if (library_.ListView1.rowCount() == 0) return;
   int indexMusique = tickedFrom(selection_.prochaineMusique);
-  if (indexMusique == 0 && library_.Check2.value != 0) indexMusique = tickedFrom(1);
+  if (indexMusique == 0 && forms::selectionRepeats(library_)) indexMusique = tickedFrom(1);
   if (indexMusique == 0) {
     library_.Timer4.enabled = false;
     return;
@@ -66,8 +66,11 @@ void SelectionPlayer::musiqueSuivante() {
   play(library_.ListView1.text(indexMusique, 1));
 }
 
-// The player does it in an event of its own, once this handler is through.
+// The player does it in an event of its own, once this handler is through. Until then the length of the piece
+// before must not pass for that of the new one.
 void SelectionPlayer::play(const std::string& name) {
+  context_.state.music = {};
+  context_.state.dureeMusique.clear();
   context_.screens.player.Text1.text = list_.pathOf(name);
   context_.screens.player.Timer2.enabled = true;
   library_.Label6.caption = name;
@@ -86,10 +89,8 @@ void SelectionPlayer::watch() {
   }
   if (chosen) {
     library_.Label6.visible = true;
-    // The player holds the position at the end of a piece, so that a look each second finds it there. Before
-    // a piece is open it has no length to be at the end of.
-    const std::string& length = context_.state.dureeMusique;
-    if (!length.empty() && library_.Label5.caption == length) musiqueSuivante();
+    // The player holds the position at the end of a piece, so that a look each second finds it there.
+    if (context_.state.music.atEnd()) musiqueSuivante();
   }
   if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) library_.Command13.enabled = false;
 }
