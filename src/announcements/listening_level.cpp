@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "forms/enr_une_annonce_words.h"
+
 namespace announcements {
 namespace {
 
@@ -64,8 +66,7 @@ void ListeningLevel::fadeOut() {
   page_.MyButton1.enabled = false;
   page_.Timer6.enabled = false;
   page_.Timer5.enabled = true;
-  if (page_.Command3.caption == "Stopper l'Enregistrement en Cours")
-    page_.Command3.caption = "Enregistrement Stoppé";
+  if (forms::takeStopOffered(page_)) forms::offerTakeStop(page_, false);
 }
 
 void ListeningLevel::fadeIn() {

@@ -6,15 +6,6 @@
 namespace announcements {
 namespace {
 
-constexpr int longestTake = 30;  // seconds
-
-constexpr const char* recordCaption = "Enregistrer la Voix";
-constexpr const char* recordingCaption = "Enregistrement en Cours";
-constexpr const char* stopCaption = "Stopper l'Enregistrement en Cours";
-constexpr const char* stoppedCaption = "Enregistrement Stoppé";
-constexpr const char* listenCaption = "Ecouter l'Annonce Enregistrée";
-constexpr const char* stopListeningCaption = "Arrêt Lecture de l'Annonce Enregistrée";
-constexpr const char* readyStatus = "Prêt pour Enregistrer une Annonce";
 constexpr const char* takeEnded = "Enregistrement Terminé";
 
 // 11025 bytes a second: voice needs no more.
@@ -36,7 +27,7 @@ std::string statusOf(const std::string& mode) {
 }  // namespace
 
 Recorder::Recorder(const context::Context& context, voice::Voice& voice)
-    : context_(context), voice_(voice), page_(context.screens.announcements) {
+    : context_(context), voice_(voice), page_(context.screens.announcements), shown_(context.state.take) {
   page_.Command2.click.handle([this] { recordVoice(); });
   page_.MyButton10.click.handle([this] { recordOverMusic(); });
   page_.Command3.click.handle([this] { stop(); });
@@ -59,9 +50,10 @@ void Recorder::makeReady() {
 // Whatever was under way, no take is left to listen to or to save.
 void Recorder::resetToIdle() {
   ++take_;
-  page_.Command2.caption = recordCaption;
-  page_.Command3.caption = stopCaption;
-  page_.Command4.caption = listenCaption;
+  shown_ = {};
+  forms::offerVoice(page_, true);
+  forms::offerTakeStop(page_, true);
+  forms::showListening(page_, false);
   for (platform::Button* button : {&page_.Command3, &page_.Command4, &page_.Command1})
     button->enabled = false;
   for (platform::Timer* timer : {&page_.Timer1, &page_.Timer3, &page_.Timer7, &page_.Timer8}) {
@@ -69,7 +61,7 @@ void Recorder::resetToIdle() {
   }
   ecouteApresArret_ = "";
   secondesEcoutees_ = 0;
-  page_.Label1.caption = readyStatus;
+  page_.Label1.caption = forms::readyToRecord;
   page_.Label14.caption = "30 secondes d'Enregistrement au Maximum par Annonce.";
   page_.Label8.caption = "";
   page_.Label3.caption = "";
@@ -87,11 +79,11 @@ void Recorder::leave() {
 }
 
 void Recorder::recordVoice() {
-  page_.Command2.caption = page_.Command2.caption == recordCaption ? recordingCaption : recordCaption;
+  forms::offerVoice(page_, !forms::voiceOffered(page_));
   secondesEnregistrees_ = 0;
   page_.Timer7.enabled = true;
   page_.MyButton10.enabled = false;
-  page_.Command3.caption = stopCaption;
+  forms::offerTakeStop(page_, true);
   page_.Command3.enabled = true;
   demarrerCapture();
 }
@@ -106,6 +98,8 @@ void Recorder::recordOverMusic() {
 
 void Recorder::demarrerCapture() {
   ++take_;
+  shown_.seconds = 0;
+  shown_.file.clear();
   page_.Timer1.enabled = true;
   page_.Command2.enabled = false;
   page_.Command4.enabled = false;
@@ -126,9 +120,10 @@ void Recorder::watch() {
 
 void Recorder::enforceTimeLimit() {
   const auto seconds = std::chrono::floor<std::chrono::seconds>(context_.loop.clock().now() - heureDebut_);
-  const auto n = seconds.count();
+  const auto n = static_cast<int>(seconds.count());
+  shown_.seconds = n;
   page_.Label14.caption = "Durée de l'Annonce (" + (n == 0 ? "" : std::to_string(n)) + " secondes)";
-  if (n < longestTake) return;
+  if (n < model::longestTake) return;
   page_.Label14.caption = "30 secondes au Maximum pour chaque Annonce.";
   if (stop()) playBackOnce();
 }
@@ -140,20 +135,20 @@ bool Recorder::waitWithSameTake() {
 }
 
 bool Recorder::stop() {
-  page_.Command2.caption = recordCaption;
+  forms::offerVoice(page_, true);
   page_.Timer7.enabled = false;
   send("stop capture");
   page_.Timer3.enabled = false;
   if (!waitWithSameTake()) return false;
-  page_.Label1.caption = readyStatus;
+  page_.Label1.caption = forms::readyToRecord;
   page_.Command1.enabled = true;
   page_.Command4.enabled = true;
   // During the wait, watch() may have stopped the take as well and begun to play it back.
-  page_.MyButton10.enabled = !listening();
-  page_.Command2.enabled = !listening();
+  page_.MyButton10.enabled = !forms::listeningToTake(page_);
+  page_.Command2.enabled = !forms::listeningToTake(page_);
   page_.Command3.enabled = false;
-  if (page_.Command3.caption != stopCaption) return true;
-  page_.Command3.caption = stoppedCaption;
+  if (!forms::takeStopOffered(page_)) return true;
+  forms::offerTakeStop(page_, false);
   return playBackOnce();
 }
 
@@ -165,21 +160,18 @@ bool Recorder::playBackOnce() {
   return true;
 }
 
-bool Recorder::listening() const {
-  return page_.Command4.caption == stopListeningCaption;
-}
-
 void Recorder::listen() {
   page_.Command4.enabled = true;
-  if (!listening()) {
-    page_.Command4.caption = stopListeningCaption;
+  if (!forms::listeningToTake(page_)) {
+    shown_.seconds = 0;
+    forms::showListening(page_, true);
     send("play capture from 0");
     page_.Timer8.enabled = true;
     page_.Command2.enabled = false;
     page_.MyButton10.enabled = false;
     return;
   }
-  page_.Command4.caption = listenCaption;
+  forms::showListening(page_, false);
   page_.Label14.caption = "Lecture Stoppée";
   secondesEcoutees_ = 0;
   page_.Timer8.enabled = false;
@@ -189,8 +181,8 @@ void Recorder::listen() {
 // Listening ends by this count; the device is not asked.
 void Recorder::countListening() {
   ++secondesEcoutees_;
-  page_.Label14.caption =
-      "en Lecture (" + std::to_string(secondesEnregistrees_ - secondesEcoutees_ + 1) + ") s";
+  shown_.seconds = secondesEnregistrees_ - secondesEcoutees_ + 1;
+  page_.Label14.caption = "en Lecture (" + std::to_string(shown_.seconds) + ") s";
   if (secondesEcoutees_ != secondesEnregistrees_ + 1) return;
   page_.Label14.caption = "Lecture Terminée";
   page_.Command4.click();

@@ -30,12 +30,12 @@ class Recorder {
   bool playBackOnce();
   void listen();
   void countListening();
-  [[nodiscard]] bool listening() const;
   std::string send(const std::string& command) { return context_.outside.media.send(command); }
 
   context::Context context_;
   voice::Voice& voice_;
   forms::EnrUneAnnonce& page_;
+  model::Take& shown_;
   int secondesEnregistrees_ = 0;  // since the last press of Command2
   int secondesEcoutees_ = 0;      // since listening began
   std::string ecouteApresArret_;  // "oui" until the first stop has played the take back

@@ -1,5 +1,9 @@
 #include "announcements/stored_announcements.h"
 
+#include <algorithm>
+#include <cstdint>
+
+#include "forms/enr_une_annonce_words.h"
 #include "model/numbers.h"
 #include "platform/each_on_its_own.h"
 #include "platform/text.h"
@@ -7,13 +11,14 @@
 namespace announcements {
 namespace {
 
-constexpr const char* nothingOpened = "Lire une Annonce Enregistrée";
-
 // hh:mm:ss.mmm
-std::string formatTemps(double milliseconds) {
-  const auto ms = static_cast<long long>(milliseconds);
+std::string formatTemps(std::int64_t ms) {
   return platform::zeroPadded(ms / 3600000, 2) + ":" + platform::zeroPadded(ms / 60000 % 60, 2) + ":" +
          platform::zeroPadded(ms / 1000 % 60, 2) + "." + platform::zeroPadded(ms % 1000, 3);
+}
+
+std::int64_t wholeNumber(const std::string& text) {
+  return static_cast<std::int64_t>(model::lenientNumber(text));
 }
 
 void enable(std::initializer_list<platform::Button*> buttons, bool on) {
@@ -25,7 +30,7 @@ const std::string alias = "video001";  // the name of this page's player in the 
 }  // namespace
 
 StoredAnnouncements::StoredAnnouncements(const context::Context& context)
-    : context_(context), page_(context.screens.announcements) {
+    : context_(context), page_(context.screens.announcements), sound_(context.state.announcement) {
   page_.Command6.click.handle([this] { ouvrir(); });
   page_.Command7.click.handle([this] { play(); });
   page_.Command15.click.handle([this] { pause(); });
@@ -38,7 +43,7 @@ StoredAnnouncements::StoredAnnouncements(const context::Context& context)
 void StoredAnnouncements::makeReady() {
   page_.Timer9.enabled = false;
   page_.MyButton8.enabled = false;
-  page_.Label9.caption = nothingOpened;
+  page_.Label9.caption = forms::noAnnouncementOpen;
   page_.Label15.caption = "";
 }
 
@@ -86,21 +91,20 @@ bool StoredAnnouncements::lireAnnonce() {
   send("play " + alias + " from 0");
   send("set " + alias + " time format milliseconds");
   const std::string length = send("status " + alias + " length");
+  sound_.length = wholeNumber(length);
   page_.Label16.visible = true;
   page_.Label17.visible = true;
-  page_.Label16.caption = formatTemps(model::lenientNumber(length));
+  page_.Label16.caption = formatTemps(sound_.length);
   page_.Timer9.enabled = true;
   return !length.empty();
 }
 
-// Position and length are compared as texts, which works because they have the same width.
 void StoredAnnouncements::follow() {
-  const std::string& length = page_.Label16.caption;
-  page_.Label17.caption = formatTemps(model::lenientNumber(send("status " + alias + " position notify")));
-  const std::string& position = page_.Label17.caption;
-  page_.Command14.enabled = position < length;
-  if (position > length) page_.Label17.caption = length;
-  if (position != length) return;
+  sound_.position = std::min(wholeNumber(send("status " + alias + " position notify")), sound_.length);
+  page_.Label17.caption = formatTemps(sound_.position);
+  const bool goesOn = sound_.position < sound_.length;
+  page_.Command14.enabled = goesOn;
+  if (goesOn) return;
   page_.Timer9.enabled = false;
   page_.MyButton5.enabled = true;
 }
@@ -124,6 +128,7 @@ void StoredAnnouncements::stop() {
   page_.Timer9.enabled = false;
   enable({&page_.Command7, &page_.Command15, &page_.Command14}, false);
   enable({&page_.MyButton5, &page_.MyButton6}, true);
+  sound_ = {};
   page_.Label16.caption = "";
   page_.Label17.caption = "";
 }
@@ -145,7 +150,7 @@ void StoredAnnouncements::destroy() {
   page_.Label17.caption = "0";
   page_.Command14.click();
   page_.MyButton5.enabled = false;
-  page_.Label9.caption = nothingOpened;
+  page_.Label9.caption = forms::noAnnouncementOpen;
 }
 
 }  // namespace announcements

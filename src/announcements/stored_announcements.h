@@ -28,6 +28,7 @@ class StoredAnnouncements {
 
   context::Context context_;
   forms::EnrUneAnnonce& page_;
+  model::Playback& sound_;
 };
 
 }  // namespace announcements

@@ -17,7 +17,7 @@ std::string megabytes(double value) {
 }  // namespace
 
 TakeFigures::TakeFigures(const context::Context& context)
-    : page_(context.screens.announcements), media_(context.outside.media) {
+    : page_(context.screens.announcements), take_(context.state.take), media_(context.outside.media) {
   page_.Command5.click.handle([this] { show(); });
 }
 
@@ -27,7 +27,9 @@ double TakeFigures::ask(const char* figure) {
 
 void TakeFigures::show() {
   media_.send("set capture time format ms");
-  std::string lines = "Milliseconds = " + model::plainNumber(ask("length")) + "\n";
+  const double length = ask("length");
+  take_.length = static_cast<int>(length);
+  std::string lines = "Milliseconds = " + model::plainNumber(length) + "\n";
   media_.send("set capture time format bytes");
   page_.Label8.caption = megabytes(ask("length") / 1024 / 1024);
   lines += "Mo = " + page_.Label8.caption.get() + "\n";

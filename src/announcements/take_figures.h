@@ -14,6 +14,7 @@ class TakeFigures {
   double ask(const char* figure);
 
   forms::EnrUneAnnonce& page_;
+  model::Take& take_;
   platform::MediaCommands& media_;
 };
 

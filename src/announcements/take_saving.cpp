@@ -1,5 +1,6 @@
 #include "announcements/take_saving.h"
 
+#include "forms/enr_une_annonce_words.h"
 #include "platform/each_on_its_own.h"
 #include "platform/file_copy.h"
 #include "platform/text.h"
@@ -80,7 +81,8 @@ void TakeSaving::save() {
     button->enabled = true;
   page_.Command3.enabled = false;
   page_.Command1.enabled = false;
-  page_.Label1.caption = "Prêt pour Enregistrer une Annonce";
+  page_.Label1.caption = forms::readyToRecord;
+  context_.state.take.file = pathOf(*name);
   page_.Label14.caption = "(" + *name + ")Enregistrée";
 }
 

@@ -16,6 +16,7 @@
 #include "console/simulated_screen_saver.h"
 #include "console/simulated_shell.h"
 #include "console/simulated_sound.h"
+#include "forms/main_form_words.h"
 #include "platform/disk_file_system.h"
 #include "platform/media_parser.h"
 
@@ -120,8 +121,8 @@ class Ride {
     bool started = false;
     while (!loop_.quitting()) {
       loop_.runUntil(clock_.now() + refreshPeriod_);
-      started = started || main_.Timer1.enabled;
-      if (started && ended()) break;
+      started = started || forms::chronoRuns(main_);
+      if (started && !forms::rideGoesOn(main_)) break;
     }
     return 0;
   }
@@ -139,7 +140,7 @@ class Ride {
     }
     // The hand-over itself presses Start, which is what readies the countdown.
     const platform::Instant patience = clock_.now() + 10s;
-    while (main_.MyButton1.caption != "Stop" && clock_.now() < patience) loop_.runUntil(clock_.now() + 100ms);
+    while (forms::startOffered(main_) && clock_.now() < patience) loop_.runUntil(clock_.now() + 100ms);
     press(main_.MyButton3);
     return true;
   }
@@ -152,10 +153,6 @@ class Ride {
     if (!canPress(button)) return false;
     loop_.guard([&] { button.click(); });
     return true;
-  }
-
-  [[nodiscard]] bool ended() const {
-    return !main_.Timer1.enabled && !main_.Timer2.enabled && main_.Command7.caption == "Pause";
   }
 
   // Between events: the keys, Ctrl+C, the screen.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "console/profile.h"
+#include "forms/main_form_words.h"
 #include "model/training_model.h"
 #include "platform/text.h"
 
@@ -32,18 +33,13 @@ void append(std::string& line, const char* name, const std::string& value) {
   if (!words.empty()) append(line, std::string(name) + " " + words);
 }
 
-bool riding(const model::SharedState& state) {
-  return state.plan.sequenceCourante > 0;
-}
-
 std::string presentLine(const forms::MainForm& form, const model::SharedState& state) {
-  if (!riding(state)) {
-    return form.Timer2.enabled ? "Départ dans " + form.Label9.caption.get() + " s"
-                               : form.Label18.caption.get();
+  if (!state.plan.started()) {
+    return forms::countdownRuns(form) ? "Départ dans " + form.Label9.caption.get() + " s"
+                                      : form.Label18.caption.get();
   }
-  std::string line =
-      form.Label4.caption.get() + ":" + form.Label5.caption.get() + ":" + form.Label6.caption.get();
-  if (form.Command7.caption == "REPRENDRE") append(line, "PAUSE");
+  std::string line = forms::timeInDigits(form);
+  if (forms::ridePaused(form)) append(line, "PAUSE");
   append(line, oneLine(form.Label11.caption));
   append(line, "cadence", form.Label10.caption);
   append(line, oneLine(form.Label39.caption));
@@ -52,7 +48,7 @@ std::string presentLine(const forms::MainForm& form, const model::SharedState& s
 
 std::string totalsLine(const forms::MainForm& form, const model::SharedState& state) {
   std::string line;
-  if (riding(state)) append(line, "Cible", targetOf(state));
+  if (state.plan.started()) append(line, "Cible", targetOf(state));
   append(line, "Reste", model::formatTime(state.dureeTotale));
   append(line, "séquence", form.Label16.caption);
   append(line, "séance", form.Label17.caption);
@@ -81,12 +77,12 @@ void RideScreen::printLine(const std::string& line) {
 }
 
 void RideScreen::show(const forms::MainForm& form, const model::SharedState& state) {
-  const std::string sequence =
-      riding(state) ? std::to_string(state.seanceCourante) + "/" + std::to_string(state.plan.sequenceCourante)
-                    : std::string();
+  const std::string sequence = state.plan.started() ? std::to_string(state.seanceCourante) + "/" +
+                                                          std::to_string(state.plan.sequenceCourante)
+                                                    : std::string();
   if (!terminal_.canRedraw()) {
     // Until its first second has passed, the fields still show the sequence before.
-    if (sequence == sequence_ || !form.Timer1.enabled || state.ecouleSequence <= 0) return;
+    if (sequence == sequence_ || !forms::chronoRuns(form) || state.ecouleSequence <= 0) return;
     sequence_ = sequence;
     printLine(presentLine(form, state) + "  ·  " + totalsLine(form, state));
     return;

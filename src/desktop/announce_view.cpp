@@ -1,13 +1,11 @@
 #include "desktop/announce_view.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "devices/sound_peaks.h"
-#include "forms/enr_une_annonce_words.h"
 #include "platform/each_on_its_own.h"
 #include "ui_enr_une_annonce.h"
 #include "widgets/look.h"
@@ -19,28 +17,9 @@ using devices::peaksOf;
 using widgets::fromQt;
 using widgets::setLook;
 using widgets::TakeRing;
-using widgets::toQt;
 using widgets::Waveform;
 
 namespace {
-
-// The number that stands in a text behind a beginning; 0 for none.
-int numberBehind(const std::string& text, const QString& beginning) {
-  const QRegularExpression pattern(QRegularExpression::escape(beginning) + QStringLiteral("\\s*(\\d+)"));
-  return pattern.match(toQt(text)).captured(1).toInt();
-}
-
-// Seconds of "00:03:12.500"; also without hours or thousandths.
-double secondsOf(const std::string& text) {
-  double seconds = 0;
-  for (const QString& part : toQt(text).split(QLatin1Char(':'))) seconds = seconds * 60 + part.toDouble();
-  return seconds;
-}
-
-double shareOf(const std::string& position, const std::string& length) {
-  const double all = secondsOf(length);
-  return all > 0 ? std::clamp(secondsOf(position) / all, 0.0, 1.0) : 0;
-}
 
 void keepPlace(QWidget& widget) {
   QSizePolicy policy = widget.sizePolicy();
@@ -96,21 +75,12 @@ void AnnounceView::refreshPanels() {
 }
 
 int AnnounceView::takeSeconds() const {
-  const std::string& message = page_.Label14.caption.get();
-  if (recording()) return numberBehind(message, QStringLiteral("Durée de l'Annonce ("));
-  if (listening()) return numberBehind(message, QStringLiteral("en Lecture ("));
+  if (recording() || listening()) return std::max(0, state_.take.seconds);
   return static_cast<int>(std::lround(takeLength()));
 }
 
 double AnnounceView::takeLength() const {
-  return numberBehind(page_.Label3.caption.get(), QStringLiteral("Milliseconds =")) / 1000.0;
-}
-
-// Where the take was saved to; empty while it only is in the device.
-std::string AnnounceView::takeFile() const {
-  const QRegularExpression saved(QStringLiteral("^\\((.*)\\)Enregistrée$"));
-  const auto match = saved.match(toQt(page_.Label14.caption.get()));
-  return match.hasMatch() ? state_.dossierAnnonces + fromQt(match.captured(1)) + ".wav" : std::string();
+  return state_.take.length.value_or(0) / 1000.0;
 }
 
 void AnnounceView::refreshTake() {
@@ -136,7 +106,7 @@ void AnnounceView::drawTake() {
     takeShown_.clear();
     return;
   }
-  const std::string file = takeFile();
+  const std::string& file = state_.take.file;
   if (std::exchange(taking_, false) && saveTake_) {
     QTemporaryDir passing;
     const std::string path = fromQt(passing.filePath(QStringLiteral("take.wav")));
@@ -145,27 +115,26 @@ void AnnounceView::drawTake() {
   } else if (!file.empty() && file != takeShown_) {
     takeShown_ = file;
     ui_->takeWave->setPeaks(peaksOf(file, Waveform::parts));
-  } else if (page_.Label3.caption.get().empty()) {  // no take, or none any more
+  } else if (!state_.take.length) {  // or none any more
     takeShown_.clear();
     ui_->takeWave->setPeaks({});
   }
 }
 
 void AnnounceView::refreshStored() {
-  const std::string& path = page_.Label15.caption.get();
-  const std::string shown = page_.Label9.caption == "Lire une Annonce Enregistrée" ? std::string() : path;
+  const std::string shown = forms::announcementOpen(page_) ? page_.Label15.caption.get() : std::string();
   if (shown != storedShown_) {
     storedShown_ = shown;
     ui_->storedWave->setPeaks(shown.empty() ? std::vector<float>() : peaksOf(shown, Waveform::parts));
   }
-  ui_->storedWave->setHeard(shareOf(page_.Label17.caption.get(), page_.Label16.caption.get()));
+  ui_->storedWave->setHeard(state_.announcement.share());
 }
 
 void AnnounceView::refreshMusic() {
   const bool chosen = forms::musicChosen(page_);
   ui_->Label6->setProperty("tone", chosen ? QStringLiteral("text") : QStringLiteral("second"));
   ui_->musicTimes->setVisible(page_.Label5.visible || page_.Label7.visible);
-  ui_->musicBar->setShare(chosen ? shareOf(page_.Label5.caption.get(), page_.Label7.caption.get()) : 0);
+  ui_->musicBar->setShare(chosen ? state_.music.share() : 0);
   const bool empty = page_.File1.lines().empty();
   setLook(*ui_->MyButton4, empty ? QStringLiteral("primary") : QString());
   setLook(*ui_->Command8, empty ? QString() : QStringLiteral("primary"));

@@ -1,5 +1,5 @@
 // What the page of announcements and music draws beside its controls: which panel covers which, the seconds
-// and the form of a take, how far a piece has come. It only reads the form.
+// and the form of a take, how far a piece has come. It only reads the form and the shared state.
 #pragma once
 
 #include <QObject>
@@ -9,7 +9,7 @@
 #include <string>
 
 #include "desktop/binder.h"
-#include "forms/enr_une_annonce.h"
+#include "forms/enr_une_annonce_words.h"
 #include "model/training_model.h"
 
 namespace Ui {
@@ -35,11 +35,10 @@ class AnnounceView final : public QObject {
   void drawTake();
   void refreshStored();
   void refreshMusic();
-  [[nodiscard]] bool recording() const { return page_.Timer3.enabled; }
-  [[nodiscard]] bool listening() const { return page_.Timer8.enabled; }
+  [[nodiscard]] bool recording() const { return forms::recordingTake(page_); }
+  [[nodiscard]] bool listening() const { return forms::listeningToTake(page_); }
   [[nodiscard]] int takeSeconds() const;    // that the ring shows
   [[nodiscard]] double takeLength() const;  // s
-  [[nodiscard]] std::string takeFile() const;
 
   forms::EnrUneAnnonce& page_;
   const model::SharedState& state_;

@@ -10,6 +10,7 @@
 #include <array>
 #include <utility>
 
+#include "forms/creer_cycle_words.h"
 #include "model/grid_rows.h"
 #include "model/time_value.h"
 #include "platform/text.h"
@@ -46,8 +47,9 @@ constexpr std::array<const char*, 14> headButtons{
 
 }  // namespace
 
-EditorView::EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder)
-    : editor_(form), ui_(std::make_unique<Ui::CreerCycle>()), page_(page), binder_(binder) {
+EditorView::EditorView(forms::CreerCycle& form, const model::SharedState& state, QWidget& page,
+                       Binder& binder)
+    : editor_(form), state_(state), ui_(std::make_unique<Ui::CreerCycle>()), page_(page), binder_(binder) {
   ui_->setupUi(&page);
   // Beside the list, not in it: what is inside a list is nothing but cells to somebody who does not see it.
   for (auto* floating : std::initializer_list<QWidget*>{ui_->Navette, ui_->Combo1, ui_->Picture2,
@@ -124,10 +126,6 @@ void EditorView::focusCellEditor() {
   }
 }
 
-bool EditorView::editing() const {
-  return editor_.Combo1.visible || editor_.Picture2.visible || editor_.Combo13.visible;
-}
-
 void EditorView::leaveCellEditor() {
   binder_.run([this] {
     editor_.Command1.click();
@@ -139,10 +137,7 @@ void EditorView::leaveCellEditor() {
 // Otherwise leaving would take it.
 void EditorView::dropTypedDuration() {
   binder_.run([this] {
-    const std::string& kept = editor_.Label7.caption;
-    editor_.Combo2.text = platform::left(kept, 2);
-    editor_.Combo3.text = platform::mid(kept, 4, 2);
-    editor_.Combo4.text = platform::mid(kept, 7, 2);
+    forms::showInBoxes(forms::durationBoxes(editor_), forms::timeParts(editor_.Label7.caption));
   });
 }
 
@@ -168,7 +163,7 @@ bool EditorView::eventFilter(QObject* watched, QEvent* event) {
       event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
   if (!escape) return QObject::eventFilter(watched, event);
   // What no widget wanted comes to the page.
-  if (!editing()) return watched == &page_ && leaveHelp();
+  if (!forms::cellOpen(editor_)) return watched == &page_ && leaveHelp();
   dropTypedDuration();
   leaveCellEditor();
   return true;
@@ -191,12 +186,11 @@ void EditorView::refresh() {
   refreshFilms();
   refreshProfile();
   refreshCalculator();
-  // White is for a refusal; the rest is a tip.
-  const bool refusal = editor_.Label4.colour == platform::Colour::rgb(255, 255, 255);
-  setLook(*ui_->Label4, refusal ? QStringLiteral("badge") : QStringLiteral("tip"));
+  setLook(*ui_->Label4, forms::badgeRefuses(editor_) ? QStringLiteral("badge") : QStringLiteral("tip"));
   placeFloating();
   // A cell editor that has gone hands the keyboard back to the list.
-  if (std::exchange(editing_, editing()) && !editing_ && page_.hasFocus()) ui_->ListView1->setFocus();
+  if (std::exchange(editing_, forms::cellOpen(editor_)) && !editing_ && page_.hasFocus())
+    ui_->ListView1->setFocus();
 }
 
 // A narrow box in the header, with a list as wide as its titles.
@@ -261,18 +255,15 @@ void EditorView::refreshCalculator() {
   for (const Row& input : {Row{ui_->ageRow, &editor_.Combo7}, Row{ui_->sexRow, &editor_.Combo10}}) {
     input.row->setVisible(input.control->visible);
   }
-  struct Band {
-    ZoneBand* band;
-    const platform::Label* label;
-    EffortFamily family;
-  };
-  for (const Band& zone : {Band{ui_->band50, &editor_.Label50, EffortFamily::Endurance},
-                           Band{ui_->band52, &editor_.Label52, EffortFamily::Recovery},
-                           Band{ui_->band53, &editor_.Label53, EffortFamily::Warmth},
-                           Band{ui_->band54, &editor_.Label54, EffortFamily::Strength},
-                           Band{ui_->band55, &editor_.Label55, EffortFamily::Speed}}) {
-    zone.band->show(toQt(zone.label->caption.get()), familyColour(QGuiApplication::palette(), zone.family));
-  }
+  // In the order of the zones.
+  const std::pair<ZoneBand*, EffortFamily> bands[] = {{ui_->band50, EffortFamily::Endurance},
+                                                      {ui_->band52, EffortFamily::Recovery},
+                                                      {ui_->band53, EffortFamily::Warmth},
+                                                      {ui_->band54, EffortFamily::Strength},
+                                                      {ui_->band55, EffortFamily::Speed}};
+  const model::HeartZone* zone = state_.heartZones.data();
+  for (const auto& [band, family] : bands)
+    band->show(*zone++, familyColour(QGuiApplication::palette(), family));
 }
 
 QString EditorView::headerTip(int column) const {

@@ -8,6 +8,7 @@
 
 #include "desktop/binder.h"
 #include "forms/creer_cycle.h"
+#include "model/shared_state.h"
 #include "widgets/movable_panel.h"
 
 namespace Ui {
@@ -19,7 +20,7 @@ namespace desktop {
 class EditorView final : public QObject {
   Q_OBJECT
  public:
-  EditorView(forms::CreerCycle& form, QWidget& page, Binder& binder);
+  EditorView(forms::CreerCycle& form, const model::SharedState& state, QWidget& page, Binder& binder);
   ~EditorView() override;
   // The page's widgets are tied to the form.
   void whenBound();
@@ -36,7 +37,6 @@ class EditorView final : public QObject {
  private:
   void focusCellEditor();
   void dropTypedDuration();
-  [[nodiscard]] bool editing() const;
   void leaveCellEditor();
   [[nodiscard]] int columnUnder(const platform::Control& over) const;
   bool leaveHelp();
@@ -47,6 +47,7 @@ class EditorView final : public QObject {
   [[nodiscard]] QString headerTip(int column) const;
 
   forms::CreerCycle& editor_;
+  const model::SharedState& state_;
   std::unique_ptr<Ui::CreerCycle> ui_;
   widgets::MovablePanel* help_ = nullptr;
   QWidget& page_;

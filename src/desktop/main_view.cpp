@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 
 #include "desktop/keyboard_focus.h"
+#include "forms/main_form_words.h"
+#include "forms/main_message.h"
 #include "model/training_model.h"
 #include "ui_main_form.h"
 #include "widgets/fade_away.h"
@@ -87,20 +89,16 @@ void MainView::refreshPages() {
   const bool settings = main_.Picture1.visible;
   ui_->countdownPage->setVisible(main_.MyFrame2.visible && !settings);
   ui_->ridePage->setVisible(!main_.MyFrame2.visible && !settings);
-  // A title that only repeats the product's name beside it says nothing.
-  const bool titled = main_.MyFrame1.caption != main_.Label30.caption;
-  ui_->MyFrame1->setText(titled ? toQt(main_.MyFrame1.caption.get()) : QString());
-  ui_->timeBoxes->setVisible(main_.Combo1.visible || main_.Combo2.visible || main_.Combo3.visible);
-  const bool volumeKnown =
-      !main_.Label36.caption.get().empty() || main_.Label38.caption != "Volume Actuel ()";
-  ui_->volumeBox->setVisible(volumeKnown);
+  ui_->MyFrame1->setText(forms::sessionTitled(main_) ? toQt(main_.MyFrame1.caption.get()) : QString());
+  ui_->timeBoxes->setVisible(forms::timeBoxesShown(main_));
+  ui_->volumeBox->setVisible(forms::volumeTold(main_));
   ui_->contactScrim->setVisible(main_.Picture12.visible);
   ui_->noticePicture->setPicture(toQt(main_.Image18.visible ? "sound-off" : "sound-on"));
   // What the ride's panel covers must not shine through its corners, nor take the keyboard.
   if (main_.Picture6.visible) leaveKeyboard(*ui_->buttonRow);
   ui_->buttonRow->setVisible(!main_.Picture6.visible);
   // What leads on stands out: the start where a duration stands, else the way to the sessions.
-  const bool startable = main_.MyButton1.enabled && main_.MyButton1.caption == "Start";
+  const bool startable = main_.MyButton1.enabled && forms::startOffered(main_);
   setLook(*ui_->MyButton1, startable ? QStringLiteral("primary") : QString());
   setLook(*ui_->MyButton5, main_.MyButton1.enabled ? QString() : QStringLiteral("primary"));
 }
@@ -112,15 +110,14 @@ void MainView::refreshRide() {
   ui_->sequenceBar->setVisible(riding());
   ui_->sequenceBar->show(family, state_.dureeSequence > 0 ? state_.ecouleSequence / state_.dureeSequence : 0);
   // A message of the start or the end; in a ride the same label says in its card that there is no target.
-  const bool message = main_.Label44.visible && main_.Label44.size == 18 && !riding();
+  const bool message = forms::showsMessage(main_) && !riding();
   ui_->banner->setText(message ? toQt(main_.Label44.caption.get()) : QString());
   ui_->banner->setVisible(message);
 }
 
 void MainView::refreshCards() {
-  const bool gear = main_.Label15.visible || main_.Label20.visible || main_.Label39.visible;
   ui_->cadenceCard->setVisible(main_.Label10.visible);
-  ui_->gearCard->setVisible(gear);
+  ui_->gearCard->setVisible(forms::gearShown(main_));
   ui_->gearCross->setVisible(main_.Label15.visible && main_.Label20.visible && says(main_.Label15.caption) &&
                              says(main_.Label20.caption));
   // Numbers stand close together, words share the place.
@@ -141,7 +138,7 @@ QString MainView::describe(int number) const {
   const QString kind = toQt(row.planSequence).toHtmlEscaped();
   QStringList facts{QStringLiteral("<span style=\"color:%1;font-weight:700\">%2</span>")
                         .arg(QGuiApplication::palette().color(role::text).name(), kind)};
-  if (row.planSequence != model::vocalAnnouncement) {
+  if (!row.spoken()) {
     facts << toQt(row.planDuree).toHtmlEscaped();
     if (says(row.planCadence)) {
       facts << toQt(row.planCadence).toHtmlEscaped() + QStringLiteral(" tr/min");
@@ -178,7 +175,9 @@ void MainView::refreshProfile() {
 }
 
 void MainView::refreshCountdown() {
-  ui_->Label9->setTotal(main_.Combo5.text.get().empty() ? 16 : toQt(main_.Combo5.text.get()).toInt());
+  const int length = forms::countdownLength(main_);
+  ui_->Label9->setShare(static_cast<double>(forms::countdownLeft(main_)) /
+                        (length > 0 ? length : forms::usualCountdown));
   const bool planned = !ui_->countdownProfile->steps().empty();
   ui_->firstText->setText(planned ? QStringLiteral("D'abord : ") + describe(1) : QString());
 }

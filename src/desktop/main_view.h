@@ -33,7 +33,7 @@ class MainView final : public QObject {
   void refreshCards();
   void refreshProfile();
   void refreshCountdown();
-  [[nodiscard]] bool riding() const { return state_.plan.sequenceCourante > 0; }
+  [[nodiscard]] bool riding() const { return state_.plan.started(); }
   [[nodiscard]] QString describe(int number) const;
   [[nodiscard]] int nextRow() const;
 

@@ -58,7 +58,7 @@ class Keys {
   void fillScreen() const { window_.isFullScreen() ? window_.showNormal() : window_.showFullScreen(); }
 
  private:
-  [[nodiscard]] bool riding() const { return state_.plan.sequenceCourante > 0; }
+  [[nodiscard]] bool riding() const { return state_.plan.started(); }
   [[nodiscard]] bool confirmed() const {
     QtDialogs dialogs([this]() -> QWidget* { return &window_; });
     return dialogs.message({platform::MessageKind::Exclamation, platform::MessageButtons::OkCancel,

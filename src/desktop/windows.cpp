@@ -8,6 +8,7 @@
 #include <array>
 
 #include "desktop/shortcuts.h"
+#include "forms/main_form_words.h"
 #include "ui_aide_tq.h"
 #include "widgets/accessible_faces.h"
 #include "widgets/qt_text.h"
@@ -44,7 +45,7 @@ Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice cho
   installAccessibleFaces();
   forms::Screens& screens = program.screens();
   mainView_ = std::make_unique<MainView>(screens.main, program.state(), *mainPage_);
-  editorView_ = std::make_unique<EditorView>(screens.editor, *editorPage_, binder_);
+  editorView_ = std::make_unique<EditorView>(screens.editor, program.state(), *editorPage_, binder_);
   announceView_ =
       std::make_unique<AnnounceView>(screens.announcements, program.state(), *announcePage_, binder_);
   const std::array<std::pair<platform::Form*, QWidget*>, 3> pages{
@@ -158,8 +159,7 @@ void Windows::takeSession() {
   inbox_.pop_front();
   forms::Screens& screens = program_.screens();
   const forms::MainForm& main = screens.main;
-  const bool riding = main.Timer1.enabled || main.Timer2.enabled || main.Command7.caption != "Pause";
-  if (main.visible && !riding) main.MyButton5.click();
+  if (main.visible && !forms::rideUnderWay(main, program_.state())) main.MyButton5.click();
   screens.editor.sessionHandedIn(path);
 }
 

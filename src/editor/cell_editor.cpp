@@ -6,6 +6,7 @@
 #include "editor/cell_texts.h"
 #include "editor/layout.h"
 #include "editor/row_rules.h"
+#include "forms/creer_cycle_words.h"
 #include "forms/lect_mci_words.h"
 #include "forms/music_buttons.h"
 #include "model/grid_rows.h"
@@ -20,7 +21,6 @@ namespace {
 namespace column = model::column;
 
 constexpr const char* refusal = "Cette Zone n'est pas Modifiable";
-const platform::Colour refusalColour = platform::Colour::rgb(255, 255, 255);
 const platform::Colour deletionColour = platform::Colour::rgb(0, 0, 128);
 
 }  // namespace
@@ -35,7 +35,7 @@ CellEditor::CellEditor(const context::Context& context, heartrate::Calculator& c
   editor_.Combo1.click.handle([this] { validerChoix(); });
   editor_.Combo1.enter.handle([this] { validerSaisie(); });
   editor_.Combo1.validate.handle([this] { ecouterAnnonce(); });
-  for (auto* box : {&editor_.Combo2, &editor_.Combo3, &editor_.Combo4}) {
+  for (platform::ComboBox* box : forms::durationBoxes(editor_)) {
     box->click.handle([this] { validerDuree(); });
     box->enter.handle([this] { validerDuree(); });
     box->validate.handle([this] { finishDuration(); });
@@ -191,7 +191,7 @@ void CellEditor::placeOverCell() {
 // No editor stays open on a refused cell: hiding the badge later would hide it, too.
 void CellEditor::refuse() {
   endEditing();
-  showBadge(refusal, refusalColour);
+  showBadge(refusal, forms::refusalColour);
 }
 
 void CellEditor::showBadge(const std::string& text, const platform::Colour& colour) {
@@ -223,7 +223,7 @@ void CellEditor::presserCellule(platform::MouseButton button) {
     return;
   }
   editor_.Label4.caption = refusal;
-  editor_.Label4.colour = refusalColour;
+  editor_.Label4.colour = forms::refusalColour;
   // The right button selects its row without a click, and an open editor would write into it.
   if (button == platform::MouseButton::Right) endEditing();
   const bool menu = button == platform::MouseButton::Right && onDelete;
@@ -285,10 +285,7 @@ std::string CellEditor::presentDuration() const {
 }
 
 void CellEditor::fillDurationBoxes() {
-  const std::string duration = presentDuration();
-  editor_.Combo2.text = platform::left(duration, 2);
-  editor_.Combo3.text = platform::mid(duration, 4, 2);
-  editor_.Combo4.text = platform::mid(duration, 7, 2);
+  forms::showInBoxes(forms::durationBoxes(editor_), forms::timeParts(presentDuration()));
 }
 
 // The duration in the boxes, where "7" counts as "07". A box whose text is not in its list goes back to the
@@ -297,7 +294,7 @@ std::string CellEditor::chosenDuration() {
   const std::string texts[] = {editor_.Combo2.text, editor_.Combo3.text, editor_.Combo4.text};
   fillDurationBoxes();
   std::size_t next = 0;
-  for (auto* box : {&editor_.Combo2, &editor_.Combo3, &editor_.Combo4}) {
+  for (platform::ComboBox* box : forms::durationBoxes(editor_)) {
     const std::string typed = platform::trim(texts[next++]);
     const std::vector<std::string>& lines = box->lines();
     if (const std::optional<std::string> line = model::lineFor(lines, typed)) {
@@ -307,7 +304,7 @@ std::string CellEditor::chosenDuration() {
                                 ") à (" + lines.back() + ")...";
     }
   }
-  return editor_.Combo2.text.get() + ":" + editor_.Combo3.text.get() + ":" + editor_.Combo4.text.get();
+  return forms::timeInBoxes(forms::durationBoxes(editor_));
 }
 
 void CellEditor::validerDuree() {

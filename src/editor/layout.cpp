@@ -1,5 +1,6 @@
 #include "editor/layout.h"
 
+#include "forms/creer_cycle_words.h"
 #include "model/grid_rows.h"
 
 namespace editor {
@@ -15,12 +16,8 @@ int extraWidth(const forms::CreerCycle& form) {
 
 }  // namespace
 
-bool inCycleMode(const forms::CreerCycle& form) {
-  return form.MyButton3.caption != "Créer un Cycle";
-}
-
 void recalerColonnes(forms::CreerCycle& form) {
-  const auto columns = model::gridColumns(inCycleMode(form));
+  const auto columns = model::gridColumns(forms::cycleMode(form));
   for (int c = 1; c <= form.ListView1.columnCount(); ++c) {
     const bool session = c == model::column::sessionName;
     form.ListView1.setColumnWidth(c, session ? model::sessionColumnWidth + extraWidth(form)

@@ -5,8 +5,6 @@
 
 namespace editor {
 
-// Cycle mode is on while its button reads "Annuler ce Cycle".
-[[nodiscard]] bool inCycleMode(const forms::CreerCycle& form);
 // Sets the columns back to their widths, which the rider may have dragged or a mode changed.
 void recalerColonnes(forms::CreerCycle& form);
 // The grid's own size in the normal or the maximised list mode.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editor/layout.h"
+#include "forms/creer_cycle_words.h"
 #include "forms/lect_mci_words.h"
 #include "forms/music_buttons.h"
 #include "model/grid_rows.h"
@@ -42,8 +43,8 @@ void Lines::creerSeance() {
   editor_.Label7.caption = "00:00:00";
   if (grid_.rowCount() > 0) {
     // A new session ends cycle mode, too; its column stays until the list is rebuilt.
-    grid_.setColumnWidth(column::cycleName, inCycleMode(editor_) ? model::cycleColumnWidth : 0);
-    editor_.MyButton3.caption = "Créer un Cycle";
+    grid_.setColumnWidth(column::cycleName, forms::cycleMode(editor_) ? model::cycleColumnWidth : 0);
+    forms::showCycleMode(editor_, false);
     if (model::lastRowUnfinished(grid_)) {
       showRefusal("Vous voulez Créer une Nouvelle (Séance), mais l'Actuelle n'est pas Terminée...!",
                   "Vous devez finir celle en cours...");
@@ -64,7 +65,7 @@ void Lines::creerSeance() {
 void Lines::buildList() {
   grid_.clearRows();
   grid_.clearColumns();
-  for (platform::GridColumn& made : model::gridColumns(inCycleMode(editor_)))
+  for (platform::GridColumn& made : model::gridColumns(forms::cycleMode(editor_)))
     grid_.addColumn(std::move(made));
   editor_.File2.refresh();
   grid_.addRow(model::firstRow());
@@ -216,16 +217,16 @@ void Lines::supprimerLigne() {
 void Lines::basculerCycle() {
   preambule();
   editor_.Label9.caption = "Création d'un Cycle d'Entraînement";
-  if (!inCycleMode(editor_)) {
-    editor_.MyButton3.caption = "Annuler ce Cycle";
-    editor_.MyButton4.caption = "Ajouter une Séance";
+  if (!forms::cycleMode(editor_)) {
+    forms::showCycleMode(editor_, true);
+    forms::offerToAdd(editor_, true);
     grid_.setColumnWidth(column::cycleName, model::cycleColumnWidth);
     sizeGrid(editor_);
   } else {
     editor_.Timer4.enabled = false;
     grid_.clearRows();
-    editor_.MyButton3.caption = "Créer un Cycle";
-    editor_.MyButton4.caption = "Ajouter une Séquence";
+    forms::showCycleMode(editor_, false);
+    forms::offerToAdd(editor_, false);
     editor_.Label9.caption = "Création d'une Séance d'Entraînement";
     grid_.setColumnWidth(column::cycleName, 0);
     grid_.setColumnWidth(column::sessionName, 0);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "editor/layout.h"
+#include "forms/creer_cycle_words.h"
 #include "model/training_model.h"
 
 namespace editor {
@@ -29,7 +30,7 @@ void Page::open() {
   editor_.Combo2.setLines(model::twoDigits(23));
   editor_.Combo3.setLines(model::twoDigits(59));
   editor_.Combo4.setLines(model::twoDigits(59));
-  for (auto* box : {&editor_.Combo2, &editor_.Combo3, &editor_.Combo4}) box->text = "00";
+  for (platform::ComboBox* box : forms::durationBoxes(editor_)) box->text = "00";
   listFiles();
   editor_.MyButton9.caption = "Créer ou Charger\nune Séance d'Entrainement";
   editor_.Label8.caption = "Ventoria";

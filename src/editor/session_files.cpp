@@ -1,6 +1,7 @@
 #include "editor/session_files.h"
 
 #include "editor/layout.h"
+#include "forms/creer_cycle_words.h"
 #include "model/grid_rows.h"
 #include "platform/fault.h"
 #include "platform/text.h"
@@ -41,7 +42,7 @@ SessionFiles::SessionFiles(const context::Context& context, voice::Voice& voice,
 }
 
 void SessionFiles::addByCaption() {
-  if (editor_.MyButton4.caption == "Ajouter une Séance") {
+  if (forms::addsSessions(editor_)) {
     ajouterUneSeance();
   } else {
     lines_.ajouterSequenceVariante();

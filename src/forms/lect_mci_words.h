@@ -9,4 +9,16 @@ namespace forms {
   return !player.Text1.text.get().empty();
 }
 
+[[nodiscard]] inline bool soundOff(const LectMCI& player) {
+  return player.Check1.value == 1;
+}
+
+// A picture fills its box, as it is or in its own proportion.
+[[nodiscard]] inline bool pictureResized(const LectMCI& player) {
+  return player.Check3.value == 1;
+}
+[[nodiscard]] inline bool proportionKept(const LectMCI& player) {
+  return player.Check4.value == 1;
+}
+
 }  // namespace forms

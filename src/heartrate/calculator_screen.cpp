@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "forms/creer_cycle_words.h"
 #include "heartrate/formulas.h"
 #include "heartrate/help_texts.h"
 #include "heartrate/input_checks.h"
@@ -67,7 +68,7 @@ void CalculatorScreen::attachInputs() {
 }
 
 void CalculatorScreen::clearDesignTexts() {
-  if (editor_.Label50.caption != "Label50") return;
+  if (!forms::resultsUntouched(editor_)) return;
   for (const auto label : valueLabels) (editor_.*label).caption = "";
 }
 
@@ -100,8 +101,11 @@ void CalculatorScreen::calculerFrequences() {
   const double fcMax = model::lenientNumber(editor_.Combo11.text.get());
   const double fcRepos = model::lenientNumber(editor_.Combo12.text.get());
   editor_.Label56.caption = reserveText(fcMax, fcRepos);
-  for (const BandLine& line : bandLines) {
-    (editor_.*line.value).caption = bandText(methode, fcMax, fcRepos, line.band);
+  for (std::size_t i = 0; i < bandLines.size(); ++i) {
+    const BandLine& line = bandLines.at(i);
+    const model::HeartZone zone = zoneOf(methode, fcMax, fcRepos, line.band);
+    context_.state.heartZones.at(i) = zone;
+    (editor_.*line.value).caption = zoneText(zone);
   }
   editor_.Label57.caption =
       workRateText(methode, fcMax, fcRepos, model::lenientNumber(editor_.Combo9.text.get()));
@@ -138,8 +142,7 @@ void CalculatorScreen::showBoxesOf(int methode) {
 
 // Saving is offered only on the rider's own figures, and only where the screen differs from the file.
 void CalculatorScreen::surveiller() {
-  if (editor_.Check1.value == 0 && editor_.Check2.value == 0 && editor_.Check3.value == 0)
-    editor_.Check1.value = 1;
+  if (forms::noTargetMode(editor_)) editor_.Check1.value = 1;
   if (editor_.Combo8.index != ownFigures) {
     editor_.MyButton40.visible = false;
     return;

@@ -1,6 +1,7 @@
 #include "heartrate/formulas.h"
 
 #include <array>
+#include <cmath>
 
 #include "model/numbers.h"
 
@@ -34,13 +35,17 @@ std::optional<std::string> fcMaxMethode(int methode, std::string_view age, std::
   return formatBpm((ageCeiling - strictNumber(age)) * strictNumber(percent) / 100 + strictNumber(fcRepos));
 }
 
-std::string bandText(int methode, double fcMax, double fcRepos, Band band) {
+model::HeartZone zoneOf(int methode, double fcMax, double fcRepos, Band band) {
   const auto rate = [&](int percent) {
     const double value =
         byReserve(methode) ? (fcMax - fcRepos) * percent / 100 + fcRepos : fcMax * percent / 100;
-    return formatBpm(value);
+    return std::round(value);
   };
-  return rate(band.lower) + " à " + rate(band.upper);
+  return {rate(band.lower), rate(band.upper)};
+}
+
+std::string zoneText(const model::HeartZone& zone) {
+  return formatBpm(zone.from) + " à " + formatBpm(zone.to);
 }
 
 std::string reserveText(double fcMax, double fcRepos) {

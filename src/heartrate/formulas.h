@@ -16,6 +16,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/heart_zone.h"
+
 namespace heartrate {
 
 inline constexpr int methodCount = 6;
@@ -38,8 +40,9 @@ struct Band {
   int lower;  // %
   int upper;  // %
 };
+[[nodiscard]] model::HeartZone zoneOf(int methode, double fcMax, double fcRepos, Band band);
 // "lo à hi".
-[[nodiscard]] std::string bandText(int methode, double fcMax, double fcRepos, Band band);
+[[nodiscard]] std::string zoneText(const model::HeartZone& zone);
 [[nodiscard]] std::string reserveText(double fcMax, double fcRepos);
 [[nodiscard]] std::string workRateText(int methode, double fcMax, double fcRepos, double percent);
 

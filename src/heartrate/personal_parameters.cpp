@@ -1,5 +1,6 @@
 #include "heartrate/personal_parameters.h"
 
+#include "forms/creer_cycle_words.h"
 #include "heartrate/formulas.h"
 #include "heartrate/input_checks.h"
 #include "model/numbers.h"
@@ -21,7 +22,7 @@ PersonalParameters::PersonalParameters(const context::Context& context, Figures&
     : context_(context),
       editor_(context.screens.editor),
       figures_(figures),
-      modes_{&editor_.Check1, &editor_.Check2, &editor_.Check3} {
+      modes_(forms::targetModes(editor_)) {
   editor_.MyButton40.click.handle([this] { enregistrerParPerso(); });
   editor_.MyButton41.click.handle([this] { chargerParPerso(); });
   coupleModes();

@@ -1,6 +1,12 @@
 #include "model/run_plan.h"
 
+#include "model/vocabulary.h"
+
 namespace model {
+
+bool PlanRow::spoken() const {
+  return planSequence == vocalAnnouncement;
+}
 
 std::vector<std::string> PlanRow::texts() const {
   return {planDuree,   planCadence, planRemarque, planSequence,

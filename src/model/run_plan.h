@@ -16,6 +16,8 @@ struct PlanRow {
   std::string planAnnonce;   // file name of a personal announcement, or "-----"
   std::string planFreqCard;  // heart-rate target
 
+  // A row that only plays an announcement: it has no time of its own.
+  [[nodiscard]] bool spoken() const;
   // The eight texts, in the order above.
   [[nodiscard]] std::vector<std::string> texts() const;
 };
@@ -25,6 +27,8 @@ struct RunPlan {
   std::vector<PlanRow> rows{PlanRow{}};
   int sequenceCourante = 0;  // row being ridden; 0 before the first
 
+  // A row is being ridden: the countdown is behind, and neither the end nor a cancel has come.
+  [[nodiscard]] bool started() const { return sequenceCourante > 0; }
   // Rows 0 to `last`, all empty.
   void allocate(int last);
   // The row being ridden.

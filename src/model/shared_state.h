@@ -2,12 +2,16 @@
 // the music. Everything belongs to the event loop's thread.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
+#include "model/heart_zone.h"
+#include "model/playback.h"
 #include "model/run_plan.h"
+#include "model/take.h"
 #include "model/time_value.h"
 
 namespace model {
@@ -49,6 +53,13 @@ struct SharedState {
   // The music's own state.
   std::string selectionEnCours;  // "oui" while a selection drives the music, else empty
   std::string dureeMusique;      // length of the current piece, as the player shows it
+
+  // What the screens tell in words, as numbers: for what draws it.
+  Take take;
+  Playback announcement;  // the stored one that is open
+  Playback music;         // the current piece
+  // As the calculator shows them: safety, light, light to moderate, moderate, strong.
+  std::array<HeartZone, 5> heartZones;
 
   // The program's folders, each ending in a separator.
   std::string dossierProgramme;

@@ -1,6 +1,7 @@
 #include "music/menu_orders.h"
 
 #include "forms/music_buttons.h"
+#include "forms/sound_settings_words.h"
 
 namespace music {
 
@@ -41,7 +42,7 @@ void MenuOrders::openLibrary() {
 }
 
 void MenuOrders::startWholeLibrary() {
-  main_.Check10.value = 1;
+  forms::letMusicYield(main_);
   const auto library = static_cast<int>(library_.File1.lines().size());
   int& ticked = selection_.nbMusiquesCochees;
   if (ticked == 0 || ticked == library) {

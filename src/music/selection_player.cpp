@@ -57,7 +57,7 @@ void SelectionPlayer::musiqueSuivante() {
   }
   if (library_.ListView1.rowCount() == 0) return;
   int indexMusique = tickedFrom(selection_.prochaineMusique);
-  if (indexMusique == 0 && library_.Check2.value != 0) indexMusique = tickedFrom(1);
+  if (indexMusique == 0 && forms::selectionRepeats(library_)) indexMusique = tickedFrom(1);
   if (indexMusique == 0) {
     library_.Timer4.enabled = false;
     return;
@@ -69,6 +69,8 @@ void SelectionPlayer::musiqueSuivante() {
 
 // The timer starts the player in an event of its own, after this handler.
 void SelectionPlayer::play(const std::string& name) {
+  context_.state.music = {};
+  context_.state.dureeMusique.clear();
   context_.screens.player.Text1.text = list_.pathOf(name);
   context_.screens.player.Timer2.enabled = true;
   library_.Label6.caption = name;
@@ -89,8 +91,7 @@ void SelectionPlayer::watch() {
     library_.Label6.visible = true;
     // The player stays at the end of a piece, so checking once a second is enough. Before a piece is open the
     // length is empty.
-    const std::string& length = context_.state.dureeMusique;
-    if (!length.empty() && library_.Label5.caption == length) musiqueSuivante();
+    if (context_.state.music.atEnd()) musiqueSuivante();
   }
   if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) library_.Command13.enabled = false;
 }

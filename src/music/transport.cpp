@@ -8,7 +8,8 @@ namespace music {
 Transport::Transport(const context::Context& context)
     : library_(context.screens.announcements),
       player_(context.screens.player),
-      volume_(context.screens.volume) {
+      volume_(context.screens.volume),
+      music_(context.state.music) {
   library_.Command10.click.handle([this] { lire(); });
   library_.Command9.click.handle([this] {
     library_.Command9.enabled = false;
@@ -46,6 +47,7 @@ void Transport::lire() {
 
 void Transport::showLength() {
   library_.Label5.caption = player_.Label1.caption;
+  music_.position = music_.length;
 }
 
 // One bar for both: the machine's volume and the player's own.

@@ -17,6 +17,7 @@ class Transport {
   forms::EnrUneAnnonce& library_;
   forms::LectMCI& player_;
   forms::VolumeGeneral& volume_;
+  model::Playback& music_;
 };
 
 }  // namespace music

@@ -1,5 +1,6 @@
 #include "player/placement.h"
 
+#include "forms/lect_mci_words.h"
 #include "player/measures.h"
 
 namespace player {
@@ -21,12 +22,12 @@ Placement::Placement(forms::LectMCI& form, Medium& medium) : player_(form), medi
   player_.Picture1.height = boxHeight;
   player_.Check4.value = 1;
   player_.Check3.click.handle([this] {
-    redimensionner_ = player_.Check3.value == 1;
+    redimensionner_ = forms::pictureResized(player_);
     placerVideo();
     dimensionnerImage();
   });
   player_.Check4.click.handle([this] {
-    proportion_ = player_.Check4.value == 1;
+    proportion_ = forms::proportionKept(player_);
     placerVideo();
     dimensionnerImage();
   });
@@ -68,7 +69,7 @@ void Placement::dimensionnerImage() {
   if (image_.width < 1 || image_.height < 1) return;
   const PictureSize box{player_.Picture1.width, player_.Picture1.height};
   PictureSize size = image_;
-  if (player_.Check3.value == 1) size = player_.Check4.value == 1 ? fitted(image_, box) : box;
+  if (forms::pictureResized(player_)) size = forms::proportionKept(player_) ? fitted(image_, box) : box;
   player_.AffBMP.width = size.width;
   player_.AffBMP.height = size.height;
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "forms/lect_mci_words.h"
 #include "model/numbers.h"
 #include "platform/each_on_its_own.h"
 #include "platform/text.h"
@@ -104,6 +105,7 @@ void Transport::montrerDuree() {
   medium_.send("set", " time format milliseconds");
   medium_.longueur = model::lenientInteger(medium_.send("status", " length"));
   bars_.viderProgression();
+  context_.state.music.length = medium_.longueur;
   const std::string duree = formatTemps(medium_.longueur);
   player_.Label1.caption = duree;
   announcements_.Label7.caption = duree;
@@ -111,6 +113,7 @@ void Transport::montrerDuree() {
 }
 
 void Transport::montrerPosition(std::int64_t milliseconds) {
+  context_.state.music.position = milliseconds;
   player_.Label2.caption = formatTemps(milliseconds);
   announcements_.Label5.caption = player_.Label2.caption;
 }
@@ -180,7 +183,7 @@ void Transport::suspendre() {
 
 void Transport::appliquerSon() {
   if (!medium_.chargé || player_.Check1.value == 2) return;
-  medium_.send("set", player_.Check1.value == 1 ? " audio all off" : " audio all on");
+  medium_.send("set", forms::soundOff(player_) ? " audio all off" : " audio all on");
 }
 
 void Transport::appliquerVitesse(int index) {

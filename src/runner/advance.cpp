@@ -1,10 +1,12 @@
 #include "runner/advance.h"
 
 #include "forms/lect_mci_words.h"
+#include "forms/main_form_words.h"
+#include "forms/main_message.h"
+#include "forms/sound_settings_words.h"
 #include "model/training_model.h"
 #include "platform/text.h"
 #include "runner/boundary_sounds.h"
-#include "runner/visibility.h"
 
 namespace runner {
 
@@ -28,7 +30,7 @@ void Advance::crossBoundary() {
     endRun();
     return;
   }
-  showRideFields();
+  showPass();
   state_.ecouleSequence = 0;
   ++state_.plan.sequenceCourante;
   sayPass();
@@ -44,11 +46,10 @@ void Advance::crossBoundary() {
   // paused during the waits above stays paused; but an announcement has no time that could be stopped, so it
   // ends all the same.
   holdsTime_ = false;
-  if (main_.Command7.caption == "Pause" || state_.dureeSequence == 0) main_.Timer1.enabled = true;
+  if (!forms::ridePaused(main_) || state_.dureeSequence == 0) main_.Timer1.enabled = true;
   sayRow();
-  if (main_.Check7.value == 1 && !state_.sonBraquet.empty()) voice_.dire(state_.sonBraquet);
-  const bool musicPlaysInRide = main_.Check10.value == 1 || main_.Check11.value == 1;
-  if (main_.Check2.value == 1 && forms::musicLoaded(context_.screens.player) && musicPlaysInRide) {
+  if (forms::saysGear(main_) && !state_.sonBraquet.empty()) voice_.dire(state_.sonBraquet);
+  if (forms::voiceOn(main_) && forms::musicLoaded(context_.screens.player) && forms::musicInRide(main_)) {
     waits_.forgetHold();
     state_.musiqueSuit = "oui";
   }
@@ -73,14 +74,14 @@ bool Advance::isOver() const {
 void Advance::endRun() {
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
-  if (main_.Check2.value == 1) {
-    state_.plan.sequenceCourante = 0;  // so that the cancel below does not speak
+  if (forms::voiceOn(main_)) {
+    state_.plan.sequenceCourante = 0;  // so that the cancel below says nothing
     waits_.hold();
-    showMessage(main_, endMessage);
+    forms::showMessage(main_, forms::endMessage);
     waits_.pause();
     voice_.dire("finentrainement.wav");
     voice_.dire("pensezIdrater.wav");
-    showIdlePicture(main_);
+    forms::showIdlePicture(main_);
     main_.Label43.caption = "";
     waits_.release();
   } else {
@@ -90,20 +91,17 @@ void Advance::endRun() {
   main_.MyButton1.click();
 }
 
-void Advance::showRideFields() {
+void Advance::showPass() {
   const std::string passes = std::to_string(state_.nbSeances);
   main_.Label17.caption = (state_.nbSeances > 1 ? std::to_string(state_.seanceCourante) : "1") + "/" + passes;
-  show({&main_.Label1, &main_.Label2, &main_.Label3});
-  hideTimeBoxesUnderSettings(main_);
-  show({&main_.Label10, &main_.Label11, &main_.Label15, &main_.Label20, &main_.Label16, &main_.Label17,
-        &main_.Label28, &main_.Label29});
-  hide({&main_.Label12, &main_.Label39, &main_.Label18, &main_.Image2, &main_.Image4});
+  forms::hideTimeBoxesUnderSettings(main_);
+  forms::showRideFields(main_);
 }
 
 // The music is held and released at every boundary, but the number is said only before the first row of a
 // pass.
 void Advance::sayPass() {
-  if (main_.Check2.value != 1 || main_.Check3.value != 1 || state_.sonSeance.empty()) return;
+  if (!forms::voiceOn(main_) || !forms::saysPass(main_) || state_.sonSeance.empty()) return;
   waits_.hold();
   if (state_.plan.sequenceCourante == 1) voice_.dire(state_.sonSeance);
   waits_.release();
@@ -111,17 +109,13 @@ void Advance::sayPass() {
 
 void Advance::showRow() {
   const model::PlanRow& row = state_.plan.current();
-  const std::string& duration = row.planDuree;
-  main_.Combo1.text = platform::left(duration, 2);
-  main_.Combo2.text = platform::mid(duration, 4, 2);
-  main_.Combo3.text = platform::right(duration, 2);
-  const bool spoken = row.planSequence == model::vocalAnnouncement;
+  forms::showInBoxes(forms::timeBoxes(main_), forms::timeParts(row.planDuree));
+  const bool spoken = row.spoken();
   main_.Label10.caption = spoken ? std::string() : row.planCadence;
   main_.Label11.caption = row.planSequence;
   main_.Label15.caption = spoken ? std::string() : row.planBraquet;
   main_.Label20.caption = spoken ? std::string() : row.planPlateau;
-  main_.Label16.caption =
-      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
+  forms::showPlace(main_, state_);
   if (!spoken) composeGearText();
 }
 
@@ -146,51 +140,47 @@ void Advance::showTarget() {
   main_.Label44.caption = "";
   const std::string target = platform::trim(state_.plan.current().planFreqCard);
   if (target.empty() || target == "---" || target == model::noTarget) {
-    showMessage(main_, "Fréquence de Travail NON Définie\n");
+    forms::showMessage(main_, "Fréquence de Travail NON Définie\n");
     return;
   }
-  main_.Label44.size = 80;
-  main_.Label44.top = -180;
-  main_.Label44.visible = false;
   state_.alternanceFC = 1;
-  main_.Label44.visible = true;
+  forms::makeRoomForTarget(main_);
 }
 
 void Advance::playOwnAnnouncement() {
-  if (state_.plan.current().planSequence != model::vocalAnnouncement) return;
+  if (!state_.plan.current().spoken()) return;
   waits_.hold();
-  if (main_.Check9.value == 1) voice_.jouerAnnonce(state_.plan.current().planAnnonce);
+  if (forms::playsOwnAnnouncements(main_)) voice_.jouerAnnonce(state_.plan.current().planAnnonce);
 }
 
 void Advance::saySequenceNumber() {
   state_.sonNumSequence = sequenceNumberSound(state_.plan.sequenceCourante);
-  if (main_.Check4.value == 1 && !isAnnouncement()) waits_.sayWithMusicHeld(state_.sonNumSequence);
+  if (forms::saysSequenceNumber(main_) && !state_.plan.current().spoken())
+    waits_.sayWithMusicHeld(state_.sonNumSequence);
 }
 
 void Advance::sayRow() {
-  main_.Label16.caption =
-      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
-  if (main_.Check2.value == 1) {
+  if (forms::voiceOn(main_)) {
     sayKind();
-    if (main_.Check5.value == 1 && !state_.sonCadence.empty()) voice_.dire(state_.sonCadence);
+    if (forms::saysCadence(main_) && !state_.sonCadence.empty()) voice_.dire(state_.sonCadence);
     sayChainring();
     waits_.pause();
   }
-  if (!isAnnouncement()) waits_.release();
+  if (!state_.plan.current().spoken()) waits_.release();
 }
 
 // With the cadence alone switched on the music is held, too, but the kind is not said.
 void Advance::sayKind() {
-  const bool wanted = main_.Check5.value == 1 || main_.Check13.value == 1;
-  if (!wanted || isAnnouncement() || state_.sonSequence.empty()) return;
+  const bool wanted = forms::saysCadence(main_) || forms::saysKind(main_);
+  if (!wanted || state_.plan.current().spoken() || state_.sonSequence.empty()) return;
   voice_.nommer(state_.sonSequence);
   waits_.hold();
   // Named again, because a pause during the hold has put its own sound into `sonDemande`.
-  if (main_.Check13.value == 1) voice_.dire(state_.sonSequence);
+  if (forms::saysKind(main_)) voice_.dire(state_.sonSequence);
 }
 
 void Advance::sayChainring() {
-  if (main_.Check6.value != 1 || state_.sonPlateau.empty()) return;
+  if (!forms::saysChainring(main_) || state_.sonPlateau.empty()) return;
   // Decided by the sound's first letter: teeth ("P28.wav") and "Petit Plateau" go into one text with the
   // gear, "Grand Plateau" does not.
   const bool inOneText = state_.sonPlateau.front() == 'P';
@@ -198,10 +188,6 @@ void Advance::sayChainring() {
   main_.Label20.visible = !inOneText;
   main_.Label39.visible = inOneText;
   voice_.dire(state_.sonPlateau);
-}
-
-bool Advance::isAnnouncement() const {
-  return main_.Label11.caption == std::string(model::vocalAnnouncement);
 }
 
 }  // namespace runner

@@ -21,7 +21,7 @@ class Advance {
   void choosePass();
   [[nodiscard]] bool isOver() const;
   void endRun();
-  void showRideFields();
+  void showPass();
   void sayPass();
   void showRow();
   void composeGearText();
@@ -32,8 +32,6 @@ class Advance {
   void sayRow();
   void sayKind();
   void sayChainring();
-
-  [[nodiscard]] bool isAnnouncement() const;
 
   context::Context context_;
   voice::Voice& voice_;

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include "forms/main_form_words.h"
+#include "forms/main_message.h"
+#include "forms/sound_settings_words.h"
 #include "model/numbers.h"
 #include "model/training_model.h"
 #include "platform/text.h"
-#include "runner/visibility.h"
 
 namespace runner {
 namespace {
@@ -48,9 +50,9 @@ void Chrono::count() {
     waits_.pause();
   }
   main_.Timer1.enabled = false;
-  for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) box->text = "00";
+  forms::showInBoxes(forms::timeBoxes(main_), forms::noTime);
   if (state_.nbSequences == 0) return;
-  hide({&main_.Label18, &main_.Image4});
+  forms::hide(forms::restFields(main_));
   advance_.avancerSequence();
 }
 
@@ -68,28 +70,25 @@ void Chrono::showTarget() {
 // The total is read back from the label, so that it always stays in whole seconds.
 void Chrono::countTotal() {
   // After a paused countdown the chrono ticks before the first sequence: no second is ridden yet.
-  if (state_.nbSequences != 0 && state_.plan.sequenceCourante == 0) return;
-  if (state_.plan.current().planSequence != model::vocalAnnouncement) {
+  if (state_.nbSequences != 0 && !state_.plan.started()) return;
+  if (!state_.plan.current().spoken()) {
     main_.Label40.caption = model::formatTime(state_.dureeTotale - state_.pasChrono);
   }
   state_.dureeTotale = model::timeValue(main_.Label40.caption.get());
 }
 
 Chrono::Sequence Chrono::countSecond() {
-  main_.Label16.caption =
-      std::to_string(state_.plan.sequenceCourante) + "/" + std::to_string(state_.nbSequences);
+  forms::showPlace(main_, state_);
   state_.ecouleSequence += state_.pasChrono;
   // Converted to text and back, because sums of many seconds drift off whole seconds, which the test below
   // needs.
   const std::string left = model::formatTime(state_.dureeSequence - state_.ecouleSequence);
   state_.restantSequence = model::timeValue(left);
-  main_.Label4.caption = platform::left(left, 2);
-  main_.Label5.caption = platform::mid(left, 4, 2);
-  main_.Label6.caption = platform::right(left, 2);
+  forms::showInDigits(main_, forms::timeParts(left));
   state_.moitieSequence = model::formatTime(state_.dureeSequence / 2);
   const bool halfWay = model::timeValue(state_.moitieSequence) == state_.restantSequence;
-  if (halfWay && main_.Check8.value == 1) waits_.sayWithMusicHeld("miparcours.wav");
-  const auto digits = {&main_.Label4, &main_.Label5, &main_.Label6};
+  if (halfWay && forms::saysHalfWay(main_)) waits_.sayWithMusicHeld("miparcours.wav");
+  const auto digits = forms::chronoDigits(main_);
   const bool runOut = std::all_of(digits.begin(), digits.end(), [](const auto* label) {
     return model::lenientNumber(label->caption.get()) == 0;
   });
@@ -98,16 +97,12 @@ Chrono::Sequence Chrono::countSecond() {
 
 void Chrono::tickSurveillance() {
   // What is paused can always be resumed, whatever the row.
-  enableRideButtons(main_, state_.dureeSequence != 0 || main_.Command7.caption == "REPRENDRE");
-  const auto boxes = {&main_.Check3, &main_.Check4, &main_.Check5, &main_.Check6,
-                      &main_.Check7, &main_.Check8, &main_.Check9, &main_.Check13};
-  if (std::all_of(boxes.begin(), boxes.end(), [](const auto* box) { return box->value == 0; })) {
-    main_.Check2.value = 0;
-  }
+  forms::enableRideButtons(main_, state_.dureeSequence != 0 || forms::ridePaused(main_));
+  if (forms::saysNothing(main_)) forms::turnVoice(main_, false);
 }
 
 void Chrono::tickPanneau() {
-  if (!showsEndMessage(main_)) main_.Picture6.visible = true;
+  if (!forms::showsEndMessage(main_)) main_.Picture6.visible = true;
 }
 
 void Chrono::hidePanelBriefly() {

@@ -1,8 +1,10 @@
 #include "runner/countdown.h"
 
+#include "forms/main_form_words.h"
+#include "forms/main_message.h"
+#include "forms/sound_settings_words.h"
 #include "model/numbers.h"
 #include "platform/text.h"
-#include "runner/visibility.h"
 
 namespace runner {
 
@@ -25,7 +27,7 @@ Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advan
   main_.Combo5.click.handle([this] { chooseLength(); });
   main_.Combo5.enter.handle([this] { applyTypedLength(); });
   main_.Combo5.validate.handle([this] { applyTypedLength(); });
-  for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) {
+  for (platform::ComboBox* box : forms::timeBoxes(main_)) {
     box->click.handle([this] { chooseManualTime(); });
     box->enter.handle([this] { applyTypedTime(); });
     box->validate.handle([this] { applyTypedTime(); });
@@ -36,47 +38,47 @@ Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advan
 
 void Countdown::lancerCompteRebours() {
   if (state_.nbSequences == 0 && state_.dureeSequence == 0) {
-    showNothingToRide(main_);
+    forms::showNothingToRide(main_);
     return;
   }
   replaceInvalidLength();
-  main_.Command7.caption = "Pause";
-  if (main_.MyButton3.caption == "Redémarrer Chrono") main_.MyButton3.caption = "Démarrer Chrono";
+  forms::offerPause(main_);
   main_.Label9.caption = main_.Combo5.text;
   main_.Timer2.enabled = true;
   main_.MyButton3.enabled = false;
-  showDigits(main_);
-  if (main_.Check2.value != 1) return;
+  forms::showDigits(main_);
+  if (!forms::voiceOn(main_)) return;
   state_.musiqueSuit = "non";
-  showMessage(main_, "Démarrage Séance d'Entraînement");
+  forms::showMessage(main_, "Démarrage Séance d'Entraînement");
   main_.Image7.visible = false;
   voice_.dire("topdepartentrainement.wav");
 }
 
 void Countdown::tickCompteRebours() {
   main_.Label9.visible = false;
-  main_.Label9.caption = std::to_string(model::lenientInteger(main_.Label9.caption.get()) - 1);
+  const int left = forms::countdownLeft(main_) - 1;
+  main_.Label9.caption = std::to_string(left);
   main_.Label9.visible = true;
   if (state_.nbSequences != 0) {
-    if (main_.Label9.caption != "0") return;
+    if (left != 0) return;
     main_.MyFrame2.visible = false;
-    hideTimeBoxesUnderSettings(main_);
+    forms::hideTimeBoxesUnderSettings(main_);
     main_.Combo4.visible = false;
-    if (main_.Check2.value == 1 && state_.nbSequences > 0) {
+    if (forms::voiceOn(main_) && state_.nbSequences > 0) {
       main_.Label18.caption = "Séance en Cours";
       voice_.dire("dementrainement.wav");
       context_.screens.announcements.Timer12.enabled = true;
     }
   }
   main_.MyFrame2.visible = false;
-  hideTimeBoxesUnderSettings(main_);
+  forms::hideTimeBoxesUnderSettings(main_);
   main_.Timer2.enabled = false;
-  clearMessage(main_);
+  forms::clearMessage(main_);
   main_.Label40.caption = model::formatTime(state_.dureeTotale);
   main_.Picture6.visible = true;
   if (state_.nbSequences == 0) {
     // A manual chrono starts without the button that shows the digits.
-    showDigits(main_);
+    forms::showDigits(main_);
     main_.Timer1.enabled = true;
   } else {
     advance_.avancerSequence();
@@ -84,63 +86,58 @@ void Countdown::tickCompteRebours() {
 }
 
 void Countdown::basculerPause() {
-  if (main_.Command7.caption == "Pause") {
-    if (!somethingRuns()) return;
+  if (!forms::ridePaused(main_)) {
+    if (!forms::rideUnderWay(main_, state_)) return;
     // An announcement has no time that could be stopped: it ends by itself, and the pause takes effect on the
     // row after it.
     if (state_.dureeSequence != 0) main_.Timer1.enabled = false;
     main_.Timer2.enabled = false;
-    if (main_.Check2.value == 1) voice_.dire("pausedemande.wav");
-    main_.Command7.caption = "REPRENDRE";
-  } else if (main_.Command7.caption == "REPRENDRE") {
+    if (forms::voiceOn(main_)) voice_.dire("pausedemande.wav");
+    forms::offerResume(main_);
+  } else {
     voice_.dire("repriseentrainement.wav");
     // While a boundary is still speaking, the chrono is left to it.
     main_.Timer1.enabled = !advance_.holdsTime();
     main_.Timer2.enabled = false;
     main_.Timer10.enabled = true;
-    main_.Command7.caption = "Pause";
-    showDigits(main_);
+    forms::offerPause(main_);
+    forms::showDigits(main_);
   }
-}
-
-bool Countdown::somethingRuns() const {
-  return main_.Timer1.enabled || main_.Timer2.enabled || state_.plan.sequenceCourante > 0;
 }
 
 void Countdown::leaveFrame() {
   main_.MyButton4.click();
-  hide({&main_.Combo1, &main_.Combo2, &main_.Combo3});
+  forms::hide(forms::timeBoxes(main_));
   voice_.dire("seanceAnnule.wav");
   main_.MyFrame2.visible = false;
-  hideTimeBoxesUnderSettings(main_);
+  forms::hideTimeBoxesUnderSettings(main_);
 }
 
 void Countdown::chooseLength() {
-  main_.MyButton10.enabled = main_.Check12.value == 1 && main_.Combo5.text != state_.dureeChrono;
+  main_.MyButton10.enabled = forms::keepsCountdownLength(main_) && main_.Combo5.text != state_.dureeChrono;
   main_.Label9.caption = main_.Combo5.text;
 }
 
 void Countdown::chooseManualTime() {
-  state_.dureeSequence = model::timeValue(main_.Combo1.text.get() + ":" + main_.Combo2.text.get() + ":" +
-                                          main_.Combo3.text.get());
+  state_.dureeSequence = model::timeValue(forms::timeInBoxes(forms::timeBoxes(main_)));
   state_.ecouleSequence = 0;
 }
 
 // A countdown of zero or less would never end.
 void Countdown::replaceInvalidLength() {
-  if (model::lenientInteger(main_.Combo5.text.get()) >= 1) return;
-  main_.Combo5.text = state_.dureeChrono.empty() ? "16" : state_.dureeChrono;
+  if (forms::countdownLength(main_) >= 1) return;
+  main_.Combo5.text = state_.dureeChrono.empty() ? std::to_string(forms::usualCountdown) : state_.dureeChrono;
 }
 
 // A countdown that runs keeps its number.
 void Countdown::applyTypedLength() {
   replaceInvalidLength();
-  if (!main_.Timer2.enabled) chooseLength();
+  if (!forms::countdownRuns(main_)) chooseLength();
 }
 
 void Countdown::applyTypedTime() {
   if (!main_.Combo1.visible) return;  // in a ride the boxes show what is ridden
-  for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) {
+  for (platform::ComboBox* box : forms::timeBoxes(main_)) {
     box->text = model::lineFor(box->lines(), platform::trim(box->text.get())).value_or("00");
   }
   chooseManualTime();
@@ -149,7 +146,7 @@ void Countdown::applyTypedTime() {
 void Countdown::goToEditor() {
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
-  if (main_.Command7.caption == "Pause") main_.MyButton4.click();
+  if (!forms::ridePaused(main_)) main_.MyButton4.click();
   main_.mnCreat.click();
 }
 

@@ -15,7 +15,8 @@ class Countdown {
   void lancerCompteRebours();
   void tickCompteRebours();
   void basculerPause();
-  [[nodiscard]] bool somethingRuns() const;
+
+ private:
   void leaveFrame();
   void chooseLength();
   void chooseManualTime();

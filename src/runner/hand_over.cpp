@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "forms/lect_mci_words.h"
+#include "forms/main_form_words.h"
 #include "model/grid_rows.h"
 #include "model/numbers.h"
 #include "model/training_model.h"
 #include "platform/text.h"
-#include "runner/visibility.h"
 
 namespace runner {
 
@@ -21,9 +21,9 @@ HandOver::HandOver(const context::Context& context, RideWaits& waits)
 }
 
 void HandOver::validerSeance() {
-  if (main_.Command7.caption != "REPRENDRE" && refuseWrongDuration()) return;
+  if (!forms::ridePaused(main_) && refuseWrongDuration()) return;
   prepareOtherForms();
-  if (main_.Command7.caption == "REPRENDRE") {
+  if (forms::ridePaused(main_)) {
     // A paused ride keeps its plan; the edits stay in the grid.
     editor_.mnSortir.click();
     return;
@@ -38,7 +38,7 @@ void HandOver::validerSeance() {
   state_.nbSeances = times > 0 ? times : 1;
   if (grid.rowCount() < 2) {
     main_.MyButton4.click();
-    showNothingToRide(main_);
+    forms::showNothingToRide(main_);
     return;
   }
   fillPlan();
@@ -73,9 +73,9 @@ void HandOver::prepareOtherForms() {
   main_.MyButton19.visible = !context_.screens.announcements.File1.lines().empty();
   main_.MyButton21.visible = false;
   if (context_.screens.volume.visible) context_.screens.volume.unload();
-  if (state_.dureeChrono.empty()) state_.dureeChrono = "16";
+  if (state_.dureeChrono.empty()) state_.dureeChrono = std::to_string(forms::usualCountdown);
   main_.Combo5.text = state_.dureeChrono;
-  showCountdownLength(main_);
+  forms::showCountdownLength(main_);
 }
 
 void HandOver::resetRide() {
@@ -84,12 +84,13 @@ void HandOver::resetRide() {
   waits_.forgetHold();
   main_.Timer1.enabled = false;
   main_.Timer2.enabled = false;
-  show({&main_.Label4, &main_.Label5, &main_.Label6, &main_.Image4});
+  forms::show(forms::chronoDigits(main_));
+  main_.Image4.visible = true;
   state_.plan.sequenceCourante = 0;
   state_.seanceCourante = 0;
   state_.nbSequences = 0;
-  main_.MyButton1.caption = "Start";
-  main_.Command7.caption = "Pause";
+  forms::offerStart(main_);
+  forms::offerPause(main_);
   state_.sonSeance = "";
 }
 
@@ -109,8 +110,7 @@ void HandOver::fillPlan() {
     planned.planBraquet = grid.text(row, model::column::gear);
     planned.planAnnonce = platform::trim(announcement);
     planned.planFreqCard = grid.text(row, model::column::heartRate);
-    const bool spoken = planned.planSequence == model::vocalAnnouncement;
-    planned.planDuree = spoken ? std::string(model::noDuration) : duration;
+    planned.planDuree = planned.spoken() ? std::string(model::noDuration) : duration;
   }
   state_.nbSequences = static_cast<int>(kept);
 }

@@ -1,7 +1,8 @@
 #include "runner/main_screen.h"
 
+#include "forms/main_form_words.h"
+#include "forms/sound_settings_words.h"
 #include "model/training_model.h"
-#include "runner/visibility.h"
 
 namespace runner {
 MainScreen::MainScreen(const context::Context& context, voice::Voice& voice, SettingsPage& settings,
@@ -30,7 +31,7 @@ void MainScreen::demarrerProgramme() {
   context_.screens.editor.load();
   context_.loop.guard([this] { settings_.lireOuCreer(); });
   main_.mnVerAct.caption = "Version Actuelle du Logiciel (" + version_ + ")";
-  voice_.dire(main_.Check2.value == 1 ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
+  voice_.dire(forms::voiceOn(main_) ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
   context_.screens.volume.load();
   context_.screens.announcements.load();
   context_.screens.player.load();
@@ -52,7 +53,7 @@ void MainScreen::fillLists() {
   main_.Combo2.setLines(model::twoDigits(59));
   main_.Combo3.setLines(model::twoDigits(59));
   main_.Combo5.setLines(model::numbers(1, 60));
-  main_.Combo5.text = "16";
+  main_.Combo5.text = std::to_string(forms::usualCountdown);
 }
 
 void MainScreen::connectMenus() {
@@ -65,8 +66,8 @@ void MainScreen::connectMenus() {
 
 void MainScreen::openEditor() {
   main_.hide();
-  showCountdownLength(main_);
-  if (main_.Command7.caption == "Pause") main_.MyFrame2.visible = true;
+  forms::showCountdownLength(main_);
+  if (!forms::ridePaused(main_)) main_.MyFrame2.visible = true;
   context_.screens.editor.show();
 }
 

@@ -3,7 +3,8 @@
 #include <array>
 #include <string>
 
-#include "runner/visibility.h"
+#include "forms/main_form_words.h"
+#include "forms/main_message.h"
 
 namespace runner {
 
@@ -17,29 +18,24 @@ void Reset::annulerSeance() {
   waits_.overtake();
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
-  if (state_.etatFin != "terminer" && state_.plan.sequenceCourante > 0) {
-    showIdlePicture(main_);
+  if (state_.etatFin != "terminer" && state_.plan.started()) {
+    forms::showIdlePicture(main_);
     voice_.dire("seanceAnnule.wav");
   }
-  main_.Command7.caption = "Pause";
-  enableRideButtons(main_, false);
-  if (!showsEndMessage(main_)) clearMessage(main_);
-  showIdlePicture(main_);
+  forms::offerPause(main_);
+  forms::enableRideButtons(main_, false);
+  if (!forms::showsEndMessage(main_)) forms::clearMessage(main_);
+  forms::showIdlePicture(main_);
   main_.Label18.caption = "Prêt pour une Nouvelle Séance d'Entraînement";
-  hide({&main_.Label1, &main_.Label2, &main_.Label3, &main_.Combo1, &main_.Combo2, &main_.Combo3,
-        &main_.Label10, &main_.Label11, &main_.Label39, &main_.Label15, &main_.Label20, &main_.Label12,
-        &main_.Label16, &main_.Label17, &main_.Label28, &main_.Label29, &main_.Image2});
-  show({&main_.Label18, &main_.Image4});
+  forms::hideRideFields(main_);
   main_.Timer1.enabled = false;
   main_.Timer2.enabled = false;
   state_.ecouleSequence = 0;
   state_.plan.sequenceCourante = 0;
   state_.dureeSequence = model::timeValue("00:00:00");
-  for (auto* digits : {&main_.Label4, &main_.Label5, &main_.Label6}) digits->caption = "00";
-  for (auto* field : {&main_.Label10, &main_.Label11, &main_.Label12, &main_.Label15, &main_.Label20}) {
-    field->caption = "";
-  }
-  for (auto* box : {&main_.Combo1, &main_.Combo2, &main_.Combo3}) box->text = "00";
+  forms::showInDigits(main_, forms::noTime);
+  for (platform::Label* text : forms::sequenceTexts(main_)) text->caption = "";
+  forms::showInBoxes(forms::timeBoxes(main_), forms::noTime);
   if (state_.ecranVeilleActif == "oui") context_.outside.screenSaver.setActive(true);
   waits_.endHold();
 }
@@ -50,18 +46,19 @@ void Reset::boutonStart() {
     return;
   }
   annulerSeance();
-  if (main_.MyButton1.caption == "Start") {
-    main_.MyButton1.caption = "Stop";
-    hide({&main_.Combo1, &main_.Combo2, &main_.Combo3, &main_.Combo4});
-    clearMessage(main_);
-    showCountdownLength(main_);
+  if (forms::startOffered(main_)) {
+    forms::offerStop(main_);
+    forms::hide(forms::timeBoxes(main_));
+    main_.Combo4.visible = false;
+    forms::clearMessage(main_);
+    forms::showCountdownLength(main_);
     main_.MyFrame2.visible = true;
     main_.MyButton3.enabled = true;
-  } else if (main_.MyButton1.caption == "Stop") {
+  } else {
     main_.MyButton3.caption = "Démarrer Chrono";
     waits_.run([this] {
       waits_.silenceMusic();
-      main_.MyButton1.caption = "Start";
+      forms::offerStart(main_);
       main_.Timer1.enabled = false;
     });
   }
@@ -70,14 +67,14 @@ void Reset::boutonStart() {
 // With nothing programmed the time boxes set the duration. The cancel at each start empties them, so they are
 // filled again.
 void Reset::startManualChrono() {
-  const std::array boxes{&main_.Combo1, &main_.Combo2, &main_.Combo3};
-  const std::array<std::string, 3> chosen{main_.Combo1.text, main_.Combo2.text, main_.Combo3.text};
+  const auto boxes = forms::timeBoxes(main_);
+  const std::array<std::string, 3> chosen{boxes[0]->text, boxes[1]->text, boxes[2]->text};
   annulerSeance();
-  for (std::size_t i = 0; i < boxes.size(); ++i) boxes.at(i)->text = chosen.at(i);
-  state_.dureeSequence = model::timeValue(chosen[0] + ":" + chosen[1] + ":" + chosen[2]);
+  forms::showInBoxes(boxes, chosen);
+  state_.dureeSequence = model::timeValue(forms::timeInBoxes(boxes));
   state_.dureeTotale = state_.dureeSequence;
   if (state_.dureeSequence == 0) {
-    showNothingToRide(main_);
+    forms::showNothingToRide(main_);
     return;
   }
   main_.Timer2.enabled = true;

@@ -1,7 +1,8 @@
 #include "runner/settings_page.h"
 
+#include "forms/main_form_words.h"
+#include "forms/sound_settings_words.h"
 #include "model/numbers.h"
-#include "runner/visibility.h"
 
 namespace runner {
 namespace {
@@ -19,11 +20,7 @@ SettingsPage::SettingsPage(const context::Context& context, voice::Voice& voice)
       voice_(voice),
       main_(context.screens.main),
       state_(context.state),
-      boxes_{&main_.Check1,  &main_.Check2,  &main_.Check3, &main_.Check4, &main_.Check5,
-             &main_.Check6,  &main_.Check7,  &main_.Check8, &main_.Check9, &main_.Check10,
-             &main_.Check11, &main_.Check12, &main_.Check13},
-      announcements_{&main_.Check3, &main_.Check4, &main_.Check5, &main_.Check6,
-                     &main_.Check7, &main_.Check8, &main_.Check9, &main_.Check13} {
+      boxes_(forms::settingsBoxes(main_)) {
   coupleBoxes();
   main_.MyButton7.click.handle([this] { enregistrerParametres(); });
   main_.MyButton8.click.handle([this] {
@@ -37,21 +34,21 @@ SettingsPage::SettingsPage(const context::Context& context, voice::Voice& voice)
 }
 
 void SettingsPage::coupleBoxes() {
-  main_.Check1.click.handle([this] { main_.Check2.value = main_.Check1.value == 1 ? 0 : 1; });
+  main_.Check1.click.handle([this] { forms::turnVoice(main_, main_.Check1.value != 1); });
   main_.Check2.click.handle([this] {
-    const bool on = main_.Check2.value == 1;
-    setAnnouncements(on ? 1 : 0);
+    const bool on = forms::voiceOn(main_);
+    for (platform::CheckBox* part : forms::spokenParts(main_)) part->value = on ? 1 : 0;
     voice_.dire(on ? "annvocalActiv.wav" : "annvocalDesactiv.wav");
   });
-  for (platform::CheckBox* box : announcements_) {
-    box->click.handle([this, box] {
-      if (box->value == 1) main_.Check2.value = 1;
+  for (platform::CheckBox* part : forms::spokenParts(main_)) {
+    part->click.handle([this, part] {
+      if (part->value == 1) forms::turnVoice(main_, true);
     });
   }
   const auto exclude = [this](platform::CheckBox& box, platform::CheckBox& other) {
     box.click.handle([this, &box, &other] {
       if (box.value == 1) {
-        if (main_.Check2.value == 0) main_.Check2.value = 1;
+        forms::turnVoice(main_, true);
         other.value = 0;
       } else {
         other.value = 1;
@@ -60,10 +57,6 @@ void SettingsPage::coupleBoxes() {
   };
   exclude(main_.Check10, main_.Check11);
   exclude(main_.Check11, main_.Check10);
-}
-
-void SettingsPage::setAnnouncements(int value) {
-  for (platform::CheckBox* box : announcements_) box->value = value;
 }
 
 std::string SettingsPage::path() const {
@@ -86,9 +79,9 @@ void SettingsPage::lireParametres() {
   }
   for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_.at(i)->value = settings->boxes.at(i);
   const int countdown = model::lenientInteger(settings->countdown);
-  main_.Combo5.text = countdown == 0 ? "16" : std::to_string(countdown);
+  main_.Combo5.text = std::to_string(countdown == 0 ? forms::usualCountdown : countdown);
   state_.dureeChrono = main_.Combo5.text;
-  showCountdownLength(main_);
+  forms::showCountdownLength(main_);
   if (countdown > longestCountdown) state_.dureeChrono = std::to_string(longestCountdown);
 }
 
@@ -120,14 +113,14 @@ void SettingsPage::enregistrerParametres() {
 }
 
 void SettingsPage::ouvrir() {
-  hide({&main_.Combo1, &main_.Combo2, &main_.Combo3});
+  forms::hide(forms::timeBoxes(main_));
   main_.Picture1.visible = true;
 }
 
 // The time boxes come back where a manual chrono can still be chosen: at rest, with nothing programmed.
 void SettingsPage::close() {
   main_.Picture1.visible = false;
-  if (state_.nbSequences == 0 && !main_.Timer1.enabled) show({&main_.Combo1, &main_.Combo2, &main_.Combo3});
+  if (state_.nbSequences == 0 && !forms::chronoRuns(main_)) forms::show(forms::timeBoxes(main_));
 }
 
 }  // namespace runner

@@ -25,7 +25,6 @@ class SettingsPage {
   void enregistrerParametres();
   void coupleBoxes();
   void close();
-  void setAnnouncements(int value);
   void repair();
   [[nodiscard]] std::string path() const;
 
@@ -33,9 +32,7 @@ class SettingsPage {
   voice::Voice& voice_;
   forms::MainForm& main_;
   model::SharedState& state_;
-  // Check1 to Check13, and of them those that say what is announced.
   std::array<platform::CheckBox*, model::settingsBoxCount> boxes_;
-  std::array<platform::CheckBox*, 8> announcements_;
 };
 
 }  // namespace runner

@@ -5,6 +5,7 @@
 
 #include "context/context.h"
 #include "forms/lect_mci_words.h"
+#include "forms/sound_settings_words.h"
 
 namespace voice {
 
@@ -39,7 +40,7 @@ class Voice {
   // Plays what `sonDemande` asks for and returns at its end; no event is served meanwhile. A name that is
   // not in the bank repeats the sound before it.
   void jouerSon();
-  [[nodiscard]] bool musiqueCede() const { return main_.Check10.value == 1 && forms::musicLoaded(player_); }
+  [[nodiscard]] bool musiqueCede() const { return forms::musicYields(main_) && forms::musicLoaded(player_); }
 
   model::SharedState& state_;
   platform::EventLoop& loop_;

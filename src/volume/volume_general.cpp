@@ -1,37 +1,21 @@
 #include "volume/volume_general.h"
 
-#include <algorithm>
 #include <array>
+
+#include "model/volume_advice.h"
 
 namespace volume {
 namespace {
 
 using platform::Colour;
 
-constexpr int silentBelow = 50;  // %, from where a ride can be heard in a room
 constexpr Colour red = Colour::rgb(255, 0, 0);
 constexpr Colour black = Colour::rgb(0, 0, 0);
 constexpr Colour green = Colour::rgb(0, 255, 0);
 constexpr Colour darkBlue = Colour::rgb(0, 0, 128);
 
-struct Advice {
-  int from;  // %
-  const char* text;
-  Colour colour;
-};
-
-// The last row whose level is reached counts.
-constexpr std::array<Advice, 4> advices{{
-    {0, "Le Volume de votre (Son) semble insuffisant...", red},
-    {silentBelow, "Le Volume de votre (Son) semble un peu faible...", green},
-    {75, "Le Volume de votre (Son) semble satisfaisant...", darkBlue},
-    {86, "Le Volume de votre (Son) semble un peu fort...", black},
-}};
-
-const Advice& adviceFor(int percent) {
-  return *std::find_if(advices.rbegin(), advices.rend(),
-                       [&](const Advice& row) { return percent >= row.from; });
-}
+// Of the advice, by loudness.
+constexpr std::array<Colour, model::volumeAdvices.size()> adviceColours{red, green, darkBlue, black};
 
 std::string asText(bool value) {
   return value ? "Vrai" : "Faux";
@@ -120,16 +104,17 @@ void VolumeGeneral::showVolume() {
   context_.screens.announcements.VScroll2.value = percent;
   dialog_.Lbl_Volume.caption = std::to_string(percent) + " %";
   main_.Label38.caption = "Volume Actuel (" + std::to_string(percent) + "%)";
-  const Advice& advice = adviceFor(percent);
+  const model::VolumeAdvice& advice = model::adviceFor(percent);
   main_.Label36.caption = advice.text;
-  main_.Label36.colour = advice.colour;
+  main_.Label36.colour = adviceColours.at(static_cast<std::size_t>(advice.loudness));
 }
 
 // Once, at the start: tells the rider if the sound is too low or off, while he can still change it.
 void VolumeGeneral::noticeOnce() {
   if (noticed_) return;
   noticed_ = true;
-  const bool unheard = etatMuet_ != 0 || dialog_.VScroll1.value < silentBelow;
+  const bool tooLow = model::adviceFor(dialog_.VScroll1.value).loudness == model::Loudness::TooLow;
+  const bool unheard = etatMuet_ != 0 || tooLow;
   if (!master().VolumeEnabled() || !unheard) return;
   main_.Picture2.caption = main_.Label36.caption.get() + "\n" + main_.Label34.caption.get();
   main_.Frame5.visible = true;

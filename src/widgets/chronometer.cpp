@@ -74,8 +74,8 @@ void CountdownRing::setText(const QString& text) {
   update();
 }
 
-void CountdownRing::setTotal(int total) {
-  total_ = std::max(1, total);
+void CountdownRing::setShare(double share) {
+  share_ = std::clamp(share, 0.0, 1.0);
   update();
 }
 
@@ -93,9 +93,8 @@ void CountdownRing::paintEvent(QPaintEvent*) {
   painter.setPen(QPen(QGuiApplication::palette().color(role::line), stroke));
   painter.drawEllipse(circle);
 
-  const double left = std::clamp(text_.toDouble() / total_, 0.0, 1.0);
   painter.setPen(QPen(QGuiApplication::palette().color(role::accent), stroke, Qt::SolidLine, Qt::RoundCap));
-  if (left > 0) painter.drawArc(circle, 90 * 16, static_cast<int>(-left * 360 * 16));
+  if (share_ > 0) painter.drawArc(circle, 90 * 16, static_cast<int>(-share_ * 360 * 16));
 
   QFont font = numberFont(this, 10);
   font.setPixelSize(std::max(8, static_cast<int>(side * 0.52)));

@@ -30,14 +30,13 @@ class ChronoDigits final : public QWidget {
 class CountdownRing final : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QString text READ text WRITE setText)
-  Q_PROPERTY(int total READ total WRITE setTotal)
 
  public:
   explicit CountdownRing(QWidget* parent = nullptr);
   [[nodiscard]] QString text() const { return text_; }
   void setText(const QString& text);
-  [[nodiscard]] int total() const { return total_; }
-  void setTotal(int total);
+  // How much of the ring is left, 0 to 1.
+  void setShare(double share);
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
@@ -45,7 +44,7 @@ class CountdownRing final : public QWidget {
 
  private:
   QString text_;
-  int total_ = 16;
+  double share_ = 1;
 };
 
 }  // namespace widgets

@@ -4,7 +4,6 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QToolTip>
 #include <algorithm>
 #include <numeric>
@@ -231,13 +230,8 @@ ZoneBand::ZoneBand(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void ZoneBand::show(const QString& range, const QColor& colour) {
-  static const QRegularExpression numbers(QStringLiteral("(-?\\d+)"));
-  std::vector<double> found;
-  for (auto match = numbers.globalMatch(range); match.hasNext();)
-    found.push_back(match.next().captured().toDouble());
-  from_ = found.size() == 2 ? found[0] : 0;
-  to_ = found.size() == 2 ? found[1] : 0;
+void ZoneBand::show(const model::HeartZone& zone, const QColor& colour) {
+  zone_ = zone;
   colour_ = colour;
   update();
 }
@@ -255,13 +249,14 @@ void ZoneBand::paintEvent(QPaintEvent*) {
   const double radius = height() / 2.0;
   painter.setBrush(QGuiApplication::palette().color(role::line));
   painter.drawRoundedRect(QRectF(rect()), radius, radius);
-  if (to_ <= from_) return;
+  if (zone_.to <= zone_.from) return;
   const auto x = [&](double beats) {
     return width() * (std::clamp(beats, lowest, highest) - lowest) / (highest - lowest);
   };
   painter.setBrush(colour_);
-  painter.drawRoundedRect(QRectF(x(from_), 0, std::max(x(to_) - x(from_), 1.0 * height()), height()), radius,
-                          radius);
+  painter.drawRoundedRect(
+      QRectF(x(zone_.from), 0, std::max(x(zone_.to) - x(zone_.from), 1.0 * height()), height()), radius,
+      radius);
 }
 
 }  // namespace widgets

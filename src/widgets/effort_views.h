@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/effort_family.h"
+#include "model/heart_zone.h"
 
 namespace widgets {
 
@@ -88,20 +89,19 @@ class SessionProfile final : public QWidget {
   bool clickable_ = false;
 };
 
-// A range of beats within what a heart can do, drawn from a text such as "108 à 126".
+// A range of beats within what a heart can do; nothing of it where it is empty.
 class ZoneBand final : public QWidget {
   Q_OBJECT
  public:
   explicit ZoneBand(QWidget* parent = nullptr);
-  void show(const QString& range, const QColor& colour);
+  void show(const model::HeartZone& zone, const QColor& colour);
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent*) override;
 
  private:
-  double from_ = 0;
-  double to_ = 0;
+  model::HeartZone zone_;
   QColor colour_;
 };
 

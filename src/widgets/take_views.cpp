@@ -6,12 +6,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "model/take.h"
 #include "widgets/theme.h"
 
 namespace widgets {
 namespace {
-
-constexpr int longestTake = 30;  // s
 
 QColor themed(QPalette::ColorRole role) {
   return QGuiApplication::palette().color(role);
@@ -50,7 +49,7 @@ void TakeRing::paintEvent(QPaintEvent*) {
   painter.drawEllipse(circle);
 
   const QColor colour = themed(mood_ == Mood::Recording ? role::wrong : role::accent);
-  const double share = std::clamp(seconds_ / static_cast<double>(longestTake), 0.0, 1.0);
+  const double share = std::clamp(seconds_ / static_cast<double>(model::longestTake), 0.0, 1.0);
   painter.setPen(QPen(colour, stroke, Qt::SolidLine, Qt::RoundCap));
   if (share > 0) painter.drawArc(circle, 90 * 16, static_cast<int>(-share * 360 * 16));
 
@@ -66,7 +65,7 @@ void TakeRing::paintEvent(QPaintEvent*) {
   painter.setFont(sansFont(this, 16 * side / dp(this, 250)));
   painter.setPen(themed(role::second));
   painter.drawText(QRectF(circle.left(), circle.center().y() + side * 0.20, circle.width(), side * 0.12),
-                   Qt::AlignHCenter | Qt::AlignTop, QStringLiteral("/ %1 s").arg(longestTake));
+                   Qt::AlignHCenter | Qt::AlignTop, QStringLiteral("/ %1 s").arg(model::longestTake));
 }
 
 Waveform::Waveform(QWidget* parent) : QWidget(parent) {}

@@ -6,18 +6,17 @@
 #include <algorithm>
 #include <array>
 
+#include "model/volume_advice.h"
 #include "widgets/theme.h"
 
 namespace widgets {
 namespace {
 
-struct Stretch {
-  int to;  // %
-  QPalette::ColorRole colour;
-};
+constexpr auto& advices = model::volumeAdvices;
 
-constexpr std::array<Stretch, 4> stretches{
-    {{50, role::wrong}, {75, role::warning}, {86, role::good}, {100, role::warning}}};
+// By loudness.
+constexpr std::array<QPalette::ColorRole, advices.size()> colours{role::wrong, role::warning, role::good,
+                                                                  role::warning};
 
 }  // namespace
 
@@ -44,20 +43,18 @@ void VolumeGauge::paintEvent(QPaintEvent*) {
   QPainterPath shape;
   shape.addRoundedRect(groove, high / 2, high / 2);
   painter.setClipPath(shape);
-  double from = groove.left();
-  bool before = false;
-  for (const Stretch& stretch : stretches) {
-    const double to = groove.left() + groove.width() * stretch.to / 100;
-    const bool here = !before && percent_ < stretch.to + (stretch.to == 100 ? 1 : 0);
-    before = before || here;
+  const auto x = [&](int percent) { return groove.left() + groove.width() * percent / 100; };
+  for (std::size_t i = 0; i < advices.size(); ++i) {
+    const double from = x(advices.at(i).from);
+    const double to = x(i + 1 < advices.size() ? advices.at(i + 1).from : 100);
+    const QColor colour = palette.color(colours.at(static_cast<std::size_t>(advices.at(i).loudness)));
     // The stretch that the volume is in is bright.
+    const bool here = &advices.at(i) == &model::adviceFor(percent_);
     painter.fillRect(QRectF(from, groove.top(), to - from - dp(this, 2), high),
-                     here ? palette.color(stretch.colour)
-                          : mixed(palette.color(role::card), palette.color(stretch.colour), 0.35));
-    from = to;
+                     here ? colour : mixed(palette.color(role::card), colour, 0.35));
   }
   painter.setClipping(false);
-  const double at = groove.left() + groove.width() * percent_ / 100;
+  const double at = x(percent_);
   const QPointF mark[] = {{at, groove.top() - dp(this, 3)},
                           {at - knob, groove.top() - dp(this, 3) - knob * 1.5},
                           {at + knob, groove.top() - dp(this, 3) - knob * 1.5}};

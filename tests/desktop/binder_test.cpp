@@ -44,7 +44,7 @@ class BinderTest : public testing::Test {
   QWidget main_;
   QWidget editor_;
   desktop::MainView mainView_{screens_.main, state_, main_};
-  desktop::EditorView editorView_{screens_.editor, editor_, binder_};
+  desktop::EditorView editorView_{screens_.editor, state_, editor_, binder_};
 };
 
 TEST_F(BinderTest, EveryControlStandsOnceOnItsPage) {

@@ -30,14 +30,23 @@ TEST_F(RecordingPage, ATakeIsSavedAsItWasRecordedAsOftenAsWanted) {
             "close all\nopen new type waveaudio alias capture\nseek capture to start\n"
             "set capture samplespersec 11025\nset capture bitspersample 8\nset capture channels 1\n"
             "record capture\n");
+  const model::Take& take = program.state().take;
+  program.run("advance 4");
+  EXPECT_EQ(take.seconds, 4);
   program.run(
-      "advance 4\npress EnrUneAnnonce.Command3\nadvance 9\nanswer /elsewhere/Bravo\n"
-      "press EnrUneAnnonce.Command1");
+      "press EnrUneAnnonce.Command3\nadvance 9\nanswer /elsewhere/Bravo\npress EnrUneAnnonce.Command1");
+  EXPECT_EQ(take.length, 4000);
+  EXPECT_EQ(take.file, "/d/annonces/Bravo.wav");
   EXPECT_EQ(saved("Bravo.wav").size(), 44 + 4 * 11025U);
   program.run(
       "answer Encore.wav\npress EnrUneAnnonce.Command4\npress EnrUneAnnonce.Command4\n"
       "press EnrUneAnnonce.Command1");
   EXPECT_EQ(saved("Encore.wav"), saved("Bravo.wav"));
+  program.run("answer Encore.wav\npress EnrUneAnnonce.Command6\nadvance 2");
+  EXPECT_NEAR(program.state().announcement.share(), 0.5, 0.05);
+  program.run("advance 3\npress EnrUneAnnonce.Command2");
+  EXPECT_EQ(program.state().announcement.share(), 1);
+  EXPECT_EQ(take.file, "");
 }
 
 TEST_F(RecordingPage, AsksBeforeReplacingAndPassesOverAFullDisk) {

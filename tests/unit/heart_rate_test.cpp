@@ -103,10 +103,10 @@ TEST(Formulas, ReadTheOperandsOfTheWriterWhoAsks) {
 }
 
 TEST(Formulas, RoundTheBandsHalfAwayFromZero) {
-  EXPECT_EQ(bandText(0, 180, 60, {70, 85}), "126 à 153");
-  EXPECT_EQ(bandText(5, 190, 50, {60, 70}), "134 à 148");
-  EXPECT_EQ(bandText(3, 175, 0, {50, 60}), "88 à 105");  // 87.5
-  EXPECT_EQ(bandText(0, 0, 0, {50, 60}), " à ");
+  EXPECT_EQ(zoneText(zoneOf(0, 180, 60, {70, 85})), "126 à 153");
+  EXPECT_EQ(zoneText(zoneOf(5, 190, 50, {60, 70})), "134 à 148");
+  EXPECT_EQ(zoneText(zoneOf(3, 175, 0, {50, 60})), "88 à 105");  // 87.5
+  EXPECT_EQ(zoneText(zoneOf(0, 0, 0, {50, 60})), " à ");
   EXPECT_EQ(reserveText(180, 0), "180");
   EXPECT_EQ(workRateText(1, 178, 60, 50), "119");
   EXPECT_EQ(workRateText(5, 178, 60, 50), "89");
@@ -240,6 +240,8 @@ TEST_F(HeartRate, ShowsTheResultsAndTheBoxesOfTheMethod) {
   pick(form.Combo7, "40");
   EXPECT_EQ(form.Combo11.text, "180");
   EXPECT_EQ(form.Label53.caption, "108 à 126");
+  EXPECT_EQ(state.heartZones[2].from, 108);
+  EXPECT_EQ(state.heartZones[2].to, 126);
   form.Combo7.text = "4O";  // no number: the box keeps its text and the labels follow it
   form.Combo12.text = "60";
   form.MyButton38.click();

@@ -142,6 +142,15 @@ TEST_F(Library, ALongNameShrinks) {
   EXPECT_EQ(form.Label23.size, form.Label6.size);
 }
 
+// The watch looks each second, also between the order for a piece and its opening.
+TEST_F(Library, BeginsWithTheFirstPieceAtAnyMoment) {
+  program.run("press EnrUneAnnonce.Command8\ntick EnrUneAnnonce.Check1 1");
+  for (const char* untilJustBefore : {"0.999", "3.5"}) {
+    program.run("advance " + std::string(untilJustBefore) + "\npress EnrUneAnnonce.MyButton12\nadvance 0.5");
+    EXPECT_EQ(playing(), "a.mp3") << untilJustBefore;
+  }
+}
+
 // A ride over the music "b", four seconds long, which repeats.
 struct MusicRide : Library {
   MusicRide() {

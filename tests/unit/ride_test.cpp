@@ -1,7 +1,7 @@
 // What a script cannot do: a disk that fails, and a rider who touches something while the program waits.
 #include <gmock/gmock.h>
 
-#include "model/grid_rows.h"
+#include "forms/main_form_words.h"
 #include "runner/boundary_sounds.h"
 #include "support/simulated_program.h"
 #include "voice/sound_bank.h"
@@ -77,6 +77,40 @@ TEST(Rides, AFaultInATickIsToldOnceAndTheProgramGoesOn) {
   EXPECT_EQ(said.find("bientôt"), said.rfind("bientôt"));
   program.run("expect MainForm.Label18.visible 1\nexpect MainForm.Command7.enabled 0");
   EXPECT_EQ(program.status(), 0);
+}
+
+// Between two rows no clock runs: the ride is under way all the same.
+TEST(Rides, AreUnderWayFromTheCountdownToTheCancel) {
+  SimulatedProgram program(support::settingsOn);
+  ASSERT_TRUE(program.start());
+  const forms::MainForm& main = program.screens().main;
+  const model::SharedState& state = program.state();
+  int betweenRows = 0;
+  program.screens().main.Label11.watch([&](platform::Component&, platform::Prop prop) {
+    if (prop != platform::Prop::Caption || main.Label11.caption != "Sprint") return;
+    ++betweenRows;
+    EXPECT_TRUE(forms::rideUnderWay(main, state));
+    EXPECT_FALSE(forms::rideGoesOn(main));
+  });
+  const struct {
+    const char* hands;
+    bool underWay, paused, started;
+  } moments[] = {{"journal", true, false, false},  // the countdown
+                 {"press MainForm.MyButton9\npress MainForm.Command7\nadvance 5", true, true, false},
+                 {"press MainForm.MyButton4", false, false, false},
+                 {"press MainForm.MyButton5\npress CreerCycle.MyButton5\nadvance 0.1", false, false, false},
+                 {"press MainForm.MyButton3\nadvance 5", true, false, true},
+                 {"press MainForm.Command7", true, true, true},
+                 {"press MainForm.Command7\nadvance 15", true, false, true},
+                 {"advance 60", false, false, false}};
+  program.run(countdownOfTwoRows);
+  for (const auto& [hands, underWay, paused, started] : moments) {
+    program.run(hands);
+    EXPECT_EQ(forms::rideUnderWay(main, state), underWay) << hands;
+    EXPECT_EQ(forms::ridePaused(main), paused) << hands;
+    EXPECT_EQ(state.plan.started(), started) << hands;
+  }
+  EXPECT_EQ(betweenRows, 1);
 }
 
 }  // namespace

@@ -1,0 +1,11 @@
+// A range of heart rates to train in.
+#pragma once
+
+namespace model {
+
+struct HeartZone {
+  double from = 0;  // bpm, whole
+  double to = 0;    // bpm, whole
+};
+
+}  // namespace model
