@@ -91,7 +91,7 @@ void MainView::refreshPages() {
   ui_->ridePage->setVisible(!main_.MyFrame2.visible && !settings);
   ui_->MyFrame1->setText(forms::sessionTitled(main_) ? toQt(main_.MyFrame1.caption.get()) : QString());
   ui_->timeBoxes->setVisible(forms::timeBoxesShown(main_));
-  ui_->volumeBox->setVisible(forms::volumeTold(main_));
+  ui_->volumeBox->setVisible(forms::volumeKnown(main_));
   ui_->contactScrim->setVisible(main_.Picture12.visible);
   ui_->noticePicture->setPicture(toQt(main_.Image18.visible ? "sound-off" : "sound-on"));
   // What the ride's panel covers must not shine through its corners, nor take the keyboard.

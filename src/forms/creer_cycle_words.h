@@ -10,7 +10,7 @@
 
 namespace forms {
 
-// The list is a cycle of several sessions: the button offers to give that up.
+// The list is a cycle of several sessions: the button offers to cancel the cycle.
 [[nodiscard]] inline bool cycleMode(const CreerCycle& editor) {
   return editor.MyButton3.caption != "Créer un Cycle";
 }
@@ -30,17 +30,17 @@ inline void offerToAdd(CreerCycle& editor, bool sessions) {
 
 inline constexpr platform::Colour refusalColour = platform::Colour::rgb(255, 255, 255);
 
-// The badge refuses what was tried on its cell; in any other colour it gives a tip.
+// The badge refuses a change of its cell; in any other colour it gives a tip.
 [[nodiscard]] inline bool badgeRefuses(const CreerCycle& editor) {
   return editor.Label4.colour == refusalColour;
 }
 
-// Something to change a cell with lies open over the list.
+// A box to edit a cell is open over the list.
 [[nodiscard]] inline bool cellOpen(const CreerCycle& editor) {
   return editor.Combo1.visible || editor.Picture2.visible || editor.Combo13.visible;
 }
 
-// Hours, minutes and seconds of the row in hand.
+// The boxes for hours, minutes and seconds of the row being edited.
 [[nodiscard]] auto durationBoxes(auto& editor) {
   return std::array{&editor.Combo2, &editor.Combo3, &editor.Combo4};
 }
@@ -55,7 +55,7 @@ inline constexpr platform::Colour refusalColour = platform::Colour::rgb(255, 255
   return std::all_of(modes.begin(), modes.end(), [](const CheckBox* box) { return box->value == 0; });
 }
 
-// The calculator's results still show what they were designed with.
+// The calculator's results still hold the texts of the design.
 [[nodiscard]] inline bool resultsUntouched(const CreerCycle& editor) {
   return editor.Label50.caption == "Label50";
 }

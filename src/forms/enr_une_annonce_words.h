@@ -14,7 +14,7 @@ inline constexpr const char* noMusicChosen = "Actuellement Aucune Ambiance Music
   return page.Timer3.enabled;
 }
 
-// The button that records the voice offers to; otherwise it says that it does.
+// The record button offers to record; otherwise it says that a take is being recorded.
 [[nodiscard]] inline bool voiceOffered(const EnrUneAnnonce& page) {
   return page.Command2.caption == "Enregistrer la Voix";
 }
@@ -42,17 +42,17 @@ inline void showListening(EnrUneAnnonce& page, bool listening) {
       listening ? "Arrêt Lecture de l'Annonce Enregistrée" : "Ecouter l'Annonce Enregistrée";
 }
 
-// A stored announcement is open: its name stands there.
+// A stored announcement is open: the page shows its name.
 [[nodiscard]] inline bool announcementOpen(const EnrUneAnnonce& page) {
   return page.Label9.caption != noAnnouncementOpen;
 }
 
-// Whether a piece of the library is in hand: the page shows its name.
+// A piece of music is chosen: the page shows its name.
 [[nodiscard]] inline bool musicChosen(const EnrUneAnnonce& library) {
   return library.Label6.caption != noMusicChosen;
 }
 
-// The ticked pieces begin anew behind the last; the box is grey where only some are ticked.
+// After the last ticked piece the first follows; the box is grey where only some are ticked.
 [[nodiscard]] inline bool selectionRepeats(const EnrUneAnnonce& library) {
   return library.Check2.value != 0;
 }

@@ -13,18 +13,18 @@
 
 namespace forms {
 
-// The start countdown counts.
+// The start countdown is running.
 [[nodiscard]] inline bool countdownRuns(const MainForm& main) {
   return main.Timer2.enabled;
 }
 
-// The chrono counts: a sequence, or a time without a plan. It stands in a pause, and while the voice leads
-// from one sequence to the next.
+// The chrono is running, on a sequence or on a time chosen without a plan. It stands still in a pause, and
+// between two sequences.
 [[nodiscard]] inline bool chronoRuns(const MainForm& main) {
   return main.Timer1.enabled;
 }
 
-// The pause button offers to go on.
+// The ride is paused: the pause button offers to resume it.
 [[nodiscard]] inline bool ridePaused(const MainForm& main) {
   return main.Command7.caption == "REPRENDRE";
 }
@@ -37,8 +37,8 @@ inline void offerResume(MainForm& main) {
   main.Command7.caption = "REPRENDRE";
 }
 
-// Something still comes by itself, or would if the rider resumed. Not so in the midst of a boundary, nor
-// where a fault has ended it.
+// The countdown or the chrono runs, or would if the rider resumed. False between two sequences, and after a
+// fault has ended the ride.
 [[nodiscard]] inline bool rideGoesOn(const MainForm& main) {
   return countdownRuns(main) || chronoRuns(main) || ridePaused(main);
 }
@@ -48,7 +48,7 @@ inline void offerResume(MainForm& main) {
   return rideGoesOn(main) || state.plan.started();
 }
 
-// The start button starts; once it was pressed it stops.
+// The start button offers to start; once pressed, it offers to stop.
 [[nodiscard]] inline bool startOffered(const MainForm& main) {
   return main.MyButton1.caption == "Start";
 }
@@ -62,8 +62,8 @@ inline void offerStop(MainForm& main) {
 }
 
 // The buttons that stop, suspend and cancel a ride.
-inline void enableRideButtons(MainForm& main, bool open) {
-  for (auto* button : {&main.MyButton1, &main.MyButton4, &main.Command7}) button->enabled = open;
+inline void enableRideButtons(MainForm& main, bool enabled) {
+  for (auto* button : {&main.MyButton1, &main.MyButton4, &main.Command7}) button->enabled = enabled;
 }
 
 // Hours, minutes and seconds that are left, as the large digits show them.
@@ -92,7 +92,7 @@ inline void showDigits(MainForm& main) {
   show(chronoDigits(main));
 }
 
-// Hours, minutes and seconds of the present duration: a time is chosen here where nothing is programmed.
+// The boxes for hours, minutes and seconds: here the rider chooses a time where nothing is programmed.
 [[nodiscard]] auto timeBoxes(auto& main) {
   return std::array{&main.Combo1, &main.Combo2, &main.Combo3};
 }
@@ -108,7 +108,7 @@ inline void hideTimeBoxesUnderSettings(MainForm& main) {
   if (main.Picture1.visible) hide(timeBoxes(main));
 }
 
-// What tells of the sequence being ridden: its kind and figures, the counts, and the names of them all.
+// The labels about the sequence being ridden: its kind and figures, the counts, and their headings.
 [[nodiscard]] inline std::array<platform::Control*, 11> rideFields(MainForm& main) {
   return {&main.Label1,  &main.Label2,  &main.Label3,  &main.Label10, &main.Label11, &main.Label15,
           &main.Label16, &main.Label17, &main.Label20, &main.Label28, &main.Label29};
@@ -119,7 +119,7 @@ inline void hideTimeBoxesUnderSettings(MainForm& main) {
   return {&main.Label10, &main.Label11, &main.Label12, &main.Label15, &main.Label20};
 }
 
-// What stands there before and after a ride.
+// What the screen shows before and after a ride.
 [[nodiscard]] inline std::array<platform::Control*, 2> restFields(MainForm& main) {
   return {&main.Label18, &main.Image4};
 }
@@ -142,13 +142,13 @@ inline void hideRideFields(MainForm& main) {
   return main.Label15.visible || main.Label20.visible || main.Label39.visible;
 }
 
-// "3/12": the row being ridden, of so many.
+// Shows the row being ridden and the number of rows: "3/12".
 inline void showPlace(MainForm& main, const model::SharedState& state) {
   main.Label16.caption =
       std::to_string(state.plan.sequenceCourante) + "/" + std::to_string(state.nbSequences);
 }
 
-// Where a start finds neither a plan nor a time: the rider reads why, and can still choose a time.
+// For a start with neither a plan nor a time: tells the rider why, and shows the boxes to choose a time.
 inline void showNothingToRide(MainForm& main) {
   main.MyFrame2.visible = false;
   main.Label18.caption = "Rien à Parcourir : Composez ou Chargez une Séance d'Entraînement";
@@ -159,7 +159,7 @@ inline void showNothingToRide(MainForm& main) {
 
 inline constexpr int usualCountdown = 16;  // s
 
-// The length of the start countdown as it is chosen, s; 0 where the text is none.
+// The chosen length of the start countdown, s; 0 where the text is no number.
 [[nodiscard]] inline int countdownLength(const MainForm& main) {
   return model::lenientInteger(main.Combo5.text.get());
 }
@@ -168,7 +168,7 @@ inline constexpr int usualCountdown = 16;  // s
   return model::lenientInteger(main.Label9.caption.get());
 }
 
-// The countdown's number at rest is the length that is chosen for it.
+// While the countdown does not run, its number is the chosen length.
 inline void showCountdownLength(MainForm& main) {
   if (!countdownRuns(main)) main.Label9.caption = main.Combo5.text;
 }
@@ -178,8 +178,8 @@ inline void showCountdownLength(MainForm& main) {
   return main.MyFrame1.caption != main.Label30.caption;
 }
 
-// The machine's volume was read, and the advice about it stands there.
-[[nodiscard]] inline bool volumeTold(const MainForm& main) {
+// The machine's volume has been read, and the screen shows advice about it.
+[[nodiscard]] inline bool volumeKnown(const MainForm& main) {
   return !main.Label36.caption.get().empty();
 }
 

@@ -23,19 +23,19 @@ inline void clearMessage(MainForm& main) {
   main.Label44.caption = "";
 }
 
-// The chrono's next tick writes the target.
+// Prepares the label for the target, which the chrono's next tick writes.
 inline void makeRoomForTarget(MainForm& main) {
   main.Label44.size = targetSize;
   main.Label44.top = -180;
   main.Label44.visible = true;
 }
 
-// Words stand there, no target.
+// The label shows a message, not a target.
 [[nodiscard]] inline bool showsMessage(const MainForm& main) {
   return main.Label44.visible && main.Label44.size == messageSize;
 }
 
-// The one message that outlives its ride.
+// The only message that stays after its ride.
 [[nodiscard]] inline bool showsEndMessage(const MainForm& main) {
   return main.Label44.caption == endMessage;
 }

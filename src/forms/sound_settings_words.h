@@ -17,7 +17,7 @@ inline void turnVoice(MainForm& main, bool on) {
   main.Check2.value = on ? 1 : 0;
 }
 
-// What the voice is to say of a pass and a sequence, each for itself.
+// What the voice says about a pass and a sequence; each can be switched on by itself.
 [[nodiscard]] inline bool saysPass(const MainForm& main) {
   return main.Check3.value == 1;
 }
@@ -43,7 +43,7 @@ inline void turnVoice(MainForm& main, bool on) {
   return main.Check13.value == 1;
 }
 
-// The boxes of all that.
+// The boxes for all of these.
 [[nodiscard]] auto spokenParts(auto& main) {
   return std::array{&main.Check3, &main.Check4, &main.Check5, &main.Check6,
                     &main.Check7, &main.Check8, &main.Check9, &main.Check13};

@@ -1,4 +1,4 @@
-// A time that stands in three controls: hours, minutes, seconds.
+// A time shown in three controls: hours, minutes, seconds.
 #pragma once
 
 #include <array>

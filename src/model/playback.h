@@ -14,7 +14,7 @@ struct Playback {
   [[nodiscard]] double share() const {
     return length > 0 ? std::clamp(static_cast<double>(position) / static_cast<double>(length), 0.0, 1.0) : 0;
   }
-  // A player holds the position at the end. What is not open has no end to be at.
+  // The player stays at the end of a sound. False where nothing is open.
   [[nodiscard]] bool atEnd() const { return length > 0 && position == length; }
 };
 

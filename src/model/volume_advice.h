@@ -15,7 +15,7 @@ struct VolumeAdvice {
   const char* text;
 };
 
-// Each counts up to where the next begins.
+// Each row is valid up to where the next one begins.
 inline constexpr std::array<VolumeAdvice, 4> volumeAdvices{{
     {0, Loudness::TooLow, "Le Volume de votre (Son) semble insuffisant..."},
     {50, Loudness::Low, "Le Volume de votre (Son) semble un peu faible..."},
