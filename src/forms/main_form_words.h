@@ -62,8 +62,8 @@ inline void offerStop(MainForm& main) {
 }
 
 // The buttons that stop, suspend and cancel a ride.
-inline void enableRideButtons(MainForm& main, bool open) {
-  for (auto* button : {&main.MyButton1, &main.MyButton4, &main.Command7}) button->enabled = open;
+inline void enableRideButtons(MainForm& main, bool enabled) {
+  for (auto* button : {&main.MyButton1, &main.MyButton4, &main.Command7}) button->enabled = enabled;
 }
 
 // Hours, minutes and seconds that are left, as the large digits show them.
@@ -148,7 +148,7 @@ inline void showPlace(MainForm& main, const model::SharedState& state) {
       std::to_string(state.plan.sequenceCourante) + "/" + std::to_string(state.nbSequences);
 }
 
-// Where a start finds neither a plan nor a time: the rider reads why, and can still choose a time.
+// For a start with neither a plan nor a time: tells the rider why, and shows the boxes to choose a time.
 inline void showNothingToRide(MainForm& main) {
   main.MyFrame2.visible = false;
   main.Label18.caption = "Rien à Parcourir : Composez ou Chargez une Séance d'Entraînement";
@@ -168,7 +168,7 @@ inline constexpr int usualCountdown = 16;  // s
   return model::lenientInteger(main.Label9.caption.get());
 }
 
-// The countdown's number at rest is the length that is chosen for it.
+// While the countdown does not run, its number is the chosen length.
 inline void showCountdownLength(MainForm& main) {
   if (!countdownRuns(main)) main.Label9.caption = main.Combo5.text;
 }

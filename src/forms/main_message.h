@@ -35,7 +35,7 @@ inline void makeRoomForTarget(MainForm& main) {
   return main.Label44.visible && main.Label44.size == messageSize;
 }
 
-// The one message that outlives its ride.
+// The only message that stays after its ride.
 [[nodiscard]] inline bool showsEndMessage(const MainForm& main) {
   return main.Label44.caption == endMessage;
 }
