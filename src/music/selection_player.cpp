@@ -67,7 +67,8 @@ void SelectionPlayer::musiqueSuivante() {
   play(library_.ListView1.text(indexMusique, 1));
 }
 
-// The timer starts the player in an event of its own, after this handler.
+// The timer starts the player in an event of its own, after this handler. Until then the length of the piece
+// before must not be taken for that of the new one.
 void SelectionPlayer::play(const std::string& name) {
   context_.state.music = {};
   context_.state.dureeMusique.clear();
@@ -89,8 +90,7 @@ void SelectionPlayer::watch() {
   }
   if (chosen) {
     library_.Label6.visible = true;
-    // The player stays at the end of a piece, so checking once a second is enough. Before a piece is open the
-    // length is empty.
+    // The player stays at the end of a piece, so checking once a second is enough.
     if (context_.state.music.atEnd()) musiqueSuivante();
   }
   if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) library_.Command13.enabled = false;

@@ -75,7 +75,7 @@ void Advance::endRun() {
   main_.Picture6.visible = false;
   main_.Timer10.enabled = false;
   if (forms::voiceOn(main_)) {
-    state_.plan.sequenceCourante = 0;  // so that the cancel below says nothing
+    state_.plan.sequenceCourante = 0;  // so that the cancel below does not speak
     waits_.hold();
     forms::showMessage(main_, forms::endMessage);
     waits_.pause();

@@ -15,8 +15,6 @@ class Countdown {
   void lancerCompteRebours();
   void tickCompteRebours();
   void basculerPause();
-
- private:
   void leaveFrame();
   void chooseLength();
   void chooseManualTime();

@@ -73,7 +73,7 @@ TEST_F(PlayerTest, OpensInOrderAndTellsTheLength) {
   EXPECT_THAT(form.Label2.caption.get(), HasSubstr("0:00:00."));
   advance("5");
   EXPECT_TRUE(program.state().music.atEnd());
-  EXPECT_EQ(library.Label5.caption, program.state().dureeMusique);  // held there, a selection decides
+  EXPECT_EQ(library.Label5.caption, program.state().dureeMusique);  // stays there: a selection decides
   EXPECT_EQ(media(), "");
   form.Timer3.enabled = true;
   advance("0.001");
