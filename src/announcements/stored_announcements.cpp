@@ -72,7 +72,7 @@ void StoredAnnouncements::showOpenFailure(const std::string& path) {
   std::string title = "ERR #75";
   std::string text;
   try {
-    context_.outside.files.open(path, platform::OpenMode::Read);
+    static_cast<void>(context_.outside.files.open(path, platform::OpenMode::Read));
     title = "Erreur de Format ou Fichier Endommagé...";
     text =
         platform::FileFault("de lire", path, "ce n'est pas un son connu").what() +

@@ -13,10 +13,10 @@ class MemoryFile final : public platform::RandomFile {
  public:
   explicit MemoryFile(std::span<const unsigned char> bytes) : bytes_(bytes) {}
   std::size_t readAt(std::uint64_t offset, std::span<char> into) override {
-    const std::size_t count = offset < bytes_.size() ? std::min(into.size(), bytes_.size() - offset) : 0;
-    const auto from = bytes_.begin() + static_cast<std::ptrdiff_t>(count == 0 ? 0 : offset);
-    std::transform(from, from + static_cast<std::ptrdiff_t>(count), into.begin(),
-                   [](unsigned char byte) { return static_cast<char>(byte); });
+    if (offset >= bytes_.size()) return 0;
+    const auto rest = bytes_.subspan(static_cast<std::size_t>(offset));
+    const std::size_t count = std::min(into.size(), rest.size());
+    for (std::size_t i = 0; i < count; ++i) into[i] = static_cast<char>(rest[i]);
     return count;
   }
   void writeAt(std::uint64_t, std::span<const char>) override {}

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <ranges>
 
 #include "editor/layout.h"
 #include "model/grid_rows.h"
@@ -150,7 +149,8 @@ bool History::textsDiffer() const {
 
 bool History::rowsDiffer() const {
   std::vector<Cells> before = shadow_;
-  for (const Change& change : std::views::reverse(open_)) {
+  for (auto last = open_.rbegin(); last != open_.rend(); ++last) {
+    const Change& change = *last;
     const auto row = static_cast<std::size_t>(change.row - 1);
     const auto at = before.begin() + static_cast<std::ptrdiff_t>(row);
     if (change.kind == Kind::Text) before[row][static_cast<std::size_t>(change.column - 1)] = change.cells[0];
@@ -192,7 +192,7 @@ void History::replay(std::deque<Step>& from, std::deque<Step>& to, bool backward
   from.pop_back();
   replaying_ = true;
   if (backwards) {
-    for (const Change& change : std::views::reverse(step.changes)) apply(change, true);
+    for (auto last = step.changes.rbegin(); last != step.changes.rend(); ++last) apply(*last, true);
     restoreWords(step.after, step.before);
   } else {
     for (const Change& change : step.changes) apply(change, false);

@@ -46,7 +46,7 @@ void writesAndReadsAnywhere(platform::FileSystem& files, const std::string& fold
   EXPECT_EQ(again->readAt(7, bytes), 1U);
   EXPECT_EQ(again->readAt(100, bytes), 0U);
   for (const char* name : {"Zebre.tq2", "arc.tq2", "Bosse.tq2"}) {
-    files.open(folder + "/" + name, OpenMode::ReadWriteCreate);
+    EXPECT_NE(files.open(folder + "/" + name, OpenMode::ReadWriteCreate), nullptr);
   }
   EXPECT_THAT(files.list(folder), ElementsAre("arc.tq2", "Bosse.tq2", "Zebre.tq2", "é b.tq2"));
   EXPECT_THAT(files.list(folder + "/none"), ElementsAre());
