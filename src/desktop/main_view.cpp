@@ -95,7 +95,7 @@ void MainView::refreshPages() {
   ui_->contactScrim->setVisible(main_.Picture12.visible);
   ui_->noticePicture->setPicture(toQt(main_.Image18.visible ? "sound-off" : "sound-on"));
   // What the ride's panel covers must not shine through its corners, nor take the keyboard.
-  if (main_.Picture6.visible) leaveKeyboard(*ui_->buttonRow);
+  if (main_.Picture6.visible) handFocusToPage(*ui_->buttonRow);
   ui_->buttonRow->setVisible(!main_.Picture6.visible);
   // What leads on stands out: the start where a duration stands, else the way to the sessions.
   const bool startable = main_.MyButton1.enabled && forms::startOffered(main_);
