@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "desktop/covered_parts.h"
 #include "devices/sound_peaks.h"
 #include "platform/each_on_its_own.h"
 #include "ui_enr_une_annonce.h"
@@ -66,8 +67,8 @@ void AnnounceView::refresh() {
 
 void AnnounceView::refreshPanels() {
   // What is covered must not take the keyboard.
-  ui_->recordingPlace->setVisible(!page_.MyFrame1.visible);
-  ui_->libraryHome->setVisible(!page_.MyFrame5.visible);
+  ui_->recordingPlace->setVisible(!coverOf(page_, "recordingPlace"));
+  ui_->libraryHome->setVisible(!coverOf(page_, "libraryHome"));
   const bool info = page_.MyFrame4.visible;
   if (info == !ui_->infoPlace->isHidden()) return;
   ui_->infoPlace->setVisible(info);

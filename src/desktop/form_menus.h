@@ -1,4 +1,5 @@
-// The menus of a form: entries that follow their controls, opened by a button of the menu's name or as a pop-up.
+// The menus of a form: entries that follow their controls, opened by a button of the menu's name or as a
+// pop-up.
 #pragma once
 
 #include <QHash>

@@ -217,7 +217,8 @@ void RiderInput::onRelease(Control& control, const QWidget& widget, const QMouse
 }
 
 // A mouse press elsewhere validates the box before that press is handled, which may give the box another
-// meaning. Otherwise it is queued: a box also loses the keyboard when a handler hides it, and the handler must end first.
+// meaning. Otherwise it is queued: a box also loses the keyboard when a handler hides it, and the handler
+// must end first.
 void RiderInput::onBoxLeft(platform::ComboBox& box, const QComboBox& widget, Qt::FocusReason reason) {
   const bool elsewhere = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
   if (!elsewhere || widget.view()->isVisible()) return;

@@ -1,5 +1,5 @@
-// What the rider does to a widget raises the events of its control. Only what a person causes is listened to, so
-// that a write from code never comes back as an event.
+// What the rider does to a widget raises the events of its control. Only what a person causes is listened to,
+// so that a write from code never comes back as an event.
 #pragma once
 
 #include <QHash>
