@@ -12,9 +12,11 @@
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QSet>
+#include <QStyle>
 #include <QToolButton>
 #include <array>
 #include <utility>
+#include <vector>
 
 #include "platform/controls.h"
 #include "stage/contrast.h"
@@ -42,6 +44,7 @@ class Audit {
 
   QStringList faults() {
     walk(QAccessible::queryAccessibleInterface(&window_));
+    findPictures();
     for (QWidget* widget : window_.findChildren<QWidget*>()) {
       if (isControl(*widget) && widget->isVisible() && !isCovered(*widget)) look(*widget);
     }
@@ -84,6 +87,7 @@ class Audit {
     checkPlace(widget);
     checkOverlap(widget);
     checkText(widget);
+    checkPictures(widget);
     checkName(widget);
     checkKeyboard(widget);
     checkContrast(widget);
@@ -175,6 +179,52 @@ class Audit {
            qobject_cast<const QToolButton*>(&widget) == nullptr;
   }
 
+  [[nodiscard]] QRect inWindow(const QWidget& widget, const QRect& place) const {
+    return {widget.mapTo(&window_, place.topLeft()), place.size()};
+  }
+  // What lies under a label shines through.
+  [[nodiscard]] bool isHidden(const QWidget& picture) const {
+    const auto points = probes(picture);
+    const auto hides = [&](const QPoint& at) {
+      const QWidget* over = cover(picture, at);
+      return over != nullptr && qobject_cast<const QLabel*>(over) == nullptr;
+    };
+    return !picture.isVisible() || std::any_of(points.begin(), points.end(), [&](const QPoint& at) {
+      return isOnPanel(cover(picture, at));
+    }) || std::all_of(points.begin(), points.end(), hides);
+  }
+  // A picture that is meant to be a background says so.
+  void findPictures() {
+    for (const QWidget* widget : window_.findChildren<QWidget*>()) {
+      if (widget->property("background").toBool() || isHidden(*widget)) continue;
+      const QRect place = pictureOf(*widget);
+      if (!place.isEmpty()) pictures_.emplace_back(widget, inWindow(*widget, place));
+    }
+  }
+  // Where a widget draws a picture; empty where it draws none.
+  static QRect pictureOf(const QWidget& widget) {
+    if (const auto* picture = qobject_cast<const widgets::Picture*>(&widget))
+      return picture->pictureRect().toAlignedRect();
+    if (const auto* button = qobject_cast<const widgets::PictureButton*>(&widget))
+      return button->pictureRect().toAlignedRect();
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return label != nullptr && !label->pixmap(Qt::ReturnByValue).isNull() ? label->contentsRect() : QRect();
+  }
+  static QRect textOf(const QWidget& widget) {
+    const QString text = widget.property("text").toString();
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    if (text.trimmed().isEmpty() || label == nullptr) return text.isEmpty() ? QRect() : widget.rect();
+    const int flags = static_cast<int>(label->alignment()) | (label->wordWrap() ? Qt::TextWordWrap : 0);
+    return label->style()->itemTextRect(label->fontMetrics(), label->contentsRect(), flags, true, text);
+  }
+  void checkPictures(const QWidget& widget) {
+    const QRect text = inWindow(widget, textOf(widget));
+    for (const auto& [picture, place] : pictures_) {
+      if (picture == &widget || !place.intersects(text)) continue;
+      fault(widget, QStringLiteral("has its text over a picture: ") + picture->objectName());
+    }
+  }
+
   void checkName(QWidget& widget) {
     if (!told_.contains(&widget)) fault(widget, QStringLiteral("is not in the accessibility tree"));
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
@@ -258,7 +308,8 @@ class Audit {
   QWidget& window_;
   const QImage picture_;  // 32 bits a pixel
   QStringList faults_;
-  QSet<const QObject*> told_;  // what the accessibility tree holds
+  QSet<const QObject*> told_;                               // what the accessibility tree holds
+  std::vector<std::pair<const QWidget*, QRect>> pictures_;  // and where in the window they lie
 };
 
 }  // namespace
