@@ -22,7 +22,7 @@ using widgets::Waveform;
 
 namespace {
 
-void keepPlace(QWidget& widget) {
+void retainPlaceWhenHidden(QWidget& widget) {
   QSizePolicy policy = widget.sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget.setSizePolicy(policy);
@@ -35,7 +35,7 @@ AnnounceView::AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState&
     : page_(form), state_(state), ui_(std::make_unique<Ui::EnrUneAnnonce>()) {
   ui_->setupUi(&page);
   for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label16, ui_->Label17, ui_->musicTimes})
-    keepPlace(*widget);
+    retainPlaceWhenHidden(*widget);
   ui_->MyFrame1->raise();
   ui_->infoPlace->raise();
   ui_->infoPlace->hide();

@@ -35,7 +35,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           &DesktopProgram::endWhenQuitting);
   windows_.window().onClose([this] { askToClose(); });
-  windows_.onTake([this](const std::string& path) { mpv_.save("capture", path); });
+  windows_.saveTakesBy([this](const std::string& path) { mpv_.save("capture", path); });
 }
 
 bool DesktopProgram::start() {

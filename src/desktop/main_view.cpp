@@ -27,7 +27,7 @@ std::size_t at(int row) {
   return static_cast<std::size_t>(row);
 }
 
-void keepPlace(QWidget& widget) {
+void retainPlaceWhenHidden(QWidget& widget) {
   QSizePolicy policy = widget.sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget.setSizePolicy(policy);
@@ -46,7 +46,7 @@ MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidg
   for (QWidget* widget :
        std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1, ui_->Label2,
                                        ui_->Label3, ui_->sequenceBar, ui_->buttonRow}) {
-    keepPlace(*widget);
+    retainPlaceWhenHidden(*widget);
   }
   // The panel takes the pointer as one; what it holds only shows.
   for (auto* inside : ui_->Picture6->findChildren<QWidget*>()) {

@@ -79,7 +79,7 @@ Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice cho
   makeDraggable();
   offerAppearance();
   // Queued: who opened the dialog is still in the midst of his work as it closes.
-  connect(&window_, &MainWindow::unblocked, this, &Windows::takeSessions, Qt::QueuedConnection);
+  connect(&window_, &MainWindow::unblocked, this, &Windows::addWaitingSessions, Qt::QueuedConnection);
   refresh();
 }
 
@@ -145,15 +145,15 @@ void Windows::setTheme(ThemeMode mode) {
 
 void Windows::addSession(const std::string& path) {
   inbox_.push_back(path);
-  binder_.run([this] { takeSession(); });
+  binder_.run([this] { addWaitingSession(); });
 }
 
 // Each in an action of its own, which is a step of the editor's history.
-void Windows::takeSessions() {
-  for (std::size_t left = inbox_.size(); left > 0; --left) binder_.run([this] { takeSession(); });
+void Windows::addWaitingSessions() {
+  for (std::size_t left = inbox_.size(); left > 0; --left) binder_.run([this] { addWaitingSession(); });
 }
 
-void Windows::takeSession() {
+void Windows::addWaitingSession() {
   if (inbox_.empty() || QApplication::activeModalWidget() != nullptr) return;
   const std::string path = inbox_.front();
   inbox_.pop_front();

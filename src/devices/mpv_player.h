@@ -19,7 +19,7 @@ class MpvPlayer {
   [[nodiscard]] bool opened() const { return opened_; }
 
   void play();
-  void stop() { hold(Mode::Stopped); }
+  void stop() { holdAs(Mode::Stopped); }
   void pause();
   void seek(std::int64_t milliseconds);  // leaves it stopped
   void setSpeed(double factor);
@@ -43,11 +43,11 @@ class MpvPlayer {
   };
 
   bool load(std::int64_t from);
-  void hold(Mode mode);
+  void holdAs(Mode mode);
   void setFlag(const char* property, bool on);
-  void takeEvents();
-  void await(std::int64_t position);
-  void take(const mpv_event& event);
+  void handleEvents();
+  void expectPosition(std::int64_t position);
+  void handle(const mpv_event& event);
 
   std::string address_;
   std::unique_ptr<mpv_handle, Destroy> handle_;

@@ -43,10 +43,10 @@ class Audit {
       : form_(form), window_(window), picture_(std::move(picture)) {}
 
   QStringList faults() {
-    walk(QAccessible::queryAccessibleInterface(&window_));
+    walkTree(QAccessible::queryAccessibleInterface(&window_));
     findPictures();
     for (QWidget* widget : window_.findChildren<QWidget*>()) {
-      if (isControl(*widget) && widget->isVisible() && !isCovered(*widget)) look(*widget);
+      if (isControl(*widget) && widget->isVisible() && !isCovered(*widget)) checkAll(*widget);
     }
     return faults_;
   }
@@ -71,19 +71,19 @@ class Audit {
   }
 
   // The tree as somebody meets it who does not see the screen.
-  void walk(QAccessibleInterface* face) {
+  void walkTree(QAccessibleInterface* face) {
     if (face == nullptr || face->state().invisible) return;
-    if (face->object() != nullptr) told_.insert(face->object());
+    if (face->object() != nullptr) inTree_.insert(face->object());
     const auto* field = qobject_cast<const QLineEdit*>(face->object());
     if (field != nullptr && face->text(QAccessible::Name).trimmed().isEmpty()) {
       fault(*field->parentWidget(), QStringLiteral("has a field without a name"));
     }
     // The cells of a list are its texts.
     if (face->role() == QAccessible::Table || face->role() == QAccessible::List) return;
-    for (int i = 0; i < face->childCount(); ++i) walk(face->child(i));
+    for (int i = 0; i < face->childCount(); ++i) walkTree(face->child(i));
   }
 
-  void look(QWidget& widget) {
+  void checkAll(QWidget& widget) {
     checkPlace(widget);
     checkOverlap(widget);
     checkText(widget);
@@ -226,7 +226,7 @@ class Audit {
   }
 
   void checkName(QWidget& widget) {
-    if (!told_.contains(&widget)) fault(widget, QStringLiteral("is not in the accessibility tree"));
+    if (!inTree_.contains(&widget)) fault(widget, QStringLiteral("is not in the accessibility tree"));
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
     if (face == nullptr || face->role() == QAccessible::NoRole || face->role() == QAccessible::Client) {
       fault(widget, QStringLiteral("has no role"));
@@ -308,7 +308,7 @@ class Audit {
   QWidget& window_;
   const QImage picture_;  // 32 bits a pixel
   QStringList faults_;
-  QSet<const QObject*> told_;                               // what the accessibility tree holds
+  QSet<const QObject*> inTree_;                             // what the accessibility tree holds
   std::vector<std::pair<const QWidget*, QRect>> pictures_;  // and where in the window they lie
 };
 

@@ -87,7 +87,7 @@ void installAccessibleFaces() {
   QAccessible::installFactory(makeFace);
 }
 
-void tellNewText(QWidget& drawn) {
+void announceNewText(QWidget& drawn) {
   QAccessibleEvent event(&drawn, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
 }

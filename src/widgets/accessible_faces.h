@@ -9,6 +9,6 @@ namespace widgets {
 // For the whole application; asking again changes nothing.
 void installAccessibleFaces();
 // What is drawn there is another text now.
-void tellNewText(QWidget& drawn);
+void announceNewText(QWidget& drawn);
 
 }  // namespace widgets

@@ -59,12 +59,12 @@ TEST_P(WavFormats, SoundTheSameFromMemoryAndFromDisk) {
   const Samples samples = support::decodeWav(readAll(path));
 
   // A coding in blocks pads the last one.
-  EXPECT_NEAR(double(samples.size()), 2.0 * WavDecoder::kRate, 2.0 * WavDecoder::kRate / 20);
+  EXPECT_NEAR(double(samples.size()), 2.0 * WavDecoder::sampleRate, 2.0 * WavDecoder::sampleRate / 20);
   double worst = 0;
-  for (std::size_t frame = 500; frame < WavDecoder::kRate - 500U; ++frame) {
+  for (std::size_t frame = 500; frame < WavDecoder::sampleRate - 500U; ++frame) {
     for (int channel = 0; channel < 2; ++channel) {
       const double wanted =
-          format.tone(format.channels == 1 ? 0 : channel, double(frame) / WavDecoder::kRate);
+          format.tone(format.channels == 1 ? 0 : channel, double(frame) / WavDecoder::sampleRate);
       const double heard = samples.at(frame * 2 + static_cast<std::size_t>(channel)) / 32768.0;
       worst = std::max(worst, std::abs(heard - wanted));
     }
