@@ -1,4 +1,4 @@
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
@@ -8,8 +8,6 @@
 #include <numbers>
 
 #include "desktop/decode_wav.h"
-#include "devices/sound_peaks.h"
-#include "platform/recording.h"
 
 namespace devices {
 namespace {
@@ -92,17 +90,6 @@ TEST(WavDecoder, RefusesWhatIsNoSound) {
   for (const Bytes& bytes : {Bytes{}, noise, cut}) EXPECT_TRUE(support::decodeWav(bytes).empty());
   EXPECT_FALSE(WavDecoder(std::string("/nonexistent.wav")).opened());
   EXPECT_FALSE(WavDecoder(std::string("/dev/zero")).opened());
-}
-
-TEST(Waveform, HasTheLoudestOfEachPartOfAFile) {
-  Bytes samples(800, 128);
-  samples[150] = 0;    // all the way down
-  samples[750] = 192;  // half way up
-  const std::string path = testing::TempDir() + "/peaks.wav";
-  const std::vector<char> wav = platform::wavFile({}, samples);
-  std::ofstream(path, std::ios::binary).write(wav.data(), static_cast<std::streamsize>(wav.size()));
-  EXPECT_THAT(peaksOf(path, 8), testing::ElementsAre(0, 1, 0, 0, 0, 0, 0, 0.5F));
-  EXPECT_THAT(peaksOf("/nowhere.wav", 8), testing::IsEmpty());
 }
 
 }  // namespace
