@@ -75,7 +75,7 @@ void DesktopProgram::repaint() {
   windows_.refresh();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers |
                                   QEventLoop::X11ExcludeTimers);
-  // What Qt has held back meanwhile is handled once the sound has ended, also where no new event comes.
+  // Input that Qt holds back now is handled after the sound, even if no further event wakes Qt's loop.
   if (std::exchange(inputHeld_, true)) return;
   program_.loop().whenFree([this] {
     inputHeld_ = false;

@@ -78,7 +78,7 @@ Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice cho
   addShortcuts(program, binder_, window_, *mainPage_, *editorPage_);
   makeDraggable();
   offerAppearance();
-  // Queued: who opened the dialog is still in the midst of his work as it closes.
+  // Queued: the handler that opened the dialog has not returned yet when it closes.
   connect(&window_, &MainWindow::unblocked, this, &Windows::addWaitingSessions, Qt::QueuedConnection);
   refresh();
 }
@@ -100,7 +100,7 @@ QWidget* Windows::windowOf(const platform::Form& form) {
   return shown != nullptr ? shown->window() : nullptr;
 }
 
-// `way` is how the rider leaves the form.
+// `way` is the form's own button that closes it; closing the window presses it.
 void Windows::openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way) {
   binder_.bind(form, window.page());
   window.onClose([this, &way] { binder_.run([&way] { way.click(); }); });

@@ -54,7 +54,7 @@ MpvPlayer* MpvMedia::playerOf(const std::string& alias) {
   return device->player.get();
 }
 
-// Where the loudspeaker goes away the library runs on unheard, and would do so when it is back.
+// Without a loudspeaker the library plays on unheard, and it does not notice one that comes back.
 void MpvMedia::restoreOutput(MpvPlayer& player) {
   const auto now = std::chrono::steady_clock::now();
   if (now - checkedAt_ < checkInterval || player.mode() != MpvPlayer::Mode::Playing) return;

@@ -62,7 +62,7 @@ class MpvMedia final : public platform::MediaBackend {
   platform::FileSystem& files_;
   std::map<std::string, Device> devices_;
   std::map<std::string, int> volumes_;                 // by name, for what is opened under it next, too
-  std::chrono::steady_clock::time_point checkedAt_{};  // for a server that has come back
+  std::chrono::steady_clock::time_point checkedAt_{};  // when restoreOutput last looked
 };
 
 }  // namespace devices

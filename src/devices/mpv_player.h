@@ -25,7 +25,7 @@ class MpvPlayer {
   void setSpeed(double factor);
   void setVolume(double amplitude);  // 1 is the piece's own
   void setAudible(bool audible);
-  // Whether what is played goes nowhere, since no sound server took it.
+  // Whether nobody hears what is played, since there is no sound server.
   [[nodiscard]] bool unheard();
   // Waits until the stream of sound is open, at the server or to nowhere; nothing of it has sounded yet.
   void awaitOutput();
@@ -55,7 +55,7 @@ class MpvPlayer {
   bool loaded_ = false;
   bool ended_ = false;
   std::int64_t length_ = 0;
-  std::int64_t sought_ = -1;  // where it stands, or will once it has got there, until it plays on; -1: none
+  std::int64_t sought_ = -1;  // the target of the last seek, until the piece plays on from it; -1: none
   bool arrived_ = false;
   Mode mode_ = Mode::Stopped;
 };

@@ -33,9 +33,9 @@ namespace {
 
 constexpr double readable = 4.5;  // WCAG 2.1, level AA, for text
 constexpr double visible = 3;     // and for drawings and large letters
-// Thin strokes of small letters never reach their full ink: from this height on they do.
+// Pixels high: the thin strokes of smaller letters are blurred and never reach the colour of their ink.
 constexpr int solidInk = 28;
-constexpr int rounding = 2;  // what a scaled margin may lose
+constexpr int rounding = 2;  // pixels that scaling may take from a margin
 
 class Audit {
  public:
@@ -52,7 +52,7 @@ class Audit {
   }
 
  private:
-  // What stands for itself, not what such a widget is made of.
+  // A widget of the page, not one that such a widget is made of.
   static bool isControl(const QWidget& widget) {
     if (widget.objectName().isEmpty() || widget.objectName().startsWith(QLatin1String("qt_"))) return false;
     return qobject_cast<const QLabel*>(&widget) != nullptr ||
@@ -70,7 +70,7 @@ class Audit {
                    what;
   }
 
-  // The tree as somebody meets it who does not see the screen.
+  // Walks the accessibility tree as a screen reader does.
   void walkTree(QAccessibleInterface* face) {
     if (face == nullptr || face->state().invisible) return;
     if (face->object() != nullptr) inTree_.insert(face->object());

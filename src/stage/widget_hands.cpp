@@ -50,7 +50,7 @@ void closeMenus() {
   }
 }
 
-// A check box is hit on its box, the rest in the middle.
+// Where a rider would click: on the box of a check box or an option, else in the middle.
 QPoint spot(const QWidget& widget) {
   const bool box = qobject_cast<const QCheckBox*>(&widget) != nullptr ||
                    qobject_cast<const QRadioButton*>(&widget) != nullptr;
@@ -58,7 +58,7 @@ QPoint spot(const QWidget& widget) {
 }
 
 void move(QWidget& widget, const QPoint& at) {
-  // From elsewhere, so that it is a movement.
+  // A move to the pointer's own place would be none.
   mouse(widget, QEvent::MouseMove, at + QPoint(1, 1), Qt::NoButton, Qt::NoButton);
   mouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
 }
@@ -206,7 +206,7 @@ void WidgetHands::hover(platform::Control& target) {
     logic_.hover(target);
     return;
   }
-  // A container is met at its edge, where nothing lies on it.
+  // At its edge, for what it contains lies on the rest.
   const bool holds = target.kind() == platform::ControlKind::Frame;
   mouse(*widget, QEvent::MouseMove, holds ? QPoint(2, 2) : spot(*widget), Qt::NoButton, Qt::NoButton);
   settle();

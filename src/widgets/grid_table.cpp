@@ -19,7 +19,7 @@
 namespace widgets {
 namespace {
 
-// The widths in twips are those of another face: what each column needs of this one, against its twips.
+// The form's column widths were made for another font: how much of its width each column needs in ours.
 constexpr std::array<double, 14> share{0, 1, 1.05, 0.94, 1.5, 1, 1.1, 1.05, 0.9, 0.85, 0.72, 1, 0.9, 1.05};
 
 class CellPainter final : public QStyledItemDelegate {
