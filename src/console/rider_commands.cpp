@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "console/inspection.h"
 #include "console/names.h"
@@ -85,16 +86,29 @@ void RiderCommands::reach(const platform::Component& target) {
   require(reachOf(target, popUp_));
 }
 
+// A fault in a handler ends there and is told to the rider; hands that find nothing to touch are an error.
+void RiderCommands::act(const Action& action) {
+  std::optional<CommandError> error;
+  loop_.guard([&] {
+    try {
+      action();
+    } catch (const CommandError& missed) {
+      error = missed;
+    }
+  });
+  if (error) throw *error;
+}
+
 void RiderCommands::point(const platform::Component& target, const Action& action) {
   reach(target);
-  loop_.guard(action);
+  act(action);
 }
 
 void RiderCommands::touch(const platform::Component& target, const Action& action) {
   reach(target);
   leaveBox(target);
   reach(target);  // leaving may have closed what the rider was about to touch
-  loop_.guard(action);
+  act(action);
 }
 
 void RiderCommands::press(Arguments& arguments) {

@@ -39,6 +39,8 @@ class RiderCommands {
 
   platform::Control& control(Arguments& arguments, std::string_view command,
                              std::initializer_list<platform::ControlKind> kinds);
+  // Does it in the loop, and hands on an error of the hands.
+  void act(const Action& action);
   // Both throw Refusal if the rider cannot reach the control. touch() also moves the keyboard away from the
   // list that had it; point() does not.
   void touch(const platform::Component& target, const Action& action);

@@ -1,5 +1,6 @@
 // The rider's hands: how his actions reach a control, directly or through a window's widgets. Whether he can
-// touch the control, and whether the action suits its kind, has been checked before.
+// touch the control, and whether the action suits its kind, has been checked before. Throws CommandError
+// where a window does not let him touch what its form shows.
 #pragma once
 
 #include <string>

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "desktop/covered_parts.h"
 #include "devices/sound_peaks.h"
 #include "platform/each_on_its_own.h"
 #include "ui_enr_une_annonce.h"
@@ -21,7 +22,7 @@ using widgets::Waveform;
 
 namespace {
 
-void keepPlace(QWidget& widget) {
+void retainPlaceWhenHidden(QWidget& widget) {
   QSizePolicy policy = widget.sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget.setSizePolicy(policy);
@@ -34,7 +35,7 @@ AnnounceView::AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState&
     : page_(form), state_(state), ui_(std::make_unique<Ui::EnrUneAnnonce>()) {
   ui_->setupUi(&page);
   for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label16, ui_->Label17, ui_->musicTimes})
-    keepPlace(*widget);
+    retainPlaceWhenHidden(*widget);
   ui_->MyFrame1->raise();
   ui_->infoPlace->raise();
   ui_->infoPlace->hide();
@@ -66,8 +67,8 @@ void AnnounceView::refresh() {
 
 void AnnounceView::refreshPanels() {
   // What is covered must not take the keyboard.
-  ui_->recordingPlace->setVisible(!page_.MyFrame1.visible);
-  ui_->libraryHome->setVisible(!page_.MyFrame5.visible);
+  ui_->recordingPlace->setVisible(!coverOf(page_, "recordingPlace"));
+  ui_->libraryHome->setVisible(!coverOf(page_, "libraryHome"));
   const bool info = page_.MyFrame4.visible;
   if (info == !ui_->infoPlace->isHidden()) return;
   ui_->infoPlace->setVisible(info);

@@ -27,7 +27,7 @@ class AnnounceView final : public QObject {
   // The window has another scale.
   void rescale();
   // What writes the recorder's take to a file; without it a take shows its form only once it is saved.
-  void onTake(std::function<void(const std::string& path)> save) { saveTake_ = std::move(save); }
+  void saveTakesBy(std::function<void(const std::string& path)> save) { saveTake_ = std::move(save); }
 
  private:
   void refreshPanels();

@@ -8,14 +8,14 @@
 namespace desktop {
 namespace {
 
-constexpr int kPatienceMs = 300;
-constexpr qint64 kAbsenceMs = 60'000;
+constexpr int patience = 300;       // ms
+constexpr qint64 absence = 60'000;  // ms until a missing one is asked for again
 
-const QString kService = QStringLiteral("org.freedesktop.ScreenSaver");
+const QString service = QStringLiteral("org.freedesktop.ScreenSaver");
 
 QDBusMessage saverCall(const QString& method, const QVariantList& arguments) {
-  auto call = QDBusMessage::createMethodCall(kService, QStringLiteral("/org/freedesktop/ScreenSaver"),
-                                             kService, method);
+  auto call = QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/ScreenSaver"), service,
+                                             method);
   call.setArguments(arguments);
   return call;
 }
@@ -26,12 +26,12 @@ DbusScreenSaver::DbusScreenSaver(QDBusConnection bus) : bus_(std::move(bus)) {}
 
 QString DbusScreenSaver::owner() {
   if (!bus_.isConnected()) return {};
-  if (absentSince_.isValid() && !absentSince_.hasExpired(kAbsenceMs)) return {};
+  if (absentSince_.isValid() && !absentSince_.hasExpired(absence)) return {};
   auto question = QDBusMessage::createMethodCall(
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetNameOwner"));
-  question.setArguments({kService});
-  const QDBusReply<QString> answer = bus_.call(question, QDBus::Block, kPatienceMs);
+  question.setArguments({service});
+  const QDBusReply<QString> answer = bus_.call(question, QDBus::Block, patience);
   if (answer.isValid()) {
     absentSince_.invalidate();
     return answer.value();
@@ -57,7 +57,7 @@ void DbusScreenSaver::setActive(bool active) {
   const QDBusReply<quint32> answer =
       bus_.call(saverCall(QStringLiteral("Inhibit"),
                           {QStringLiteral("Ventoria"), QStringLiteral("Séance d'entraînement en cours")}),
-                QDBus::Block, kPatienceMs);
+                QDBus::Block, patience);
   if (answer.isValid()) {
     cookie_ = answer.value();
     holder_ = now;

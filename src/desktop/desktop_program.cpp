@@ -35,7 +35,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           &DesktopProgram::endWhenQuitting);
   windows_.window().onClose([this] { askToClose(); });
-  windows_.onTake([this](const std::string& path) { mpv_.save("capture", path); });
+  windows_.saveTakesBy([this](const std::string& path) { mpv_.save("capture", path); });
 }
 
 bool DesktopProgram::start() {
@@ -75,7 +75,7 @@ void DesktopProgram::repaint() {
   windows_.refresh();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers |
                                   QEventLoop::X11ExcludeTimers);
-  // What Qt has held back meanwhile is handled once the sound has ended, also where no new event comes.
+  // Input that Qt holds back now is handled after the sound, even if no further event wakes Qt's loop.
   if (std::exchange(inputHeld_, true)) return;
   program_.loop().whenFree([this] {
     inputHeld_ = false;

@@ -134,7 +134,7 @@ void EditorView::leaveCellEditor() {
   ui_->ListView1->setFocus();
 }
 
-// Otherwise leaving would take it.
+// Leaving the editor would write the typed duration to the list.
 void EditorView::dropTypedDuration() {
   binder_.run([this] {
     forms::showInBoxes(forms::durationBoxes(editor_), forms::timeParts(editor_.Label7.caption));
@@ -200,7 +200,7 @@ void EditorView::refreshFilms() {
   titles.setMinimumWidth(titles.sizeHintForColumn(0) + dp(&titles, 24));
 }
 
-// By the form's word: the keys and the pointer of the list may be elsewhere by now.
+// Where the form put the editor: the list's own cell in hand may be another by now.
 int EditorView::columnUnder(const platform::Control& over) const {
   int column = editor_.ListView1.columnCount();
   while (column > 1 && editor_.ListView1.columnLeft(column) > over.left) --column;

@@ -17,14 +17,14 @@ QWidget* pageOf(const QWidget& widget) {
 
 }  // namespace
 
-bool leaveKeyboard(const QWidget& widget) {
+bool handFocusToPage(const QWidget& widget) {
   const QWidget* focused = QApplication::focusWidget();
   if (focused != &widget && !widget.isAncestorOf(focused)) return false;
   if (QWidget* page = pageOf(widget)) page->setFocus();
   return true;
 }
 
-void takeKeyboardBack(QWidget& widget) {
+void takeFocusFromPage(QWidget& widget) {
   if (widget.isVisible() && QApplication::focusWidget() == pageOf(widget)) widget.setFocus();
 }
 

@@ -1,14 +1,14 @@
-// Where the keyboard goes when the widget that has it leaves the screen or is closed.
+// Where the keyboard goes when the widget that has it is hidden or disabled.
 #pragma once
 
 #include <QWidget>
 
 namespace desktop {
 
-// The widget is about to be hidden or closed: its page takes the keyboard from it, since Qt would hand it to
-// whatever comes next. Whether the widget had it.
-bool leaveKeyboard(const QWidget& widget);
-// The widget is open again: it takes the keyboard back where nobody else has asked for it meanwhile.
-void takeKeyboardBack(QWidget& widget);
+// To be called before the widget is hidden or disabled, since Qt would move the focus on to the next widget,
+// which a key would then press. Gives the focus to the page instead; whether the widget had it.
+bool handFocusToPage(const QWidget& widget);
+// Gives the widget the focus back, unless it has gone elsewhere meanwhile.
+void takeFocusFromPage(QWidget& widget);
 
 }  // namespace desktop

@@ -25,7 +25,7 @@ void LoopAlarm::serve() {
 
 void LoopAlarm::arm() {
   const std::optional<platform::Instant> due = loop_.nextDue();
-  // A loop that is blocked tells when it no longer is.
+  // A blocked loop calls onReschedule when it is free again.
   if (!started_ || loop_.quitting() || loop_.blocked() || !due) {
     alarm_.stop();
     return;

@@ -8,8 +8,8 @@
 #include <iostream>
 
 #include "desktop/desktop_program.h"
+#include "desktop/desktop_wishes.h"
 #include "desktop/single_instance.h"
-#include "desktop/system_look.h"
 #include "platform/program_folder.h"
 #include "widgets/qt_text.h"
 #include "widgets/theme.h"
@@ -23,16 +23,16 @@ desktop::Appearance::Choice choiceOf(const QString& asked) {
   return desktop::Appearance::fromWord(asked.isEmpty() ? QSettings().value(appearanceKey).toString() : asked);
 }
 
-void follow(desktop::SystemLook& system, desktop::Appearance& appearance) {
+void follow(desktop::DesktopWishes& wishes, desktop::Appearance& appearance) {
   QObject::connect(&appearance, &desktop::Appearance::chosen, [](desktop::Appearance::Choice choice) {
     QSettings().setValue(appearanceKey, desktop::Appearance::word(choice));
   });
-  const auto take = [&appearance, &system] {
-    QApplication::setEffectEnabled(Qt::UI_General, system.animations());
-    appearance.setSystem(system.colours().value_or(appearance.system()));
+  const auto apply = [&appearance, &wishes] {
+    QApplication::setEffectEnabled(Qt::UI_General, wishes.animations());
+    appearance.setSystem(wishes.colours().value_or(appearance.system()));
   };
-  take();
-  QObject::connect(&system, &desktop::SystemLook::changed, take);
+  apply();
+  QObject::connect(&wishes, &desktop::DesktopWishes::changed, apply);
 }
 
 // Qt's own words, such as a file chooser's, in French.
@@ -86,11 +86,11 @@ int main(int count, char** words) {
     return 0;
   }
 
-  desktop::SystemLook system;
-  desktop::DesktopProgram program(folder, system.colours().value_or(widgets::platformTheme()),
+  desktop::DesktopWishes wishes;
+  desktop::DesktopProgram program(folder, wishes.colours().value_or(widgets::platformTheme()),
                                   choiceOf(parser.value(themeOption)));
   running = &program;
-  follow(system, program.appearance());
+  follow(wishes, program.appearance());
   if (!program.start()) return 1;
   if (!session.isEmpty()) program.addSession(widgets::fromQt(session));
   return QApplication::exec();

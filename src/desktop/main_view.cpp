@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include "desktop/covered_parts.h"
 #include "desktop/keyboard_focus.h"
 #include "forms/main_form_words.h"
 #include "forms/main_message.h"
@@ -26,7 +27,7 @@ std::size_t at(int row) {
   return static_cast<std::size_t>(row);
 }
 
-void keepPlace(QWidget& widget) {
+void retainPlaceWhenHidden(QWidget& widget) {
   QSizePolicy policy = widget.sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget.setSizePolicy(policy);
@@ -45,7 +46,7 @@ MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidg
   for (QWidget* widget :
        std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1, ui_->Label2,
                                        ui_->Label3, ui_->sequenceBar, ui_->buttonRow}) {
-    keepPlace(*widget);
+    retainPlaceWhenHidden(*widget);
   }
   // The panel takes the pointer as one; what it holds only shows.
   for (auto* inside : ui_->Picture6->findChildren<QWidget*>()) {
@@ -86,17 +87,17 @@ void MainView::refresh() {
 }
 
 void MainView::refreshPages() {
-  const bool settings = main_.Picture1.visible;
-  ui_->countdownPage->setVisible(main_.MyFrame2.visible && !settings);
-  ui_->ridePage->setVisible(!main_.MyFrame2.visible && !settings);
+  ui_->countdownPage->setVisible(main_.MyFrame2.visible && !coverOf(main_, "countdownPage"));
+  ui_->ridePage->setVisible(!coverOf(main_, "ridePage"));
   ui_->MyFrame1->setText(forms::sessionTitled(main_) ? toQt(main_.MyFrame1.caption.get()) : QString());
   ui_->timeBoxes->setVisible(forms::timeBoxesShown(main_));
   ui_->volumeBox->setVisible(forms::volumeKnown(main_));
   ui_->contactScrim->setVisible(main_.Picture12.visible);
   ui_->noticePicture->setPicture(toQt(main_.Image18.visible ? "sound-off" : "sound-on"));
   // What the ride's panel covers must not shine through its corners, nor take the keyboard.
-  if (main_.Picture6.visible) leaveKeyboard(*ui_->buttonRow);
-  ui_->buttonRow->setVisible(!main_.Picture6.visible);
+  const bool covered = coverOf(main_, "buttonRow").has_value();
+  if (covered) handFocusToPage(*ui_->buttonRow);
+  ui_->buttonRow->setVisible(!covered);
   // What leads on stands out: the start where a duration stands, else the way to the sessions.
   const bool startable = main_.MyButton1.enabled && forms::startOffered(main_);
   setLook(*ui_->MyButton1, startable ? QStringLiteral("primary") : QString());

@@ -20,7 +20,7 @@ using widgets::toQt;
 
 namespace {
 
-constexpr double kMarginMm = 8;
+constexpr double paperMargin = 8;  // mm
 
 QPrinterInfo systemPrinter() {
   const QPrinterInfo preferred = QPrinterInfo::defaultPrinter();
@@ -88,7 +88,8 @@ void QtPrinter::beginPaper() {
   printer_->setPageSize(QPageSize(QPageSize::A4));
   printer_->setPageOrientation(orientation_ == platform::PageOrientation::Landscape ? QPageLayout::Landscape
                                                                                     : QPageLayout::Portrait);
-  printer_->setPageMargins(QMarginsF(kMarginMm, kMarginMm, kMarginMm, kMarginMm), QPageLayout::Millimeter);
+  printer_->setPageMargins(QMarginsF(paperMargin, paperMargin, paperMargin, paperMargin),
+                           QPageLayout::Millimeter);
   printer_->setColorMode(mode_ == platform::ColourMode::Colour ? QPrinter::Color : QPrinter::GrayScale);
   if (file_.isEmpty() && quality_ == platform::PrintQuality::Draft) printer_->setResolution(150);
   if (!painter_.begin(printer_.get())) fail("accès refusé");

@@ -11,7 +11,7 @@
 namespace desktop {
 namespace {
 
-constexpr int kPatienceMs = 1000;
+constexpr int patience = 1000;  // ms
 
 QString addressOf(const QString& programFolder) {
   const QString known = QDir(programFolder).canonicalPath();
@@ -38,14 +38,14 @@ SingleInstance::SingleInstance(const QString& programFolder, std::function<void(
 void SingleInstance::listen() {
   QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
     while (QLocalSocket* socket = server_.nextPendingConnection()) {
-      const auto take = [this, socket] {
+      const auto read = [this, socket] {
         woken_(QString::fromUtf8(socket->readAll()));
         socket->deleteLater();
       };
       if (socket->state() == QLocalSocket::UnconnectedState) {
-        take();
+        read();
       } else {
-        QObject::connect(socket, &QLocalSocket::disconnected, &server_, take);
+        QObject::connect(socket, &QLocalSocket::disconnected, &server_, read);
       }
     }
   });
@@ -57,9 +57,9 @@ void SingleInstance::listen() {
 bool SingleInstance::wakeFirst(const QString& text) const {
   QLocalSocket socket;
   socket.connectToServer(address_, QLocalSocket::WriteOnly);
-  if (!socket.waitForConnected(kPatienceMs)) return false;
+  if (!socket.waitForConnected(patience)) return false;
   socket.write(text.toUtf8());
-  while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(kPatienceMs)) {
+  while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(patience)) {
   }
   socket.disconnectFromServer();
   return socket.bytesToWrite() == 0;

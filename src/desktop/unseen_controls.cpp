@@ -1,6 +1,9 @@
 #include "desktop/unseen_controls.h"
 
+#include <algorithm>
 #include <array>
+
+#include "platform/form.h"
 
 namespace desktop {
 namespace {
@@ -66,6 +69,12 @@ constexpr std::array<UnseenControl, 47> table{{
 
 std::span<const UnseenControl> unseenControls() {
   return table;
+}
+
+bool isUnseen(const platform::Component& component) {
+  return std::any_of(table.begin(), table.end(), [&](const UnseenControl& row) {
+    return row.form == component.form().name() && row.control == component.name();
+  });
 }
 
 }  // namespace desktop

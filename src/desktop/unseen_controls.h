@@ -4,6 +4,8 @@
 #include <span>
 #include <string_view>
 
+#include "platform/component.h"
+
 namespace desktop {
 
 struct UnseenControl {
@@ -13,5 +15,6 @@ struct UnseenControl {
 };
 
 [[nodiscard]] std::span<const UnseenControl> unseenControls();
+[[nodiscard]] bool isUnseen(const platform::Component& component);
 
 }  // namespace desktop

@@ -78,8 +78,8 @@ Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice cho
   addShortcuts(program, binder_, window_, *mainPage_, *editorPage_);
   makeDraggable();
   offerAppearance();
-  // Queued: who opened the dialog is still in the midst of his work as it closes.
-  connect(&window_, &MainWindow::unblocked, this, &Windows::takeSessions, Qt::QueuedConnection);
+  // Queued: the handler that opened the dialog has not returned yet when it closes.
+  connect(&window_, &MainWindow::unblocked, this, &Windows::addWaitingSessions, Qt::QueuedConnection);
   refresh();
 }
 
@@ -100,7 +100,7 @@ QWidget* Windows::windowOf(const platform::Form& form) {
   return shown != nullptr ? shown->window() : nullptr;
 }
 
-// `way` is how the rider leaves the form.
+// `way` is the form's own button that closes it; closing the window presses it.
 void Windows::openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way) {
   binder_.bind(form, window.page());
   window.onClose([this, &way] { binder_.run([&way] { way.click(); }); });
@@ -145,15 +145,15 @@ void Windows::setTheme(ThemeMode mode) {
 
 void Windows::addSession(const std::string& path) {
   inbox_.push_back(path);
-  binder_.run([this] { takeSession(); });
+  binder_.run([this] { addWaitingSession(); });
 }
 
 // Each in an action of its own, which is a step of the editor's history.
-void Windows::takeSessions() {
-  for (std::size_t left = inbox_.size(); left > 0; --left) binder_.run([this] { takeSession(); });
+void Windows::addWaitingSessions() {
+  for (std::size_t left = inbox_.size(); left > 0; --left) binder_.run([this] { addWaitingSession(); });
 }
 
-void Windows::takeSession() {
+void Windows::addWaitingSession() {
   if (inbox_.empty() || QApplication::activeModalWidget() != nullptr) return;
   const std::string path = inbox_.front();
   inbox_.pop_front();

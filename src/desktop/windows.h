@@ -38,7 +38,9 @@ class Windows final : public QObject {
   [[nodiscard]] QWidget* windowOf(const platform::Form& form);
   void speak(const QString& text);
   // What writes the recorder's take to a file, so that its form can be drawn.
-  void onTake(std::function<void(const std::string& path)> save) { announceView_->onTake(std::move(save)); }
+  void saveTakesBy(std::function<void(const std::string& path)> save) {
+    announceView_->saveTakesBy(std::move(save));
+  }
   // A session file opened in the file manager: goes to the editor's list, once no dialog and no sound is in
   // the way. A ride under way goes on.
   void addSession(const std::string& path);
@@ -49,8 +51,8 @@ class Windows final : public QObject {
   void followForm(platform::Form& form, QWidget& page);
   void showWhatIsLeft();
   void openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way);
-  void takeSessions();
-  void takeSession();
+  void addWaitingSessions();
+  void addWaitingSession();
   void makeDraggable();
   void offerAppearance();
   void setTheme(widgets::ThemeMode mode);

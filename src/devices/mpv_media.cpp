@@ -9,7 +9,7 @@ namespace {
 using platform::MediaFigure;
 using platform::TimeFormat;
 
-constexpr std::chrono::seconds lookAgain{1};
+constexpr std::chrono::seconds checkInterval{1};
 
 // The address under which the library plays bytes that lie in no file.
 std::string inMemory(const std::vector<char>& bytes) {
@@ -54,20 +54,20 @@ MpvPlayer* MpvMedia::playerOf(const std::string& alias) {
   return device->player.get();
 }
 
-// Where the loudspeaker goes away the library runs on unheard, and would do so when it is back.
-void MpvMedia::keepHeard(MpvPlayer& player) {
+// Without a loudspeaker the library plays on unheard, and it does not notice one that comes back.
+void MpvMedia::restoreOutput(MpvPlayer& player) {
   const auto now = std::chrono::steady_clock::now();
-  if (now - lookedAt_ < lookAgain || player.mode() != MpvPlayer::Mode::Playing) return;
-  lookedAt_ = now;
-  if (!player.unheard() || !connection_.hasLoudspeaker()) return level_.keep();
+  if (now - checkedAt_ < checkInterval || player.mode() != MpvPlayer::Mode::Playing) return;
+  checkedAt_ = now;
+  if (!player.unheard() || !connection_.hasLoudspeaker()) return level_.reapply();
   player.stop();
   player.reopenOutput();
-  sound(player);
+  playAtLevel(player);
 }
 
-void MpvMedia::sound(MpvPlayer& player) {
+void MpvMedia::playAtLevel(MpvPlayer& player) {
   player.awaitOutput();
-  level_.settle();
+  level_.applyToAll();
   player.play();
 }
 
@@ -87,7 +87,7 @@ void MpvMedia::openRecorder(const std::string& alias) {
 }
 
 void MpvMedia::play(const std::string& alias) {
-  if (MpvPlayer* player = playerOf(alias)) sound(*player);
+  if (MpvPlayer* player = playerOf(alias)) playAtLevel(*player);
 }
 
 void MpvMedia::playFrom(const std::string& alias, std::int64_t position) {
@@ -166,7 +166,7 @@ std::string MpvMedia::mode(const std::string& alias) {
 std::optional<std::int64_t> MpvMedia::figure(const std::string& alias, MediaFigure figure) {
   const Device* device = find(alias);
   if (device == nullptr) return std::nullopt;
-  if (figure == MediaFigure::Position && device->player) keepHeard(*device->player);
+  if (figure == MediaFigure::Position && device->player) restoreOutput(*device->player);
   if (figure == MediaFigure::Length || figure == MediaFigure::Position) {
     const std::int64_t time = figure == MediaFigure::Length ? device->length() : device->position();
     return device->timeFormat == TimeFormat::Bytes ? device->format.bytesFor(time) : time;

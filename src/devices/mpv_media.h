@@ -54,15 +54,15 @@ class MpvMedia final : public platform::MediaBackend {
   // What plays the file or the take; null where there is nothing to play.
   MpvPlayer* playerOf(const std::string& alias);
   // Lets it play, at the program's level from its first sample.
-  void sound(MpvPlayer& player);
-  void keepHeard(MpvPlayer& player);
+  void playAtLevel(MpvPlayer& player);
+  void restoreOutput(MpvPlayer& player);
 
   PulseConnection& connection_;
   PulseOutputLevel& level_;
   platform::FileSystem& files_;
   std::map<std::string, Device> devices_;
-  std::map<std::string, int> volumes_;                // by name, for what is opened under it next, too
-  std::chrono::steady_clock::time_point lookedAt_{};  // for a server that has come back
+  std::map<std::string, int> volumes_;                 // by name, for what is opened under it next, too
+  std::chrono::steady_clock::time_point checkedAt_{};  // when restoreOutput last looked
 };
 
 }  // namespace devices

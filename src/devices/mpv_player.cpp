@@ -13,10 +13,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 3s;                 // with a disk that has to wake up
-constexpr std::string_view kNowhere = "null";  // the output that takes the sound and drops it
+constexpr auto patience = 3s;                 // with a disk that has to wake up
+constexpr std::string_view nowhere = "null";  // the output that takes the sound and drops it
 
-constexpr std::array<std::pair<const char*, const char*>, 14> kOptions{{
+constexpr std::array<std::pair<const char*, const char*>, 14> startOptions{{
     {"config", "no"},
     {"terminal", "no"},
     {"load-scripts", "no"},
@@ -37,7 +37,7 @@ mpv_handle* newHandle() {
   std::setlocale(LC_NUMERIC, "C");  // the library refuses to live with any other
   mpv_handle* handle = mpv_create();
   if (handle == nullptr) return nullptr;
-  for (const auto& [name, value] : kOptions) mpv_set_option_string(handle, name, value);
+  for (const auto& [name, value] : startOptions) mpv_set_option_string(handle, name, value);
   if (mpv_initialize(handle) >= 0) return handle;
   mpv_terminate_destroy(handle);
   return nullptr;
@@ -63,16 +63,16 @@ bool MpvPlayer::load(std::int64_t from) {
   mpv_set_property_string(handle_.get(), "start", seconds(from).c_str());
   std::array<const char*, 3> command{"loadfile", address_.c_str(), nullptr};
   loaded_ = ended_ = false;
-  await(from);
+  expectPosition(from);
   if (mpv_command(handle_.get(), command.data()) < 0) return false;
-  const auto patienceEnds = std::chrono::steady_clock::now() + kPatience;
+  const auto patienceEnds = std::chrono::steady_clock::now() + patience;
   while (!loaded_ && !ended_ && std::chrono::steady_clock::now() < patienceEnds) {
-    take(*mpv_wait_event(handle_.get(), 0.1));
+    handle(*mpv_wait_event(handle_.get(), 0.1));
   }
   return loaded_;
 }
 
-void MpvPlayer::take(const mpv_event& event) {
+void MpvPlayer::handle(const mpv_event& event) {
   switch (event.event_id) {
     case MPV_EVENT_FILE_LOADED:
       loaded_ = true;
@@ -92,16 +92,16 @@ void MpvPlayer::take(const mpv_event& event) {
   }
 }
 
-void MpvPlayer::takeEvents() {
+void MpvPlayer::handleEvents() {
   for (;;) {
     const mpv_event* event = mpv_wait_event(handle_.get(), 0);
     if (event->event_id == MPV_EVENT_NONE) break;
-    take(*event);
+    handle(*event);
   }
   if (arrived_ && mode_ == Mode::Playing) sought_ = -1;
 }
 
-void MpvPlayer::await(std::int64_t position) {
+void MpvPlayer::expectPosition(std::int64_t position) {
   sought_ = position;
   arrived_ = false;
 }
@@ -112,24 +112,24 @@ void MpvPlayer::setFlag(const char* property, bool on) {
 }
 
 void MpvPlayer::play() {
-  takeEvents();
+  handleEvents();
   if (ended_) return;
   setFlag("pause", false);
   mode_ = Mode::Playing;
 }
 
-void MpvPlayer::hold(Mode mode) {
-  takeEvents();
+void MpvPlayer::holdAs(Mode mode) {
+  handleEvents();
   setFlag("pause", true);
   mode_ = mode;
 }
 
 void MpvPlayer::pause() {
-  if (this->mode() == Mode::Playing) hold(Mode::Paused);
+  if (this->mode() == Mode::Playing) holdAs(Mode::Paused);
 }
 
 void MpvPlayer::seek(std::int64_t milliseconds) {
-  hold(Mode::Stopped);
+  holdAs(Mode::Stopped);
   const std::int64_t target = std::clamp<std::int64_t>(milliseconds, 0, length_);
   if (ended_) {  // the library has closed the piece
     load(target);
@@ -137,7 +137,7 @@ void MpvPlayer::seek(std::int64_t milliseconds) {
   }
   const std::string place = seconds(target);
   std::array<const char*, 4> command{"seek", place.c_str(), "absolute+exact", nullptr};
-  if (mpv_command(handle_.get(), command.data()) >= 0) await(target);
+  if (mpv_command(handle_.get(), command.data()) >= 0) expectPosition(target);
 }
 
 void MpvPlayer::setSpeed(double factor) {
@@ -156,17 +156,17 @@ void MpvPlayer::setAudible(bool audible) {
 
 bool MpvPlayer::unheard() {
   char* output = mpv_get_property_string(handle_.get(), "current-ao");
-  const bool unheard = output != nullptr && std::string_view(output) == kNowhere;
+  const bool unheard = output != nullptr && std::string_view(output) == nowhere;
   mpv_free(output);
   return unheard;
 }
 
 void MpvPlayer::awaitOutput() {
-  const auto patienceEnds = std::chrono::steady_clock::now() + kPatience;
+  const auto patienceEnds = std::chrono::steady_clock::now() + patience;
   while (!ended_ && std::chrono::steady_clock::now() < patienceEnds) {
     char* output = mpv_get_property_string(handle_.get(), "current-ao");
     if (output == nullptr) {
-      take(*mpv_wait_event(handle_.get(), 0.005));
+      handle(*mpv_wait_event(handle_.get(), 0.005));
       continue;
     }
     mpv_free(output);
@@ -180,12 +180,12 @@ void MpvPlayer::reopenOutput() {
 }
 
 MpvPlayer::Mode MpvPlayer::mode() {
-  takeEvents();
+  handleEvents();
   return mode_;
 }
 
 std::int64_t MpvPlayer::position() {
-  takeEvents();
+  handleEvents();
   if (ended_) return length_;
   if (sought_ >= 0) return sought_;
   double reached = 0;

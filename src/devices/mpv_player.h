@@ -19,13 +19,13 @@ class MpvPlayer {
   [[nodiscard]] bool opened() const { return opened_; }
 
   void play();
-  void stop() { hold(Mode::Stopped); }
+  void stop() { holdAs(Mode::Stopped); }
   void pause();
   void seek(std::int64_t milliseconds);  // leaves it stopped
   void setSpeed(double factor);
   void setVolume(double amplitude);  // 1 is the piece's own
   void setAudible(bool audible);
-  // Whether what is played goes nowhere, since no sound server took it.
+  // Whether nobody hears what is played, since there is no sound server.
   [[nodiscard]] bool unheard();
   // Waits until the stream of sound is open, at the server or to nowhere; nothing of it has sounded yet.
   void awaitOutput();
@@ -43,11 +43,11 @@ class MpvPlayer {
   };
 
   bool load(std::int64_t from);
-  void hold(Mode mode);
+  void holdAs(Mode mode);
   void setFlag(const char* property, bool on);
-  void takeEvents();
-  void await(std::int64_t position);
-  void take(const mpv_event& event);
+  void handleEvents();
+  void expectPosition(std::int64_t position);
+  void handle(const mpv_event& event);
 
   std::string address_;
   std::unique_ptr<mpv_handle, Destroy> handle_;
@@ -55,7 +55,7 @@ class MpvPlayer {
   bool loaded_ = false;
   bool ended_ = false;
   std::int64_t length_ = 0;
-  std::int64_t sought_ = -1;  // where it stands, or will once it has got there, until it plays on; -1: none
+  std::int64_t sought_ = -1;  // the target of the last seek, until the piece plays on from it; -1: none
   bool arrived_ = false;
   Mode mode_ = Mode::Stopped;
 };

@@ -12,12 +12,12 @@ using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr milliseconds kAttemptPatience{500};
-constexpr milliseconds kAttemptPause{1000};  // the volume is asked for several times a second
-constexpr milliseconds kTick{10};
-constexpr milliseconds kAnswerPatience{500};
+constexpr milliseconds attemptPatience{500};
+constexpr milliseconds attemptPause{1000};  // the volume is asked for several times a second
+constexpr milliseconds pollInterval{10};
+constexpr milliseconds answerPatience{500};
 // What the servers show in place of a card where there is none.
-constexpr std::string_view kNoCard = "auto_null";
+constexpr std::string_view noCard = "auto_null";
 
 }  // namespace
 
@@ -60,13 +60,13 @@ bool PulseConnection::ready() {
   if (!loop_) return false;
   {
     const Lock lock(*this);
-    if (!alive() && (!context_ || steady_clock::now() - attemptedAt_ >= kAttemptPause)) connect();
+    if (!alive() && (!context_ || steady_clock::now() - attemptedAt_ >= attemptPause)) connect();
   }
   const auto isReady = [this] {
     return context_ && pa_context_get_state(context_.get()) == PA_CONTEXT_READY;
   };
   const auto left =
-      std::chrono::duration_cast<milliseconds>(attemptedAt_ + kAttemptPatience - steady_clock::now());
+      std::chrono::duration_cast<milliseconds>(attemptedAt_ + attemptPatience - steady_clock::now());
   waitUntil([&] { return isReady() || !alive(); }, std::max(left, 0ms));
   const Lock lock(*this);
   return isReady();
@@ -81,11 +81,11 @@ bool PulseConnection::hasLoudspeaker() {
     request = pa_context_get_sink_info_list(
         context_.get(),
         [](pa_context*, const pa_sink_info* sink, int, void* answer) {
-          if (sink && sink->name != kNoCard) *static_cast<bool*>(answer) = true;
+          if (sink && sink->name != noCard) *static_cast<bool*>(answer) = true;
         },
         &found);
   }
-  return finish(request, kAnswerPatience) && found;
+  return finish(request, answerPatience) && found;
 }
 
 void PulseConnection::notify() {
@@ -110,7 +110,7 @@ bool PulseConnection::waitUntil(const std::function<bool()>& done, milliseconds 
     const auto now = steady_clock::now();
     if (now >= deadline || (goOn && !goOn())) return false;
     guard.lock();
-    changed_.wait_until(guard, std::min(deadline, now + kTick), [&] { return changes_ != seen; });
+    changed_.wait_until(guard, std::min(deadline, now + pollInterval), [&] { return changes_ != seen; });
   }
 }
 

@@ -10,9 +10,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 500ms;
+constexpr auto patience = 500ms;
 // What the servers show in place of a card where there is none.
-constexpr std::string_view kNoCard = "auto_null";
+constexpr std::string_view noCard = "auto_null";
 
 double fractionOf(const pa_cvolume& volume) {
   return double(pa_cvolume_max(&volume)) / PA_VOLUME_NORM;
@@ -21,10 +21,10 @@ double fractionOf(const pa_cvolume& volume) {
 }  // namespace
 
 PulseEndpointVolume::~PulseEndpointVolume() {
-  forget();
+  stopFollowing();
 }
 
-void PulseEndpointVolume::forget() {
+void PulseEndpointVolume::stopFollowing() {
   if (!followed_) return;
   const PulseConnection::Lock lock(connection_);
   pa_context_set_subscribe_callback(followed_, nullptr, nullptr);
@@ -48,7 +48,7 @@ void PulseEndpointVolume::answered(pa_context*, const pa_sink_info* sink, int en
 
 void PulseEndpointVolume::changed(pa_context*, pa_subscription_event_type_t, uint32_t, void* self) {
   auto& volume = *static_cast<PulseEndpointVolume*>(self);
-  volume.keep(volume.query());
+  volume.keepRequest(volume.askForDevice());
 }
 
 void PulseEndpointVolume::done(pa_context* context, int, void* self) {
@@ -56,27 +56,27 @@ void PulseEndpointVolume::done(pa_context* context, int, void* self) {
   if (context == volume.followed_ && --volume.writes_ == 0) changed(context, {}, 0, self);
 }
 
-pa_operation* PulseEndpointVolume::query() {
+pa_operation* PulseEndpointVolume::askForDevice() {
   if (sink_.empty()) return nullptr;
   return pa_context_get_sink_info_by_name(followed_, sink_.c_str(), &answered, this);
 }
 
 bool PulseEndpointVolume::follow() {
   if (!connection_.ready()) {
-    forget();
+    stopFollowing();
     return false;
   }
   if (followed_ == connection_.context()) return true;
-  forget();
+  stopFollowing();
   pa_operation* request = nullptr;
   {
     const PulseConnection::Lock lock(connection_);
     followed_ = pa_context_ref(connection_.context());
     pa_context_set_subscribe_callback(followed_, &changed, this);
-    keep(pa_context_subscribe(followed_, PA_SUBSCRIPTION_MASK_SINK, nullptr, nullptr));
-    request = query();
+    keepRequest(pa_context_subscribe(followed_, PA_SUBSCRIPTION_MASK_SINK, nullptr, nullptr));
+    request = askForDevice();
   }
-  connection_.finish(request, kPatience);
+  connection_.finish(request, patience);
   return true;
 }
 
@@ -94,51 +94,51 @@ bool PulseEndpointVolume::open() {
         },
         &found);
   }
-  connection_.finish(request, kPatience);
+  connection_.finish(request, patience);
   {
     const PulseConnection::Lock lock(connection_);
-    sink_ = found == kNoCard ? std::string() : found;
+    sink_ = found == noCard ? std::string() : found;
     device_.reset();
-    request = query();
+    request = askForDevice();
   }
-  connection_.finish(request, kPatience);
-  return look().has_value();
+  connection_.finish(request, patience);
+  return currentDevice().has_value();
 }
 
-std::optional<PulseEndpointVolume::Device> PulseEndpointVolume::look() {
-  seen_ = false;
+std::optional<PulseEndpointVolume::Device> PulseEndpointVolume::currentDevice() {
+  deviceSeen_ = false;
   if (!follow()) return std::nullopt;
   const PulseConnection::Lock lock(connection_);
-  seen_ = device_.has_value();
+  deviceSeen_ = device_.has_value();
   return device_;
 }
 
 bool PulseEndpointVolume::muted() {
-  const std::optional<Device> device = look();
+  const std::optional<Device> device = currentDevice();
   return device && device->muted;
 }
 
 double PulseEndpointVolume::level() {
-  const std::optional<Device> device = look();
+  const std::optional<Device> device = currentDevice();
   return device ? fractionOf(device->volume) : 0;
 }
 
 int PulseEndpointVolume::channels() {
-  const std::optional<Device> device = look();
+  const std::optional<Device> device = currentDevice();
   return device ? device->volume.channels : 0;
 }
 
 std::string PulseEndpointVolume::deviceName() {
-  const std::optional<Device> device = look();
+  const std::optional<Device> device = currentDevice();
   return device ? device->description : std::string();
 }
 
-PulseEndpointVolume::Device* PulseEndpointVolume::known() {
+PulseEndpointVolume::Device* PulseEndpointVolume::writableDevice() {
   const bool alive = followed_ && PA_CONTEXT_IS_GOOD(pa_context_get_state(followed_));
-  return seen_ && alive && device_ ? &*device_ : nullptr;
+  return deviceSeen_ && alive && device_ ? &*device_ : nullptr;
 }
 
-void PulseEndpointVolume::keep(pa_operation* request) {
+void PulseEndpointVolume::keepRequest(pa_operation* request) {
   std::erase_if(requests_, [](pa_operation* old) {
     if (pa_operation_get_state(old) == PA_OPERATION_RUNNING) return false;
     pa_operation_unref(old);
@@ -150,23 +150,23 @@ void PulseEndpointVolume::keep(pa_operation* request) {
 void PulseEndpointVolume::setMuted(bool muted) {
   if (!followed_) return;
   const PulseConnection::Lock lock(connection_);
-  Device* device = known();
+  Device* device = writableDevice();
   if (!device || device->muted == muted) return;
   device->muted = muted;
   ++writes_;
-  keep(pa_context_set_sink_mute_by_name(followed_, sink_.c_str(), muted, &done, this));
+  keepRequest(pa_context_set_sink_mute_by_name(followed_, sink_.c_str(), muted, &done, this));
 }
 
 void PulseEndpointVolume::setLevel(double level) {
   if (!followed_) return;
   const PulseConnection::Lock lock(connection_);
-  Device* device = known();
+  Device* device = writableDevice();
   // A level that was read, and comes back rounded, leaves the finer or louder one as it is.
   constexpr double halfPercent = 0.005;
   if (!device || std::abs(std::min(fractionOf(device->volume), 1.0) - level) <= halfPercent) return;
   pa_cvolume_scale(&device->volume, static_cast<pa_volume_t>(std::lround(level * PA_VOLUME_NORM)));
   ++writes_;
-  keep(pa_context_set_sink_volume_by_name(followed_, sink_.c_str(), &device->volume, &done, this));
+  keepRequest(pa_context_set_sink_volume_by_name(followed_, sink_.c_str(), &device->volume, &done, this));
 }
 
 }  // namespace devices

@@ -1,5 +1,5 @@
-// The master volume at the sound server. What the server tells by itself is kept, so that a look costs
-// nothing and a change by another program shows at the next one.
+// The master volume at the sound server. The server reports each change, also by other programs, and the last
+// report is kept: reading the volume costs nothing.
 #pragma once
 
 #include <pulse/pulseaudio.h>
@@ -36,13 +36,13 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
 
   // Follows the server that answers now, which may have come back meanwhile. False: none does.
   bool follow();
-  void forget();
-  [[nodiscard]] std::optional<Device> look();
-  // The device to be written to; null where the last look found none, so that nothing invented is written.
-  [[nodiscard]] Device* known();
-  [[nodiscard]] pa_operation* query();
-  // Keeps a request, so that its answer never comes to somebody who is gone.
-  void keep(pa_operation* request);
+  void stopFollowing();
+  [[nodiscard]] std::optional<Device> currentDevice();
+  // The device to write to; null if the last read found none, since the caller then knows no level to set.
+  [[nodiscard]] Device* writableDevice();
+  [[nodiscard]] pa_operation* askForDevice();
+  // Remembers a request, to cancel it if this object goes before the answer comes.
+  void keepRequest(pa_operation* request);
   static void answered(pa_context* context, const pa_sink_info* sink, int end, void* self);
   static void changed(pa_context* context, pa_subscription_event_type_t what, uint32_t index, void* self);
   static void done(pa_context* context, int success, void* self);
@@ -52,8 +52,8 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
   std::string sink_;
   std::optional<Device> device_;  // with all below, touched under the connection's lock
   std::vector<pa_operation*> requests_;
-  int writes_ = 0;     // on their way: what the server answers meanwhile is older than they are
-  bool seen_ = false;  // whether the last look found a device
+  int writes_ = 0;           // not confirmed yet: a report that comes meanwhile is older than they are
+  bool deviceSeen_ = false;  // whether the last read found a device
 };
 
 }  // namespace devices

@@ -10,7 +10,7 @@ namespace devices {
 namespace {
 
 // A stream may open long after its level was chosen: how often to look for new ones.
-constexpr std::chrono::milliseconds lookAgain{1000};
+constexpr std::chrono::milliseconds askInterval{1000};
 constexpr std::chrono::milliseconds patience{500};
 
 constexpr pa_channel_position_mask_t leftSide =
@@ -40,16 +40,16 @@ PulseOutputLevel::~PulseOutputLevel() {
   }
 }
 
-pa_operation* PulseOutputLevel::ask() {
+pa_operation* PulseOutputLevel::askForStreams() {
   return pa_context_get_sink_input_info_list(
       connection_.context(),
       [](pa_context*, const pa_sink_input_info* input, int end, void* self) {
-        if (end == 0 && input != nullptr) static_cast<PulseOutputLevel*>(self)->found(*input);
+        if (end == 0 && input != nullptr) static_cast<PulseOutputLevel*>(self)->applyTo(*input);
       },
       this);
 }
 
-bool PulseOutputLevel::idle() {
+bool PulseOutputLevel::finishAsking() {
   if (asking_ == nullptr) return true;
   if (pa_operation_get_state(asking_) == PA_OPERATION_RUNNING) return false;
   pa_operation_unref(asking_);
@@ -60,23 +60,23 @@ bool PulseOutputLevel::idle() {
 void PulseOutputLevel::set(std::uint16_t left, std::uint16_t right) {
   const auto now = std::chrono::steady_clock::now();
   const bool changed = !known_ || left != left_ || right != right_;
-  if (!changed && now - askedAt_ < lookAgain) return;
+  if (!changed && now - askedAt_ < askInterval) return;
   askedAt_ = now;
   if (!connection_.ready()) return;
   const PulseConnection::Lock lock(connection_);
   left_ = left;
   right_ = right;
-  known_ = idle();  // an answer that is under way may have passed some streams already
+  known_ = finishAsking();  // an answer that is under way may have passed some streams already
   if (!known_) return;
-  asking_ = ask();
+  asking_ = askForStreams();
 }
 
-void PulseOutputLevel::settle() {
+void PulseOutputLevel::applyToAll() {
   if (!connection_.ready()) return;
   pa_operation* request = nullptr;
   {
     const PulseConnection::Lock lock(connection_);
-    request = ask();
+    request = askForStreams();
   }
   connection_.finish(request, patience);
   {
@@ -99,7 +99,7 @@ pa_cvolume PulseOutputLevel::volumeOf(const pa_channel_map& channels) const {
   return volume;
 }
 
-void PulseOutputLevel::found(const pa_sink_input_info& input) {
+void PulseOutputLevel::applyTo(const pa_sink_input_info& input) {
   if (!isOwn(input) || input.has_volume == 0 || input.volume_writable == 0) return;
   const pa_cvolume wanted = volumeOf(input.channel_map);
   if (pa_cvolume_equal(&wanted, &input.volume) != 0) return;

@@ -5,8 +5,8 @@
 namespace devices {
 namespace {
 
-constexpr std::size_t kLongest = 600;  // seconds; whoever forgets a recording shall not fill the memory
-constexpr std::uint32_t kServersChoice = static_cast<std::uint32_t>(-1);
+constexpr std::size_t longestTake = 600;  // seconds; whoever forgets a recording shall not fill the memory
+constexpr std::uint32_t serversChoice = static_cast<std::uint32_t>(-1);
 
 }  // namespace
 
@@ -21,7 +21,7 @@ void PulseRecorder::start(const platform::RecordingFormat& format) {
   samples_.clear();
   if (!connection_.ready()) return;
   const auto bytesPerSecond = static_cast<std::size_t>(format.bytesPerSecond());
-  limit_ = kLongest * bytesPerSecond;
+  limit_ = longestTake * bytesPerSecond;
   const PulseConnection::Lock lock(connection_);
   const pa_sample_spec sampling{format.bitsPerSample == 8 ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE,
                                 static_cast<std::uint32_t>(format.samplesPerSecond),
@@ -30,7 +30,7 @@ void PulseRecorder::start(const platform::RecordingFormat& format) {
   if (!stream_) return;
   pa_stream_set_read_callback(stream_.get(), &PulseRecorder::read, this);
   const auto fragment = static_cast<std::uint32_t>(bytesPerSecond / 50);
-  const pa_buffer_attr buffer{kServersChoice, kServersChoice, kServersChoice, kServersChoice, fragment};
+  const pa_buffer_attr buffer{serversChoice, serversChoice, serversChoice, serversChoice, fragment};
   if (pa_stream_connect_record(stream_.get(), nullptr, &buffer, PA_STREAM_ADJUST_LATENCY) < 0)
     stream_.reset();
 }

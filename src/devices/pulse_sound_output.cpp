@@ -13,19 +13,19 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kTick = 10ms;
+constexpr auto repaintInterval = 10ms;
 
 std::vector<std::int16_t> makeBeep() {
-  constexpr double kPitch = 880;
-  constexpr double kLevel = 8000;
-  constexpr int kFrames = WavDecoder::kRate / 5;
-  constexpr int kRamp = WavDecoder::kRate / 200;  // without it the ends click
+  constexpr double pitch = 880;
+  constexpr double level = 8000;
+  constexpr int frames = WavDecoder::sampleRate / 5;
+  constexpr int ramp = WavDecoder::sampleRate / 200;  // without it the ends click
   std::vector<std::int16_t> samples;
-  samples.reserve(kFrames * 2);
-  for (int frame = 0; frame < kFrames; ++frame) {
-    const double edge = std::min({1.0, double(frame) / kRamp, double(kFrames - frame) / kRamp});
-    const double wave = std::sin(2 * std::numbers::pi * kPitch * frame / WavDecoder::kRate);
-    samples.insert(samples.end(), 2, static_cast<std::int16_t>(std::lrint(kLevel * edge * wave)));
+  samples.reserve(frames * 2);
+  for (int frame = 0; frame < frames; ++frame) {
+    const double edge = std::min({1.0, double(frame) / ramp, double(frames - frame) / ramp});
+    const double wave = std::sin(2 * std::numbers::pi * pitch * frame / WavDecoder::sampleRate);
+    samples.insert(samples.end(), 2, static_cast<std::int16_t>(std::lrint(level * edge * wave)));
   }
   return samples;
 }
@@ -40,7 +40,7 @@ PulseSoundOutput::PulseSoundOutput(PulseConnection& connection, const PulseOutpu
 
 bool PulseSoundOutput::goOn() {
   const auto now = std::chrono::steady_clock::now();
-  if (hooks_.whileBlocking && now - repaintedAt_ >= kTick) {
+  if (hooks_.whileBlocking && now - repaintedAt_ >= repaintInterval) {
     repaintedAt_ = now;
     hooks_.whileBlocking();
   }

@@ -15,14 +15,14 @@ using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr std::int64_t kBytesPerMs = WavDecoder::kRate * WavDecoder::kChannels * 2 / 1000;
-constexpr std::int64_t kBuffer = 40 * kBytesPerMs;
-constexpr std::int64_t kLead = 30 * kBytesPerMs;
-constexpr std::int64_t kAhead = 1000 * kBytesPerMs;  // a repaint may take this long before a file stutters
-constexpr std::size_t kPiece = WavDecoder::kRate / 4 * WavDecoder::kChannels;
-constexpr milliseconds kTick{10};
-constexpr milliseconds kTail{60};        // what the server and the card still hold when all has been taken
-constexpr milliseconds kPatience{2000};  // with a server that has stopped taking sound
+constexpr std::int64_t bytesPerMs = WavDecoder::sampleRate * WavDecoder::channelCount * 2 / 1000;
+constexpr std::int64_t serverBuffer = 40 * bytesPerMs;
+constexpr std::int64_t leadBytes = 30 * bytesPerMs;
+constexpr std::int64_t aheadBytes = 1000 * bytesPerMs;  // a repaint may take this long before a file stutters
+constexpr std::size_t samplesAtOnce = WavDecoder::sampleRate / 4 * WavDecoder::channelCount;
+constexpr milliseconds pollInterval{10};
+constexpr milliseconds soundingTail{60};  // what the server and the card still hold when all has been taken
+constexpr milliseconds patience{2000};    // with a server that has stopped taking sound
 
 }  // namespace
 
@@ -59,20 +59,20 @@ bool PulseVoiceStream::open() {
   {
     const PulseConnection::Lock lock(connection_);
     if (stream_ && !broken()) return true;
-    const pa_sample_spec format{PA_SAMPLE_S16LE, WavDecoder::kRate, WavDecoder::kChannels};
+    const pa_sample_spec format{PA_SAMPLE_S16LE, WavDecoder::sampleRate, WavDecoder::channelCount};
     stream_.reset(pa_stream_new(connection_.context(), "Voix", &format, nullptr));
     if (!stream_) return false;
     pa_stream_set_state_callback(
         stream_.get(), [](pa_stream*, void* owner) { static_cast<PulseConnection*>(owner)->notify(); },
         &connection_);
-    constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
-    const pa_buffer_attr buffer{kServersChoice, kBuffer, 0, kServersChoice, kServersChoice};
+    constexpr auto serversChoice = static_cast<std::uint32_t>(-1);
+    const pa_buffer_attr buffer{serversChoice, serverBuffer, 0, serversChoice, serversChoice};
     const pa_cvolume volume = level_.volumeOf(*pa_stream_get_channel_map(stream_.get()));
     pa_stream_connect_playback(stream_.get(), nullptr, &buffer, PA_STREAM_ADJUST_LATENCY, &volume, nullptr);
   }
   const auto isOpen = [this] { return pa_stream_get_state(stream_.get()) == PA_STREAM_READY; };
   bool opened = false;
-  connection_.waitUntil([&] { return (opened = isOpen()) || broken(); }, kPatience, goOn_);
+  connection_.waitUntil([&] { return (opened = isOpen()) || broken(); }, patience, goOn_);
   if (!opened) drop();
   return opened;
 }
@@ -84,7 +84,7 @@ std::optional<PulseVoiceStream::Position> PulseVoiceStream::position(const std::
     const PulseConnection::Lock lock(connection_);
     if (!broken()) request = pa_stream_update_timing_info(stream_.get(), nullptr, nullptr);
   }
-  if (!connection_.finish(request, kPatience, goOn)) return {};
+  if (!connection_.finish(request, patience, goOn)) return {};
   const PulseConnection::Lock lock(connection_);
   const pa_timing_info* timing = pa_stream_get_timing_info(stream_.get());
   if (!timing || timing->read_index_corrupt != 0 || timing->write_index_corrupt != 0) return {};
@@ -105,12 +105,12 @@ void PulseVoiceStream::flush() {
     const PulseConnection::Lock lock(connection_);
     if (!broken()) request = pa_stream_flush(stream_.get(), nullptr, nullptr);
   }
-  connection_.finish(request, kPatience);
+  connection_.finish(request, patience);
 }
 
 // True unless the stream broke.
 bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std::function<bool()>& goOn) {
-  std::vector<std::int16_t> piece(kPiece);
+  std::vector<std::int16_t> piece(samplesAtOnce);
   bool ended = false;
   std::int64_t lastRead = -1;
   auto movedAt = steady_clock::now();
@@ -122,7 +122,7 @@ bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std
       return true;
     }
     const std::int64_t queued = at->write - at->read;
-    if (!ended && queued < kAhead) {
+    if (!ended && queued < aheadBytes) {
       const std::size_t count = source(piece);
       ended = count == 0;
       if (!ended && !write({piece.data(), count}, *at)) return false;
@@ -131,26 +131,26 @@ bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std
     if (ended && queued <= lead) return true;
     const auto now = steady_clock::now();
     if (at->read != lastRead) movedAt = now;
-    if (now - movedAt > kPatience) return false;
+    if (now - movedAt > patience) return false;
     lastRead = at->read;
-    const milliseconds rest = ended ? milliseconds((queued - lead) / kBytesPerMs + 1) : kTick;
-    connection_.waitUntil([this] { return broken(); }, std::min(rest, kTick), goOn);
+    const milliseconds rest = ended ? milliseconds((queued - lead) / bytesPerMs + 1) : pollInterval;
+    connection_.waitUntil([this] { return broken(); }, std::min(rest, pollInterval), goOn);
   }
 }
 
 void PulseVoiceStream::play(const Source& source) {
-  if (open() && !playTo(source, kLead, goOn_)) drop();
+  if (open() && !playTo(source, leadBytes, goOn_)) drop();
 }
 
 void PulseVoiceStream::settle() {
   if (!stream_) return;
-  std::size_t silence = 10 * kBytesPerMs / 2;
+  std::size_t silence = 10 * bytesPerMs / 2;
   const auto source = [&silence](std::span<std::int16_t> samples) {
     const std::size_t count = std::exchange(silence, 0);
     std::fill_n(samples.begin(), count, std::int16_t{0});
     return count;
   };
-  if (playTo(source, 0, {})) std::this_thread::sleep_for(kTail);
+  if (playTo(source, 0, {})) std::this_thread::sleep_for(soundingTail);
 }
 
 }  // namespace devices

@@ -10,7 +10,7 @@ namespace devices {
 
 namespace {
 
-constexpr std::size_t kInputFrames = 4096;
+constexpr std::size_t framesAtOnce = 4096;
 
 std::int16_t toSample(float value) {
   return static_cast<std::int16_t>(std::lrint(std::clamp(value * 32768.0F, -32768.0F, 32767.0F)));
@@ -60,13 +60,13 @@ WavDecoder::WavDecoder(const std::string& path) {
 
 void WavDecoder::prepare() {
   if (!file_) return;
-  channels_ = std::min(info_.channels, kChannels);
-  input_.resize(kInputFrames * static_cast<std::size_t>(info_.channels));
-  if (info_.samplerate == kRate) return;
+  channels_ = std::min(info_.channels, channelCount);
+  input_.resize(framesAtOnce * static_cast<std::size_t>(info_.channels));
+  if (info_.samplerate == sampleRate) return;
   int error = 0;
-  if (src_is_valid_ratio(static_cast<double>(kRate) / info_.samplerate) != 0) {
+  if (src_is_valid_ratio(static_cast<double>(sampleRate) / info_.samplerate) != 0) {
     converter_.reset(src_callback_new(
-        [](void* self, float** data) { return static_cast<WavDecoder*>(self)->fill(data, kInputFrames); },
+        [](void* self, float** data) { return static_cast<WavDecoder*>(self)->fill(data, framesAtOnce); },
         SRC_SINC_MEDIUM_QUALITY, channels_, &error, this));
   }
   if (!converter_) file_.reset();
@@ -86,13 +86,13 @@ long WavDecoder::fill(float** data, std::size_t wanted) {
 
 std::size_t WavDecoder::read(std::span<std::int16_t> samples) {
   if (!opened()) return 0;
-  const std::size_t wanted = std::min(samples.size() / kChannels, kInputFrames);
+  const std::size_t wanted = std::min(samples.size() / channelCount, framesAtOnce);
   float* from = nullptr;
   long frames = 0;
   if (converter_) {
     output_.resize(wanted * static_cast<std::size_t>(channels_));
     from = output_.data();
-    frames = src_callback_read(converter_.get(), static_cast<double>(kRate) / info_.samplerate,
+    frames = src_callback_read(converter_.get(), static_cast<double>(sampleRate) / info_.samplerate,
                                static_cast<long>(wanted), from);
   } else {
     frames = fill(&from, wanted);
@@ -104,7 +104,7 @@ std::size_t WavDecoder::read(std::span<std::int16_t> samples) {
     samples[frame * 2] = toSample(at[0]);
     samples[frame * 2 + 1] = toSample(at[step]);
   }
-  return count * kChannels;
+  return count * channelCount;
 }
 
 }  // namespace devices

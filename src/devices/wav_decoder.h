@@ -15,8 +15,8 @@ namespace devices {
 
 class WavDecoder {
  public:
-  static constexpr int kRate = 44100;
-  static constexpr int kChannels = 2;
+  static constexpr int sampleRate = 44100;
+  static constexpr int channelCount = 2;
 
   // The bytes are read while the decoder lives.
   explicit WavDecoder(std::span<const unsigned char> wav);

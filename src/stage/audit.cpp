@@ -12,9 +12,11 @@
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QSet>
+#include <QStyle>
 #include <QToolButton>
 #include <array>
 #include <utility>
+#include <vector>
 
 #include "platform/controls.h"
 #include "stage/contrast.h"
@@ -31,9 +33,9 @@ namespace {
 
 constexpr double readable = 4.5;  // WCAG 2.1, level AA, for text
 constexpr double visible = 3;     // and for drawings and large letters
-// Thin strokes of small letters never reach their full ink: from this height on they do.
+// Pixels high: the thin strokes of smaller letters are blurred and never reach the colour of their ink.
 constexpr int solidInk = 28;
-constexpr int rounding = 2;  // what a scaled margin may lose
+constexpr int rounding = 2;  // pixels that scaling may take from a margin
 
 class Audit {
  public:
@@ -41,15 +43,16 @@ class Audit {
       : form_(form), window_(window), picture_(std::move(picture)) {}
 
   QStringList faults() {
-    walk(QAccessible::queryAccessibleInterface(&window_));
+    walkTree(QAccessible::queryAccessibleInterface(&window_));
+    findPictures();
     for (QWidget* widget : window_.findChildren<QWidget*>()) {
-      if (isControl(*widget) && widget->isVisible() && !isCovered(*widget)) look(*widget);
+      if (isControl(*widget) && widget->isVisible() && !isCovered(*widget)) checkAll(*widget);
     }
     return faults_;
   }
 
  private:
-  // What stands for itself, not what such a widget is made of.
+  // A widget of the page, not one that such a widget is made of.
   static bool isControl(const QWidget& widget) {
     if (widget.objectName().isEmpty() || widget.objectName().startsWith(QLatin1String("qt_"))) return false;
     return qobject_cast<const QLabel*>(&widget) != nullptr ||
@@ -67,23 +70,24 @@ class Audit {
                    what;
   }
 
-  // The tree as somebody meets it who does not see the screen.
-  void walk(QAccessibleInterface* face) {
+  // Walks the accessibility tree as a screen reader does.
+  void walkTree(QAccessibleInterface* face) {
     if (face == nullptr || face->state().invisible) return;
-    if (face->object() != nullptr) told_.insert(face->object());
+    if (face->object() != nullptr) inTree_.insert(face->object());
     const auto* field = qobject_cast<const QLineEdit*>(face->object());
     if (field != nullptr && face->text(QAccessible::Name).trimmed().isEmpty()) {
       fault(*field->parentWidget(), QStringLiteral("has a field without a name"));
     }
     // The cells of a list are its texts.
     if (face->role() == QAccessible::Table || face->role() == QAccessible::List) return;
-    for (int i = 0; i < face->childCount(); ++i) walk(face->child(i));
+    for (int i = 0; i < face->childCount(); ++i) walkTree(face->child(i));
   }
 
-  void look(QWidget& widget) {
+  void checkAll(QWidget& widget) {
     checkPlace(widget);
     checkOverlap(widget);
     checkText(widget);
+    checkPictures(widget);
     checkName(widget);
     checkKeyboard(widget);
     checkContrast(widget);
@@ -175,8 +179,54 @@ class Audit {
            qobject_cast<const QToolButton*>(&widget) == nullptr;
   }
 
+  [[nodiscard]] QRect inWindow(const QWidget& widget, const QRect& place) const {
+    return {widget.mapTo(&window_, place.topLeft()), place.size()};
+  }
+  // What lies under a label shines through.
+  [[nodiscard]] bool isHidden(const QWidget& picture) const {
+    const auto points = probes(picture);
+    const auto hides = [&](const QPoint& at) {
+      const QWidget* over = cover(picture, at);
+      return over != nullptr && qobject_cast<const QLabel*>(over) == nullptr;
+    };
+    return !picture.isVisible() || std::any_of(points.begin(), points.end(), [&](const QPoint& at) {
+      return isOnPanel(cover(picture, at));
+    }) || std::all_of(points.begin(), points.end(), hides);
+  }
+  // A picture that is meant to be a background says so.
+  void findPictures() {
+    for (const QWidget* widget : window_.findChildren<QWidget*>()) {
+      if (widget->property("background").toBool() || isHidden(*widget)) continue;
+      const QRect place = pictureOf(*widget);
+      if (!place.isEmpty()) pictures_.emplace_back(widget, inWindow(*widget, place));
+    }
+  }
+  // Where a widget draws a picture; empty where it draws none.
+  static QRect pictureOf(const QWidget& widget) {
+    if (const auto* picture = qobject_cast<const widgets::Picture*>(&widget))
+      return picture->pictureRect().toAlignedRect();
+    if (const auto* button = qobject_cast<const widgets::PictureButton*>(&widget))
+      return button->pictureRect().toAlignedRect();
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return label != nullptr && !label->pixmap(Qt::ReturnByValue).isNull() ? label->contentsRect() : QRect();
+  }
+  static QRect textOf(const QWidget& widget) {
+    const QString text = widget.property("text").toString();
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    if (text.trimmed().isEmpty() || label == nullptr) return text.isEmpty() ? QRect() : widget.rect();
+    const int flags = static_cast<int>(label->alignment()) | (label->wordWrap() ? Qt::TextWordWrap : 0);
+    return label->style()->itemTextRect(label->fontMetrics(), label->contentsRect(), flags, true, text);
+  }
+  void checkPictures(const QWidget& widget) {
+    const QRect text = inWindow(widget, textOf(widget));
+    for (const auto& [picture, place] : pictures_) {
+      if (picture == &widget || !place.intersects(text)) continue;
+      fault(widget, QStringLiteral("has its text over a picture: ") + picture->objectName());
+    }
+  }
+
   void checkName(QWidget& widget) {
-    if (!told_.contains(&widget)) fault(widget, QStringLiteral("is not in the accessibility tree"));
+    if (!inTree_.contains(&widget)) fault(widget, QStringLiteral("is not in the accessibility tree"));
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget);
     if (face == nullptr || face->role() == QAccessible::NoRole || face->role() == QAccessible::Client) {
       fault(widget, QStringLiteral("has no role"));
@@ -258,7 +308,8 @@ class Audit {
   QWidget& window_;
   const QImage picture_;  // 32 bits a pixel
   QStringList faults_;
-  QSet<const QObject*> told_;  // what the accessibility tree holds
+  QSet<const QObject*> inTree_;                             // what the accessibility tree holds
+  std::vector<std::pair<const QWidget*, QRect>> pictures_;  // and where in the window they lie
 };
 
 }  // namespace

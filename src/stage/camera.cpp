@@ -25,7 +25,7 @@ void addMenus(QPixmap& picture, const QWidget& window) {
 
 }  // namespace
 
-void Camera::take(const platform::Form& form, const std::string& path) {
+void Camera::capture(const platform::Form& form, const std::string& path) {
   QWidget* window = windows_.windowOf(form);
   if (window == nullptr) throw console::CommandError(form.name() + " has no window");
   windows_.refresh();

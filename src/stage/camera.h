@@ -12,7 +12,7 @@ class Camera {
   Camera(desktop::Windows& windows, bool checks) : windows_(windows), checks_(checks) {}
   // Draws what shows a form to a file, or tells what the audit finds in it; throws console::CommandError
   // where that cannot be done.
-  void take(const platform::Form& form, const std::string& path);
+  void capture(const platform::Form& form, const std::string& path);
   // Whether the audit has found anything.
   [[nodiscard]] bool foundFaults() const { return foundFaults_; }
 

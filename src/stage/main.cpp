@@ -27,7 +27,7 @@ struct StageOptions {
 // Takes the stage's own options out of the console's.
 StageOptions parse(std::vector<std::string> words) {
   StageOptions options;
-  const auto take = [&](const char* name) -> std::optional<std::string> {
+  const auto extract = [&](const char* name) -> std::optional<std::string> {
     const auto found = std::find(words.begin(), words.end(), name);
     if (found == words.end() || found + 1 == words.end()) return std::nullopt;
     const std::string value = *(found + 1);
@@ -35,8 +35,8 @@ StageOptions parse(std::vector<std::string> words) {
     return value;
   };
   options.check = std::erase(words, "--check") > 0;
-  if (const auto theme = take("--theme"); theme == "light") options.theme = widgets::ThemeMode::Light;
-  if (const auto size = take("--size")) {
+  if (const auto theme = extract("--theme"); theme == "light") options.theme = widgets::ThemeMode::Light;
+  if (const auto size = extract("--size")) {
     const QStringList sides = widgets::toQt(*size).split(QLatin1Char('x'));
     if (sides.size() == 2) options.size = QSize(sides[0].toInt(), sides[1].toInt());
   }
@@ -56,13 +56,13 @@ int run(const StageOptions& options) {
   console::Session session(options.console, std::filesystem::absolute(folder).lexically_normal().string(),
                            std::cout, &hands);
   desktop::Windows windows(session.program(), options.theme);
-  windows.onTake([&](const std::string& path) { session.saveTake(path); });
+  windows.saveTakesBy([&](const std::string& path) { session.saveTake(path); });
   hands.attach(windows);
   windows.binder().onPopUp([&](const platform::MenuItem& root) { session.interpreter().menuOpened(root); });
   stage::Camera camera(windows, options.check);
   session.interpreter().add("capture", [&](console::Arguments& arguments) {
     const std::string name = arguments.word("FORM");
-    camera.take(console::findForm(session.program().screens(), name), arguments.text());
+    camera.capture(console::findForm(session.program().screens(), name), arguments.text());
   });
   // What a voice would say just then: the simulated one has spoken before anybody can look.
   session.interpreter().add(

@@ -11,6 +11,9 @@
 #include <QMouseEvent>
 #include <QRadioButton>
 
+#include "console/arguments.h"
+#include "desktop/covered_parts.h"
+#include "desktop/unseen_controls.h"
 #include "widgets/check_list.h"
 #include "widgets/grid_table.h"
 #include "widgets/qt_text.h"
@@ -19,6 +22,7 @@ namespace stage {
 namespace {
 
 using widgets::CheckList;
+using widgets::fromQt;
 using widgets::GridTable;
 using widgets::toQt;
 
@@ -46,7 +50,7 @@ void closeMenus() {
   }
 }
 
-// A check box is hit on its box, the rest in the middle.
+// Where a rider would click: on the box of a check box or an option, else in the middle.
 QPoint spot(const QWidget& widget) {
   const bool box = qobject_cast<const QCheckBox*>(&widget) != nullptr ||
                    qobject_cast<const QRadioButton*>(&widget) != nullptr;
@@ -54,7 +58,7 @@ QPoint spot(const QWidget& widget) {
 }
 
 void move(QWidget& widget, const QPoint& at) {
-  // From elsewhere, so that it is a movement.
+  // A move to the pointer's own place would be none.
   mouse(widget, QEvent::MouseMove, at + QPoint(1, 1), Qt::NoButton, Qt::NoButton);
   mouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
 }
@@ -71,48 +75,124 @@ int keyCode(const std::string& key) {
   return key.starts_with("F") ? Qt::Key_F1 + std::stoi(key.substr(1)) - 1 : 0;
 }
 
-QPoint cellSpot(GridTable& table, int row, int column) {
-  table.gridModel()->flush();
-  table.scrollTo(table.gridModel()->index(row - 1, column - 1));
-  return table.cellRect(row, column).center();
+[[noreturn]] void miss(const platform::Component& component, const std::string& why) {
+  throw console::CommandError(component.form().name() + "." + component.name() + ": " + why);
+}
+
+const QWidget* topAt(const QWidget& widget, const QPoint& at) {
+  return widget.window()->childAt(widget.mapTo(widget.window(), at));
+}
+
+bool isIn(const QWidget* widget, const QWidget& whole) {
+  return widget == &whole || whole.isAncestorOf(widget);
+}
+
+// Whether another part of the page, which is to be seen, lies there or has hidden the widget.
+bool isCoveredByDesign(const platform::Form& form, const QWidget& page, const QWidget& widget,
+                       const QPoint& at) {
+  for (const QWidget* part = &widget; part != nullptr && part != &page; part = part->parentWidget()) {
+    const auto cover = desktop::coverOf(form, fromQt(part->objectName()));
+    const auto* over = cover ? page.findChild<QWidget*>(toQt(*cover)) : nullptr;
+    if (over == nullptr || !over->isVisible()) continue;
+    if (widget.isVisible() ? isIn(topAt(widget, at), *over) : widget.isVisibleTo(part)) return true;
+  }
+  return false;
+}
+
+// A list's cell editors lie over it.
+bool isOverList(const QWidget* widget) {
+  for (; widget != nullptr; widget = widget->parentWidget()) {
+    if (widget->property("over").toString() == QLatin1String("list")) return true;
+  }
+  return false;
+}
+
+std::string hiderOf(const QWidget& widget) {
+  const QWidget* hidden = &widget;
+  while (!hidden->isHidden() && hidden->parentWidget() != nullptr) hidden = hidden->parentWidget();
+  return fromQt(hidden->objectName());
+}
+
+// What keeps a rider from touching the widget there; empty where nothing does.
+std::string obstacle(const QWidget& widget, const QPoint& at) {
+  if (!widget.isVisible()) return "its widget is not to be seen, for " + hiderOf(widget) + " is hidden";
+  if (!widget.isEnabled()) return "its widget is disabled";
+  const QWidget* top = topAt(widget, at);
+  if (top == nullptr) return "its widget lies outside the window";
+  const bool free = isIn(top, widget) || top->isAncestorOf(&widget) ||
+                    (qobject_cast<const GridTable*>(&widget) != nullptr && isOverList(top));
+  return free ? std::string() : "its widget lies under " + fromQt(top->objectName());
 }
 
 }  // namespace
 
-QWidget* WidgetHands::touchable(const platform::Component& component) const {
+QWidget* WidgetHands::find(const platform::Component& component) const {
   closeMenus();
   windows_->refresh();
   settle();
-  QWidget* page = windows_->page(component.form());
-  if (page == nullptr) return nullptr;
-  auto* widget = page->findChild<QWidget*>(toQt(component.name()));
-  if (widget == nullptr || !widget->isVisible()) return nullptr;
+  const QWidget* page = windows_->page(component.form());
+  auto* widget = page != nullptr ? page->findChild<QWidget*>(toQt(component.name())) : nullptr;
   // A platform without a screen gives the keyboard back to nobody when a list closes.
-  if (QApplication::focusWidget() == nullptr) {
+  if (widget != nullptr && widget->isVisible() && QApplication::focusWidget() == nullptr) {
     widget->activateWindow();
     settle();
   }
   return widget;
 }
 
+bool WidgetHands::canTouch(const platform::Component& component, const QWidget& widget,
+                           const QPoint& at) const {
+  if (isCoveredByDesign(component.form(), *windows_->page(component.form()), widget, at)) return false;
+  if (const std::string why = obstacle(widget, at); !why.empty()) miss(component, why);
+  return true;
+}
+
+template <class Widget>
+Widget* WidgetHands::reach(const platform::Component& component) const {
+  QWidget* found = find(component);
+  if (desktop::isUnseen(component)) return nullptr;
+  if (found == nullptr) miss(component, "no widget shows it");
+  // Of a list only the cell matters.
+  const bool list = component.kind() == platform::ControlKind::Grid;
+  if (!canTouch(component, *found, list ? QPoint(0, 0) : spot(*found))) return nullptr;
+  auto* widget = qobject_cast<Widget*>(found);
+  if (widget == nullptr) miss(component, "its widget does not take that");
+  return widget;
+}
+
+std::optional<QPoint> WidgetHands::reachCell(GridTable& table, int row, int column) const {
+  table.gridModel()->flush();
+  table.scrollTo(table.gridModel()->index(row - 1, column - 1));
+  const QPoint at = table.cellRect(row, column).center();
+  if (!canTouch(*table.grid(), table, table.viewport()->mapTo(&table, at))) return std::nullopt;
+  return at;
+}
+
+QAction& WidgetHands::entry(const platform::Component& item) const {
+  const QWidget* page = windows_->page(item.form());
+  auto* action = page != nullptr ? page->findChild<QAction*>(toQt(item.name())) : nullptr;
+  if (action == nullptr) miss(item, "no menu has it");
+  if (!action->isVisible() || !action->isEnabled()) miss(item, "its menu does not offer it");
+  return *action;
+}
+
 void WidgetHands::press(platform::Component& target) {
   if (dynamic_cast<platform::MenuItem*>(&target) != nullptr) {
-    QWidget* page = windows_->page(target.form());
-    auto* action = page != nullptr ? page->findChild<QAction*>(toQt(target.name())) : nullptr;
+    QAction& action = entry(target);
     closeMenus();
-    action != nullptr ? action->trigger() : direct_.press(target);
-  } else if (QWidget* widget = touchable(target)) {
+    action.trigger();
+  } else if (auto* widget = reach<QWidget>(target)) {
     click(*widget, spot(*widget));
   } else {
-    direct_.press(target);
+    logic_.press(target);
   }
   settle();
 }
 
 void WidgetHands::doublePress(platform::Control& target) {
-  QWidget* widget = touchable(target);
+  auto* widget = reach<QWidget>(target);
   if (widget == nullptr) {
-    direct_.doublePress(target);
+    logic_.doublePress(target);
     return;
   }
   click(*widget, spot(*widget));
@@ -121,22 +201,22 @@ void WidgetHands::doublePress(platform::Control& target) {
 }
 
 void WidgetHands::hover(platform::Control& target) {
-  QWidget* widget = touchable(target);
+  auto* widget = reach<QWidget>(target);
   if (widget == nullptr) {
-    direct_.hover(target);
+    logic_.hover(target);
     return;
   }
-  // A container is met at its edge, where nothing lies on it.
+  // At its edge, for what it contains lies on the rest.
   const bool holds = target.kind() == platform::ControlKind::Frame;
   mouse(*widget, QEvent::MouseMove, holds ? QPoint(2, 2) : spot(*widget), Qt::NoButton, Qt::NoButton);
   settle();
 }
 
 void WidgetHands::tick(platform::Control& box, int value) {
-  auto* widget = qobject_cast<QAbstractButton*>(touchable(box));
+  auto* widget = reach<QAbstractButton>(box);
   // A person cannot make a box grey, nor put an option out; a script can.
   if (widget == nullptr || value > 1 || (value == 0 && qobject_cast<QRadioButton*>(widget) != nullptr)) {
-    direct_.tick(box, value);
+    logic_.tick(box, value);
     return;
   }
   const auto* check = qobject_cast<QCheckBox*>(widget);
@@ -150,9 +230,9 @@ void WidgetHands::tick(platform::Control& box, int value) {
 }
 
 void WidgetHands::pick(platform::Control& list, int line) {
-  auto* widget = qobject_cast<QComboBox*>(touchable(list));
+  auto* widget = reach<QComboBox>(list);
   if (widget == nullptr) {
-    direct_.pick(list, line);
+    logic_.pick(list, line);
     return;
   }
   widget->setFocus();
@@ -164,13 +244,14 @@ void WidgetHands::pick(platform::Control& list, int line) {
 }
 
 void WidgetHands::type(platform::Control& box, const std::string& text) {
-  QWidget* widget = touchable(box);
+  auto* widget = reach<QWidget>(box);
   auto* combo = qobject_cast<QComboBox*>(widget);
   auto* edit = combo != nullptr ? combo->lineEdit() : qobject_cast<QLineEdit*>(widget);
-  if (edit == nullptr) {
-    direct_.type(box, text);
+  if (widget == nullptr) {
+    logic_.type(box, text);
     return;
   }
+  if (edit == nullptr) miss(box, "nothing can be typed in its widget");
   // A drop-down list has the keyboard itself, and hands it on to its line.
   widget->setFocus();
   edit->selectAll();
@@ -181,9 +262,9 @@ void WidgetHands::type(platform::Control& box, const std::string& text) {
 }
 
 void WidgetHands::scroll(platform::ScrollBar& bar, int value) {
-  auto* widget = qobject_cast<QAbstractSlider*>(touchable(bar));
+  auto* widget = reach<QAbstractSlider>(bar);
   if (widget == nullptr) {
-    direct_.scroll(bar, value);
+    logic_.scroll(bar, value);
     return;
   }
   widget->setSliderPosition(value);
@@ -192,41 +273,42 @@ void WidgetHands::scroll(platform::ScrollBar& bar, int value) {
 }
 
 void WidgetHands::cell(platform::Grid& grid, int row, int column, platform::MouseButton button) {
-  auto* table = qobject_cast<GridTable*>(touchable(grid));
-  if (table == nullptr) {
-    direct_.cell(grid, row, column, button);
+  auto* table = reach<GridTable>(grid);
+  const auto at = table != nullptr ? reachCell(*table, row, column) : std::nullopt;
+  if (!at) {
+    logic_.cell(grid, row, column, button);
     return;
   }
-  const QPoint at = cellSpot(*table, row, column);
-  click(*table->viewport(), at, button == platform::MouseButton::Left ? Qt::LeftButton : Qt::RightButton);
+  click(*table->viewport(), *at, button == platform::MouseButton::Left ? Qt::LeftButton : Qt::RightButton);
   settle();
 }
 
 void WidgetHands::hoverCell(platform::Grid& grid, int row, int column) {
-  auto* table = qobject_cast<GridTable*>(touchable(grid));
-  if (table == nullptr) {
-    direct_.hoverCell(grid, row, column);
+  auto* table = reach<GridTable>(grid);
+  const auto at = table != nullptr ? reachCell(*table, row, column) : std::nullopt;
+  if (!at) {
+    logic_.hoverCell(grid, row, column);
     return;
   }
-  move(*table->viewport(), cellSpot(*table, row, column));
+  move(*table->viewport(), *at);
   settle();
 }
 
 void WidgetHands::checkRow(platform::Grid& grid, int row, bool on) {
-  auto* list = qobject_cast<CheckList*>(touchable(grid));
-  if (list == nullptr || row < 1 || row > grid.rowCount() || grid.checked(row) == on) {
-    direct_.checkRow(grid, row, on);
+  auto* list = reach<CheckList>(grid);
+  // A click would take a tick away that is there already.
+  if (list == nullptr || grid.checked(row) == on || !reachCell(*list, row, 1)) {
+    logic_.checkRow(grid, row, on);
   } else {
-    (void)cellSpot(*list, row, 1);
     click(*list->viewport(), list->boxRect(row).center());
   }
   settle();
 }
 
 void WidgetHands::key(platform::Control& target, const std::string& key) {
-  QWidget* widget = touchable(target);
+  auto* widget = reach<QWidget>(target);
   if (widget == nullptr) {
-    direct_.key(target, key);
+    logic_.key(target, key);
     return;
   }
   stroke(*widget, keyCode(key));
@@ -234,8 +316,9 @@ void WidgetHands::key(platform::Control& target, const std::string& key) {
 }
 
 void WidgetHands::leave(platform::ComboBox& box) {
-  auto* widget = qobject_cast<QComboBox*>(touchable(box));
-  if (widget == nullptr || !widget->hasFocus()) return;
+  // A box that has been hidden meanwhile has left the keyboard by itself.
+  auto* widget = qobject_cast<QComboBox*>(find(box));
+  if (widget == nullptr || !widget->isVisible() || !widget->hasFocus()) return;
   widget->clearFocus();
   settle();
 }

@@ -1,11 +1,19 @@
 // The rider's hands on the real widgets: mouse and keyboard events, as the window system would send them.
+// Where the form shows a control and the window does not let a rider touch it, the command is an error.
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 #include "console/direct_hands.h"
 #include "console/rider_hands.h"
 #include "desktop/windows.h"
+
+class QAction;
+
+namespace widgets {
+class GridTable;
+}
 
 namespace stage {
 
@@ -28,11 +36,23 @@ class WidgetHands final : public console::RiderHands {
   void leave(platform::ComboBox& box) override;
 
  private:
-  // The widget that shows a control; null where none does, or where the window has no place for it just now.
-  [[nodiscard]] QWidget* touchable(const platform::Component& component) const;
+  // The widget of a control on its page, brought up to date; null where none has its name.
+  [[nodiscard]] QWidget* find(const platform::Component& component) const;
+  // Whether a rider can touch the widget there. False where another part of the page covers it by design;
+  // else throws CommandError.
+  [[nodiscard]] bool canTouch(const platform::Component& component, const QWidget& widget,
+                              const QPoint& at) const;
+  // The widget that a rider would touch; null where the logic is worked instead, for what no widget is meant
+  // to show and what is covered by design.
+  template <class Widget>
+  [[nodiscard]] Widget* reach(const platform::Component& component) const;
+  // The same for a cell, brought into sight: its place in the viewport.
+  [[nodiscard]] std::optional<QPoint> reachCell(widgets::GridTable& table, int row, int column) const;
+  // A menu's entry.
+  [[nodiscard]] QAction& entry(const platform::Component& item) const;
 
   desktop::Windows* windows_ = nullptr;
-  console::DirectHands direct_;  // for what has no widget to touch
+  console::DirectHands logic_;
 };
 
 }  // namespace stage

@@ -33,7 +33,7 @@ constexpr std::array<Face, 14> faces{{
     {"widgets::ZoneBand", QAccessible::Graphic},
 }};
 
-// Named by what it is, if that is told, and by the text that it shows.
+// Its name is its accessible name, if it has one, and the text that it shows.
 class Drawn final : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
@@ -48,7 +48,7 @@ class Drawn final : public QAccessibleWidget {
   }
 };
 
-// Qt names a drop-down list by what is chosen in it; what it asks for is its name here.
+// Qt's own name for a drop-down list is the line chosen in it; here it is the list's accessible name.
 class DropDown final : public QAccessibleWidget {
  public:
   explicit DropDown(QComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox), box_(box) {}
@@ -87,7 +87,7 @@ void installAccessibleFaces() {
   QAccessible::installFactory(makeFace);
 }
 
-void tellNewText(QWidget& drawn) {
+void announceNewText(QWidget& drawn) {
   QAccessibleEvent event(&drawn, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
 }

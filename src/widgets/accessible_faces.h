@@ -8,7 +8,7 @@ namespace widgets {
 
 // For the whole application; asking again changes nothing.
 void installAccessibleFaces();
-// What is drawn there is another text now.
-void tellNewText(QWidget& drawn);
+// To be called when the text that a widget draws has changed.
+void announceNewText(QWidget& drawn);
 
 }  // namespace widgets

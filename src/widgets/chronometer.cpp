@@ -27,7 +27,7 @@ ChronoDigits::ChronoDigits(QWidget* parent) : QWidget(parent) {
 void ChronoDigits::setText(const QString& text) {
   if (text_ == text) return;
   text_ = text;
-  tellNewText(*this);
+  announceNewText(*this);
   update();
 }
 
@@ -70,7 +70,7 @@ CountdownRing::CountdownRing(QWidget* parent) : QWidget(parent) {
 void CountdownRing::setText(const QString& text) {
   if (text_ == text) return;
   text_ = text;
-  tellNewText(*this);
+  announceNewText(*this);
   update();
 }
 

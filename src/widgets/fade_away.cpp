@@ -22,7 +22,7 @@ bool FadeAway::eventFilter(QObject* watched, QEvent* event) {
   if (!leaves || !panel_.parentWidget()->isVisible() || !QApplication::isEffectEnabled(Qt::UI_General)) {
     return false;
   }
-  // The panel itself is gone at once: what fades is its picture, which no pointer meets.
+  // The panel itself is hidden at once: what fades is a picture of it, which lets the mouse through.
   auto* ghost = new QLabel(panel_.parentWidget());
   ghost->setAttribute(Qt::WA_TransparentForMouseEvents);
   ghost->setPixmap(panel_.grab());

@@ -26,7 +26,7 @@ FitLabel::FitLabel(QWidget* parent) : QWidget(parent) {
 void FitLabel::setText(const QString& text) {
   if (text_ == text) return;
   text_ = text;
-  tellNewText(*this);
+  announceNewText(*this);
   updateGeometry();
   update();
 }

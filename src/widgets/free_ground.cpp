@@ -23,7 +23,7 @@ bool FreeGround::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::MouseMove && event->type() != QEvent::MouseButtonPress) return false;
   const auto* mouse = static_cast<QMouseEvent*>(event);
   const bool moves = event->type() == QEvent::MouseMove;
-  // A move that is left over by what lies on the ground is none over the panel.
+  // Qt passes a move on from a child that ignored it: the pointer is over that child, not over the ground.
   if (static_cast<QWidget*>(watched)->childAt(mouse->position().toPoint()) != nullptr) {
     return moves && watched == &panel_;
   }

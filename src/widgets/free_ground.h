@@ -23,7 +23,7 @@ class FreeGround final : public QObject {
 
  private:
   QWidget& panel_;
-  QPointF pointer_;  // a pointer at rest, under which something appears, moves over nothing
+  QPointF pointer_;  // at the last move: a widget that appears under a resting pointer gets one, too
 };
 
 }  // namespace widgets

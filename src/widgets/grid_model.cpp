@@ -15,7 +15,7 @@ GridModel::GridModel(platform::Grid& grid, QObject* parent)
   pending_.setSingleShot(true);
   pending_.setInterval(0);
   connect(&pending_, &QTimer::timeout, this, &GridModel::flush);
-  grid.watchGrid([this](const platform::GridChange& change) { note(change); });
+  grid.watchGrid([this](const platform::GridChange& change) { recordChange(change); });
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {
@@ -41,7 +41,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int wan
   return {};
 }
 
-void GridModel::note(const platform::GridChange& change) {
+void GridModel::recordChange(const platform::GridChange& change) {
   using What = platform::GridChange::What;
   switch (change.what) {
     case What::Columns:

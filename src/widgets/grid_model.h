@@ -32,7 +32,7 @@ class GridModel final : public QAbstractTableModel {
   void focusAsked();
 
  private:
-  void note(const platform::GridChange& change);
+  void recordChange(const platform::GridChange& change);
 
   platform::Grid& grid_;
   QTimer pending_;

@@ -19,7 +19,7 @@
 namespace widgets {
 namespace {
 
-// The widths in twips are those of another face: what each column needs of this one, against its twips.
+// The form's column widths were made for another font: how much of its width each column needs in ours.
 constexpr std::array<double, 14> share{0, 1, 1.05, 0.94, 1.5, 1, 1.1, 1.05, 0.9, 0.85, 0.72, 1, 0.9, 1.05};
 
 class CellPainter final : public QStyledItemDelegate {
@@ -116,7 +116,7 @@ void GridTable::showGrid(platform::Grid& grid, Runner run) {
   model_ = new GridModel(grid, this);
   setModel(model_);
   connect(model_, &GridModel::columnsChanged, this, &GridTable::layColumns);
-  connect(model_, &GridModel::contentChanged, this, &GridTable::tellVisibleRows);
+  connect(model_, &GridModel::contentChanged, this, &GridTable::reportVisibleRows);
   connect(model_, &GridModel::focusAsked, this, [this] { setFocus(); });
   connect(model_, &GridModel::revealAsked, this, [this](int row) { showRow(row); });
   connect(model_, &GridModel::selectionMoved, this, [this](int row) {
@@ -156,7 +156,7 @@ void GridTable::layColumns() {
     setColumnWidth(c - 1, static_cast<int>(edge) - drawn);
     drawn = static_cast<int>(edge);
   }
-  tellVisibleRows();
+  reportVisibleRows();
   emit layoutMoved();
 }
 
@@ -283,7 +283,7 @@ void GridTable::refreshRow(int row) {
   viewport()->update(0, rowViewportPosition(row - 1), viewport()->width(), rowHeight(row - 1));
 }
 
-void GridTable::tellVisibleRows() {
+void GridTable::reportVisibleRows() {
   if (grid_ == nullptr) return;
   const int first = rowAt(0);
   const int last = rowAt(viewport()->height() - rowHeight(0) / 2);
@@ -297,7 +297,7 @@ void GridTable::resizeEvent(QResizeEvent* event) {
 
 void GridTable::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
-  tellVisibleRows();
+  reportVisibleRows();
   emit layoutMoved();
 }
 

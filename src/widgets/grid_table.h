@@ -64,7 +64,7 @@ class GridTable : public QTableView {
   void press(int row, int column, platform::MouseButton button);
   void point(const QPoint& at);
   void layColumns();
-  void tellVisibleRows();
+  void reportVisibleRows();
   void refreshRow(int row);
   void showRow(int row);
 

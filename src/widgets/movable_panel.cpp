@@ -18,7 +18,7 @@ constexpr double floatingWidth = 440;
 }  // namespace
 
 MovablePanel::MovablePanel(QFrame& panel, QBoxLayout& home, QWidget& page)
-    : QObject(&panel), panel_(panel), home_(home), page_(page), look_(panel.property("look").toString()) {
+    : QObject(&panel), panel_(panel), home_(home), page_(page), homeLook_(panel.property("look").toString()) {
   panel.installEventFilter(this);
   panel.setCursor(Qt::OpenHandCursor);
   for (QWidget* inside : panel.findChildren<QWidget*>()) inside->installEventFilter(this);
@@ -82,7 +82,7 @@ void MovablePanel::putBack() {
   panel_.layout()->setContentsMargins({});
   panel_.setMinimumSize(0, 0);
   panel_.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  setLook(panel_, look_);
+  setLook(panel_, homeLook_);
   panel_.show();
 }
 

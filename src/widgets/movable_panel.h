@@ -34,7 +34,7 @@ class MovablePanel final : public QObject {
   QBoxLayout& home_;
   QWidget& page_;
   QWidget* stand_ = nullptr;  // keeps the row's place while the panel is away
-  QString look_;              // of the panel in its row
+  QString homeLook_;          // of the panel in its row
   QPoint grip_;               // where in the panel the pointer holds it
   bool held_ = false;
 };

@@ -14,12 +14,12 @@ namespace widgets {
 
 namespace {
 
-constexpr double kPointsPerTwip = 1.0 / 20;
-constexpr double kLineOfText = 360;                     // twips, the footer with the space above it
-constexpr std::array<double, 4> kSizes{9, 8, 7, 6.25};  // points, the first that fits is taken
-const QColor kInk(0, 0, 0);
-const QColor kHair(0x9a, 0xa5, 0xb0);
-const QColor kRule(0x20, 0x28, 0x30);
+constexpr double pointsPerTwip = 1.0 / 20;
+constexpr double footerHeight = 360;                       // twips, the footer with the space above it
+constexpr std::array<double, 4> fontSizes{9, 8, 7, 6.25};  // points, the first that fits is taken
+const QColor ink(0, 0, 0);
+const QColor cellLine(0x9a, 0xa5, 0xb0);
+const QColor headLine(0x20, 0x28, 0x30);
 
 // Lengths on the device: `unit` is one twip, fonts are set in points.
 struct Paper {
@@ -29,7 +29,7 @@ struct Paper {
   explicit Paper(QPainter& target) : painter(target), unit(target.device()->logicalDpiX() / 1440.0) {}
   QFont font(double points, bool bold) const {
     QFont chosen(sansFamily());
-    chosen.setPixelSize(std::max(1, static_cast<int>(std::lround(points / kPointsPerTwip * unit))));
+    chosen.setPixelSize(std::max(1, static_cast<int>(std::lround(points / pointsPerTwip * unit))));
     chosen.setBold(bold);
     chosen.setStyleStrategy(QFont::PreferNoShaping);  // "=>" stays what it is, and can be searched for
     return chosen;
@@ -47,7 +47,7 @@ void paintText(const Paper& paper, const QRectF& cell, const QString& cellText, 
   const QRectF inside = cell.adjusted(40 * paper.unit, 10 * paper.unit, -40 * paper.unit, -25 * paper.unit);
   QFont font;
   bool fits = false;
-  for (const double points : kSizes) {
+  for (const double points : fontSizes) {
     font = paper.font(points, bold);
     const QFontMetricsF metrics(font, paper.painter.device());
     const QRectF needed = metrics.boundingRect(inside, wrapFlags(place), text);
@@ -57,7 +57,7 @@ void paintText(const Paper& paper, const QRectF& cell, const QString& cellText, 
   if (!fits)
     text = QFontMetricsF(font, paper.painter.device()).elidedText(text, Qt::ElideRight, inside.width());
   paper.painter.setFont(font);
-  paper.painter.setPen(kInk);
+  paper.painter.setPen(ink);
   paper.painter.drawText(inside, fits ? wrapFlags(place) : static_cast<int>(place), text);
 }
 
@@ -95,7 +95,7 @@ double paintGrid(QPainter& painter, const QRectF& area, const platform::PageGrid
   for (const auto& row : grid.rows) twipsHigh += row.height;
   if (twipsWide <= 0 || twipsHigh <= 0) return area.top();
   const double acrossScale = area.width() / twipsWide;
-  const double downScale = std::min(acrossScale, (area.height() - kLineOfText * paper.unit) / twipsHigh);
+  const double downScale = std::min(acrossScale, (area.height() - footerHeight * paper.unit) / twipsHigh);
 
   painter.save();
   painter.fillRect(area, Qt::white);
@@ -106,7 +106,7 @@ double paintGrid(QPainter& painter, const QRectF& area, const platform::PageGrid
     for (std::size_t c = 0; c < grid.columns.size(); ++c) {
       const QRectF cell(left, top, grid.columns[c].width * acrossScale, high);
       paintCell(c, cell);
-      painter.setPen(QPen(kHair, 10 * paper.unit));
+      painter.setPen(QPen(cellLine, 10 * paper.unit));
       painter.drawRect(cell);
       left += cell.width();
     }
@@ -125,7 +125,7 @@ double paintGrid(QPainter& painter, const QRectF& area, const platform::PageGrid
                 Qt::AlignCenter, false);
     });
   }
-  painter.setPen(QPen(kRule, 25 * paper.unit));
+  painter.setPen(QPen(headLine, 25 * paper.unit));
   painter.drawLine(QPointF(area.left(), underHead), QPointF(area.right(), underHead));
   painter.restore();
   return top;
@@ -134,8 +134,8 @@ double paintGrid(QPainter& painter, const QRectF& area, const platform::PageGrid
 double paintLine(QPainter& painter, const QRectF& area, double top, const QString& line) {
   const Paper paper(painter);
   const QRectF place(area.left(), top, area.width(), std::max(0.0, area.bottom() - top));
-  painter.setFont(paper.font(kSizes.front(), false));
-  painter.setPen(kInk);
+  painter.setFont(paper.font(fontSizes.front(), false));
+  painter.setPen(ink);
   const QRectF below = place.adjusted(0, 100 * paper.unit, 0, 0);
   QRectF drawn;
   painter.drawText(below, static_cast<int>(Qt::AlignLeft | Qt::AlignTop), line, &drawn);

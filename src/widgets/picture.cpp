@@ -11,8 +11,19 @@
 namespace widgets {
 namespace {
 
+QString fileOf(const QString& name) {
+  return QStringLiteral(":/ventoria/icons/") + name + QStringLiteral(".svg");
+}
+
+// As large as the place allows, in its middle.
+QRectF fitted(const QSvgRenderer& drawing, const QRectF& place) {
+  QRectF target(QPointF(0, 0), QSizeF(drawing.defaultSize()).scaled(place.size(), Qt::KeepAspectRatio));
+  target.moveCenter(place.center());
+  return target;
+}
+
 void paint(QPainter& painter, const QString& name, const QRectF& place, const QPalette& palette) {
-  QFile file(QStringLiteral(":/ventoria/icons/") + name + QStringLiteral(".svg"));
+  QFile file(fileOf(name));
   if (!file.open(QIODevice::ReadOnly)) return;
   QByteArray svg = file.readAll();
   using enum model::EffortFamily;
@@ -34,12 +45,8 @@ void paint(QPainter& painter, const QString& name, const QRectF& place, const QP
   };
   for (const auto& [token, colour] : tokens) svg.replace(token, colour.name().toLatin1());
   QSvgRenderer renderer(svg);
-  QSizeF size = renderer.defaultSize();
-  size.scale(place.size(), Qt::KeepAspectRatio);
-  QRectF target(QPointF(0, 0), size);
-  target.moveCenter(place.center());
   painter.setRenderHint(QPainter::Antialiasing);
-  renderer.render(&painter, target);
+  renderer.render(&painter, fitted(renderer, place));
 }
 
 }  // namespace
@@ -60,6 +67,11 @@ void Picture::setPicture(const QString& name) {
   update();
 }
 
+QRectF Picture::pictureRect() const {
+  const QSvgRenderer drawing(fileOf(picture_));
+  return drawing.isValid() ? fitted(drawing, QRectF(rect())) : QRectF();
+}
+
 QSize Picture::sizeHint() const {
   return {dp(this, 22), dp(this, 22)};
 }
@@ -78,14 +90,18 @@ void PictureButton::setPicture(const QString& name) {
   update();
 }
 
+QRectF PictureButton::pictureRect() const {
+  const double side = std::min({width(), height(), dp(this, 24)});
+  QRectF place(0, 0, side, side);
+  place.moveCenter(QRectF(rect()).center());
+  return place;
+}
+
 void PictureButton::paintEvent(QPaintEvent* event) {
   QToolButton::paintEvent(event);
   QPainter painter(this);
   painter.setOpacity(isEnabled() ? 1.0 : 0.4);
-  const double side = std::min({width(), height(), dp(this, 24)});
-  QRectF place(0, 0, side, side);
-  place.moveCenter(QRectF(rect()).center());
-  paint(painter, picture_, place, QGuiApplication::palette());
+  paint(painter, picture_, pictureRect(), QGuiApplication::palette());
 }
 
 }  // namespace widgets

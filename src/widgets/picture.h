@@ -20,6 +20,8 @@ class Picture final : public QWidget {
   explicit Picture(QWidget* parent = nullptr);
   [[nodiscard]] QString picture() const { return picture_; }
   void setPicture(const QString& name);
+  // Where in the widget it is drawn.
+  [[nodiscard]] QRectF pictureRect() const;
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
@@ -38,6 +40,7 @@ class PictureButton final : public QToolButton {
   explicit PictureButton(QWidget* parent = nullptr);
   [[nodiscard]] QString picture() const { return picture_; }
   void setPicture(const QString& name);
+  [[nodiscard]] QRectF pictureRect() const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

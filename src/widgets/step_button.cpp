@@ -11,8 +11,8 @@
 namespace widgets {
 namespace {
 
-// The place that a text takes within a width: as narrow as its lines can be made without making more of them,
-// so that no word is left alone in the last one.
+// The size of a wrapped text, made as narrow as it goes without another line, so that no word is left alone
+// in the last one.
 QSize balanced(const QFontMetrics& metrics, const QString& text, int width) {
   const auto laid = [&](int within) {
     return metrics.boundingRect(QRect(0, 0, within, 10000), Qt::AlignLeft | Qt::TextWordWrap, text);

@@ -31,44 +31,44 @@ namespace {
 using support::Recording;
 using support::Samples;
 
-constexpr int kRate = WavDecoder::kRate;
-constexpr double kLevel = 0.1;  // of the music
+constexpr int sampleRate = WavDecoder::sampleRate;
+constexpr double musicLevel = 0.1;  // of the music
 
 // Music whose pitch tells the place in it, above all that the voice has.
 struct Sweep {
   double first;  // Hz
   double seconds;
 };
-constexpr double kRise = 150;  // Hz a second
-constexpr Sweep kPiece{8000, 40};
-constexpr Sweep kShortPiece{8000, 8};
-constexpr Sweep kNextPiece{14500, 20};
+constexpr double rise = 150;  // Hz a second
+constexpr Sweep longPiece{8000, 40};
+constexpr Sweep shortPiece{8000, 8};
+constexpr Sweep nextPiece{14500, 20};
 
 // Mono, 16 bits.
 template <class Pitch>
 std::vector<char> wavOf(double seconds, double level, Pitch pitch) {
   std::vector<unsigned char> bytes;
   double phase = 0;
-  for (int i = 0; i < int(seconds * kRate); ++i) {
-    phase += 2 * std::numbers::pi * pitch(double(i) / kRate) / kRate;
+  for (int i = 0; i < int(seconds * sampleRate); ++i) {
+    phase += 2 * std::numbers::pi * pitch(double(i) / sampleRate) / sampleRate;
     const auto value = static_cast<unsigned>(std::lround(32767 * level * std::sin(phase)));
     bytes.push_back(static_cast<unsigned char>(value & 0xFF));
     bytes.push_back(static_cast<unsigned char>(value >> 8 & 0xFF));
   }
-  return platform::wavFile({kRate, 16, 1}, bytes);
+  return platform::wavFile({sampleRate, 16, 1}, bytes);
 }
 
 std::vector<char> music(const Sweep& sweep) {
-  return wavOf(sweep.seconds, kLevel, [&](double at) { return sweep.first + kRise * at; });
+  return wavOf(sweep.seconds, musicLevel, [&](double at) { return sweep.first + rise * at; });
 }
 
-constexpr std::array<double, 4> kMelody{700, 1300, 2100, 1000};  // Hz, each for twelve frames
-constexpr std::size_t kToneFrames = 12;
-constexpr double kFrame = 0.02;  // seconds
+constexpr std::array<double, 4> tones{700, 1300, 2100, 1000};  // Hz, each for twelve frames
+constexpr std::size_t toneFrames = 12;
+constexpr double frameLength = 0.02;  // seconds
 
 std::vector<char> melody() {
-  return wavOf(kMelody.size() * kToneFrames * kFrame, 0.5, [](double at) {
-    return kMelody.at(std::min(std::size_t(at / (kToneFrames * kFrame)), kMelody.size() - 1));
+  return wavOf(tones.size() * toneFrames * frameLength, 0.5, [](double at) {
+    return tones.at(std::min(std::size_t(at / (toneFrames * frameLength)), tones.size() - 1));
   });
 }
 
@@ -80,10 +80,10 @@ struct Frame {
   double tone = 0;   // the music's pitch
 
   [[nodiscard]] bool speaks() const { return voice > 0.01; }
-  [[nodiscard]] bool hasMusic() const { return level > kLevel / 2; }
+  [[nodiscard]] bool hasMusic() const { return level > musicLevel / 2; }
 };
 
-constexpr std::size_t kWindow = 1024;
+constexpr std::size_t windowSize = 1024;
 using Spectrum = std::vector<std::complex<double>>;
 
 Spectrum transform(const Spectrum& in) {
@@ -105,7 +105,7 @@ Spectrum transform(const Spectrum& in) {
 
 // The loudest bin between two, and its pitch between the bins.
 std::pair<std::size_t, double> loudest(const Spectrum& spectrum, double from, double to) {
-  const auto bin = [](double hertz) { return std::ptrdiff_t(hertz * kWindow / kRate); };
+  const auto bin = [](double hertz) { return std::ptrdiff_t(hertz * windowSize / sampleRate); };
   const auto peak =
       std::max_element(spectrum.begin() + bin(from), spectrum.begin() + bin(to),
                        [](const auto& a, const auto& b) { return std::norm(a) < std::norm(b); });
@@ -115,26 +115,26 @@ std::pair<std::size_t, double> loudest(const Spectrum& spectrum, double from, do
   const double bend = below - 2 * here + above;
   const double shift = bend == 0 ? 0 : (below - above) / (2 * bend);
   return {std::size_t(peak - spectrum.begin()),
-          (double(peak - spectrum.begin()) + shift) * kRate / double(kWindow)};
+          (double(peak - spectrum.begin()) + shift) * sampleRate / double(windowSize)};
 }
 
 std::vector<Frame> framesOf(const Samples& samples) {
   std::vector<Frame> frames;
-  const auto hop = std::size_t(kFrame * kRate);
-  for (std::size_t from = 0; 2 * (from + kWindow) <= samples.size(); from += hop) {
-    Spectrum window(kWindow);
-    for (std::size_t i = 0; i < kWindow; ++i) {
-      const double bell = 1 - std::cos(2 * std::numbers::pi * double(i) / kWindow);  // of mean 1
+  const auto hop = std::size_t(frameLength * sampleRate);
+  for (std::size_t from = 0; 2 * (from + windowSize) <= samples.size(); from += hop) {
+    Spectrum window(windowSize);
+    for (std::size_t i = 0; i < windowSize; ++i) {
+      const double bell = 1 - std::cos(2 * std::numbers::pi * double(i) / windowSize);  // of mean 1
       window[i] = bell * samples[2 * (from + i)] / 32768.0;
     }
     const Spectrum spectrum = transform(window);
     Frame frame;
     for (std::size_t i = 3; i < 110; ++i)
-      frame.voice += 2 * std::norm(spectrum[i]) / (1.5 * kWindow * kWindow);
+      frame.voice += 2 * std::norm(spectrum[i]) / (1.5 * windowSize * windowSize);
     frame.voice = std::sqrt(frame.voice);
     frame.pitch = loudest(spectrum, 200, 5000).second;
     const auto [peak, tone] = loudest(spectrum, 7500, 19000);
-    frame.level = 2 * std::abs(spectrum[peak]) / kWindow;
+    frame.level = 2 * std::abs(spectrum[peak]) / windowSize;
     frame.tone = tone;
     frames.push_back(frame);
   }
@@ -148,33 +148,33 @@ struct Stretch {
 };
 
 // A lost moment of the sound server is no hold: those last half a second at least.
-constexpr std::size_t kLeastHold = 15;
+constexpr std::size_t leastHold = 15;
 
 std::vector<Stretch> stretchesOf(const std::vector<Frame>& frames, const Sweep& piece) {
   const auto belongs = [&](const Frame& frame) {
     return frame.hasMusic() && frame.tone > piece.first - 50 &&
-           frame.tone < piece.first + kRise * piece.seconds + 50;
+           frame.tone < piece.first + rise * piece.seconds + 50;
   };
   std::vector<Stretch> stretches;
   for (std::size_t i = 0; i < frames.size(); ++i) {
     if (!belongs(frames[i])) continue;
-    if (stretches.empty() || i - stretches.back().end >= kLeastHold) stretches.push_back({i, i});
+    if (stretches.empty() || i - stretches.back().end >= leastHold) stretches.push_back({i, i});
     stretches.back().end = i + 1;
   }
   return stretches;
 }
 
 double placeIn(const Sweep& piece, const Frame& frame) {
-  return (frame.tone - piece.first) / kRise;
+  return (frame.tone - piece.first) / rise;
 }
 
 bool holdsMelody(const std::vector<Frame>& frames) {
-  for (std::size_t at = 0; at + kMelody.size() * kToneFrames < frames.size(); ++at) {
+  for (std::size_t at = 0; at + tones.size() * toneFrames < frames.size(); ++at) {
     bool same = true;
-    for (std::size_t i = 0; same && i < kMelody.size() * kToneFrames; ++i) {
-      const std::size_t within = i % kToneFrames;
+    for (std::size_t i = 0; same && i < tones.size() * toneFrames; ++i) {
+      const std::size_t within = i % toneFrames;
       if (within < 3 || within > 8) continue;
-      same = frames[at + i].speaks() && std::abs(frames[at + i].pitch - kMelody.at(i / kToneFrames)) < 30;
+      same = frames[at + i].speaks() && std::abs(frames[at + i].pitch - tones.at(i / toneFrames)) < 30;
     }
     if (same) return true;
   }
@@ -285,7 +285,7 @@ void chooseFile(const QString& name) {
 }
 
 TEST_F(Ambience, TheMusicYieldsToTheVoiceAndToAnAnnouncementJustRecorded) {
-  put("ambiances/x.mp3", music(kPiece));
+  put("ambiances/x.mp3", music(longPiece));
   put("melody.wav", melody());
   const std::string announcement = "allez \"vite\" & fort.wav";
   start("011100011101");
@@ -310,39 +310,39 @@ TEST_F(Ambience, TheMusicYieldsToTheVoiceAndToAnAnnouncementJustRecorded) {
   EXPECT_TRUE(holdsMelody(frames));
   const auto spokenOver = [](const Frame& frame) { return frame.speaks() && frame.hasMusic(); };
   EXPECT_EQ(std::count_if(frames.begin(), frames.end(), spokenOver), 0);
-  const std::vector<Stretch> stretches = stretchesOf(frames, kPiece);
+  const std::vector<Stretch> stretches = stretchesOf(frames, longPiece);
   EXPECT_GE(stretches.size(), 6U);
   double held = 0;
   for (const Stretch& stretch : stretches) {
-    const double resumed = placeIn(kPiece, frames[stretch.begin]);
+    const double resumed = placeIn(longPiece, frames[stretch.begin]);
     if (&stretch != &stretches.front()) {
       EXPECT_NEAR(resumed, held, 0.1);
     }
-    held = placeIn(kPiece, frames[stretch.end - 1]);
-    EXPECT_NEAR(held - resumed, double(stretch.end - 1 - stretch.begin) * kFrame, 0.1);
+    held = placeIn(longPiece, frames[stretch.end - 1]);
+    EXPECT_NEAR(held - resumed, double(stretch.end - 1 - stretch.begin) * frameLength, 0.1);
   }
 }
 
 TEST_F(Ambience, TheMusicGoesOnUnderTheVoiceAndFromPieceToPiece) {
-  put("ambiances/1.mp3", music(kShortPiece));
-  put("ambiances/2.mp3", music(kNextPiece));
+  put("ambiances/1.mp3", music(shortPiece));
+  put("ambiances/2.mp3", music(nextPiece));
   start("011100011011");
   tickAllMusic();
   const std::vector<Frame> frames = ride(header(2) + row("Sprint", "00:00:06"));
 
-  const std::vector<Stretch> first = stretchesOf(frames, kShortPiece);
+  const std::vector<Stretch> first = stretchesOf(frames, shortPiece);
   ASSERT_EQ(first.size(), 1U);
   const auto begin = frames.begin() + std::ptrdiff_t(first[0].begin);
   const auto end = frames.begin() + std::ptrdiff_t(first[0].end);
-  EXPECT_NEAR(double(end - begin) * kFrame, kShortPiece.seconds, 0.1);
-  EXPECT_LT(placeIn(kShortPiece, *begin), 0.1);
-  EXPECT_GT(placeIn(kShortPiece, *(end - 1)), kShortPiece.seconds - 0.1);
+  EXPECT_NEAR(double(end - begin) * frameLength, shortPiece.seconds, 0.1);
+  EXPECT_LT(placeIn(shortPiece, *begin), 0.1);
+  EXPECT_GT(placeIn(shortPiece, *(end - 1)), shortPiece.seconds - 0.1);
   EXPECT_GT(std::count_if(begin, end, [](const Frame& frame) { return frame.speaks(); }), 50);
 
-  const std::vector<Stretch> second = stretchesOf(frames, kNextPiece);
+  const std::vector<Stretch> second = stretchesOf(frames, nextPiece);
   ASSERT_FALSE(second.empty());
   EXPECT_GT(second[0].begin, first[0].end);
-  EXPECT_LT(placeIn(kNextPiece, frames[second[0].begin]), 0.1);
+  EXPECT_LT(placeIn(nextPiece, frames[second[0].begin]), 0.1);
 }
 
 TEST_F(Ambience, AnImportIsGivenUpByItsButton) {

@@ -5,8 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "desktop/desktop_wishes.h"
 #include "desktop/private_bus.h"
-#include "desktop/system_look.h"
 #include "desktop/windows.h"
 #include "support/simulated_program.h"
 
@@ -20,45 +20,45 @@ using Settings = QMap<QString, QVariantMap>;
 
 constexpr auto portalPath = "/org/freedesktop/portal/desktop";
 
-TEST(SystemLook, IsReadAtTheStartAndFollowed) {
+TEST(DesktopWishes, IsReadAtTheStartAndFollowed) {
   qDBusRegisterMetaType<Settings>();
   const Settings settings{{"org.freedesktop.appearance", {{"color-scheme", 2U}}},
                           {"org.gnome.desktop.interface", {{"enable-animations", false}}}};
   PrivateBus own([&](const QDBusMessage&) { return QVariantList{QVariant::fromValue(settings)}; });
   const QDBusConnection portal = own.startService("org.freedesktop.portal.Desktop", portalPath);
 
-  const SystemLook look(own.rider());
-  EXPECT_EQ(look.colours(), ThemeMode::Light);
-  EXPECT_FALSE(look.animations());
+  const DesktopWishes wishes(own.rider());
+  EXPECT_EQ(wishes.colours(), ThemeMode::Light);
+  EXPECT_FALSE(wishes.animations());
 
-  QSignalSpy changed(&look, &SystemLook::changed);
+  QSignalSpy changed(&wishes, &DesktopWishes::changed);
   QDBusMessage signal =
       QDBusMessage::createSignal(portalPath, "org.freedesktop.portal.Settings", "SettingChanged");
   signal << "org.freedesktop.appearance"
          << "color-scheme" << QVariant::fromValue(QDBusVariant(1U));
   portal.send(signal);
   EXPECT_TRUE(changed.wait(5000));
-  EXPECT_EQ(look.colours(), ThemeMode::Dark);
+  EXPECT_EQ(wishes.colours(), ThemeMode::Dark);
 }
 
-TEST(SystemLook, AsksNothingWithoutAPortal) {
-  const SystemLook look(QDBusConnection("nowhere"));
-  EXPECT_EQ(look.colours(), std::nullopt);
-  EXPECT_TRUE(look.animations());
+TEST(DesktopWishes, AsksNothingWithoutAPortal) {
+  const DesktopWishes wishes(QDBusConnection("nowhere"));
+  EXPECT_EQ(wishes.colours(), std::nullopt);
+  EXPECT_TRUE(wishes.animations());
 }
 
 TEST(Appearance, TheRidersChoiceGoesBeforeTheDesktops) {
   using Choice = Appearance::Choice;
-  Appearance look(ThemeMode::Dark);
-  QSignalSpy changed(&look, &Appearance::changed);
-  look.setSystem(ThemeMode::Light);
-  EXPECT_EQ(look.mode(), ThemeMode::Light);
-  look.choose(Choice::Light);
-  look.setSystem(ThemeMode::Dark);
-  EXPECT_EQ(look.mode(), ThemeMode::Light);
+  Appearance appearance(ThemeMode::Dark);
+  QSignalSpy changed(&appearance, &Appearance::changed);
+  appearance.setSystem(ThemeMode::Light);
+  EXPECT_EQ(appearance.mode(), ThemeMode::Light);
+  appearance.choose(Choice::Light);
+  appearance.setSystem(ThemeMode::Dark);
+  EXPECT_EQ(appearance.mode(), ThemeMode::Light);
   EXPECT_EQ(changed.size(), 1);
-  look.choose(Choice::System);
-  EXPECT_EQ(look.mode(), ThemeMode::Dark);
+  appearance.choose(Choice::System);
+  EXPECT_EQ(appearance.mode(), ThemeMode::Dark);
   EXPECT_EQ(changed.size(), 2);
   for (const Choice choice : {Choice::System, Choice::Light, Choice::Dark}) {
     EXPECT_EQ(Appearance::fromWord(Appearance::word(choice)), choice);

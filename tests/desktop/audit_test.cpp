@@ -12,6 +12,7 @@
 #include "platform/controls.h"
 #include "widgets/accessible_faces.h"
 #include "widgets/chronometer.h"
+#include "widgets/picture.h"
 #include "widgets/theme.h"
 
 namespace {
@@ -103,6 +104,26 @@ TEST_F(AuditTest, AControlThatLiesOverAnotherIsNamedButNotAPageThatCoversIt) {
   EXPECT_THAT(faults(), ElementsAre(QStringLiteral("Page.b1 lies under b2")));
   over.setGeometry(0, 0, 400, 200);
   EXPECT_THAT(faults(), IsEmpty());
+}
+
+TEST_F(AuditTest, ATextOverAPictureIsNamedUnlessThePictureIsADeclaredBackground) {
+  QLabel label(QStringLiteral("Start"), &window_);
+  label.setObjectName(QStringLiteral("label"));
+  label.setGeometry(20, 20, 200, 60);
+  widgets::Picture picture(&window_);
+  picture.setObjectName(QStringLiteral("picture"));
+  picture.setPicture(QStringLiteral("heart"));
+  picture.setGeometry(80, 40, 24, 24);  // over the last letter alone
+  for (QWidget* widget : {static_cast<QWidget*>(&label), static_cast<QWidget*>(&picture)}) widget->show();
+  const auto named = testing::Contains(QStringLiteral("Page.label has its text over a picture: picture"));
+  EXPECT_THAT(faults(), named);
+  label.raise();  // covers all of the picture, but nothing of it is hidden
+  EXPECT_THAT(faults(), named);
+  picture.setGeometry(130, 40, 24, 24);  // beside the text, in the label's free part
+  EXPECT_THAT(faults(), testing::Not(named));
+  picture.setGeometry(80, 40, 24, 24);
+  picture.setProperty("background", true);
+  EXPECT_THAT(faults(), testing::Not(named));
 }
 
 }  // namespace

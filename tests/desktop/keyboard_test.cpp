@@ -46,6 +46,11 @@ class KeyboardTest : public WindowsTestBase {
     key(Qt::Key_Return);
     EXPECT_EQ(focused(), "ListView1");
   }
+  void openEditor() {
+    tabTo("MyButton5");
+    key(Qt::Key_Return);
+    ASSERT_TRUE(screens_.editor.visible);
+  }
   void composeARow() {
     tabTo("MyButton1");
     key(Qt::Key_Space);
@@ -68,9 +73,7 @@ class KeyboardTest : public WindowsTestBase {
 };
 
 TEST_F(KeyboardTest, ASessionIsComposedSavedAndRidden) {
-  tabTo("MyButton5");
-  key(Qt::Key_Return);
-  ASSERT_TRUE(screens_.editor.visible);
+  openEditor();
   composeARow();
   ASSERT_EQ(program_.list().rowCount(), 2);
   const std::string duration = program_.list().text(2, 10);
@@ -103,8 +106,7 @@ TEST_F(KeyboardTest, ASessionIsComposedSavedAndRidden) {
 }
 
 TEST_F(KeyboardTest, EnterOpensAMenuOnItsFirstEntry) {
-  tabTo("MyButton5");
-  key(Qt::Key_Return);
+  openEditor();
   tabTo("mnMenu");
   key(Qt::Key_Return);
   const auto* menu = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
@@ -138,8 +140,7 @@ TEST_F(KeyboardTest, ThePlayButtonOfAnAnnouncementHandsOnToTheListeningLevel) {
 }
 
 TEST_F(KeyboardTest, DeleteAsksBeforeItTakesALineAway) {
-  tabTo("MyButton5");
-  key(Qt::Key_Space);
+  openEditor();
   composeARow();
   const std::string kind = program_.list().text(2, 4);
   key(Qt::Key_Home);

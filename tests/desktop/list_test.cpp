@@ -1,13 +1,7 @@
 // The list of sequences under the mouse, the wheel and the keys, and what may come in its way.
 #include <QComboBox>
-#include <QDialog>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QTimer>
 #include <QWheelEvent>
-#include <fstream>
 
-#include "desktop/qt_dialogs.h"
 #include "desktop/windows_test_base.h"
 #include "model/grid_rows.h"
 #include "model/training_model.h"
@@ -124,39 +118,6 @@ TEST_F(ListTest, AnAnnouncementIsHeardWhereItsOwnCellIsLeft) {
   settle();
   EXPECT_TRUE(screens_.volume.visible);
   EXPECT_EQ(screens_.player.Text1.text.get(), "/d/annonces/allez.wav");
-}
-
-TEST_F(ListTest, FilesFromOutsideWaitInTheirOrderForADialogToClose) {
-  std::ifstream data(VENTORIA_SOURCE_DIR "/tests/data/Essai.tq2", std::ios::binary);
-  const std::string session{std::istreambuf_iterator<char>(data), {}};
-  for (const char* name : {"/d/un.tq2", "/d/deux.tq2"}) program_.memory.put(name, session);
-  const int before = grid_.rowCount();
-  QDialog dialog(&windows_->window());
-  dialog.setModal(true);
-  dialog.show();
-  for (const char* name : {"/d/un.tq2", "/d/deux.tq2"}) windows_->addSession(name);
-  QTest::qWait(60);
-  EXPECT_EQ(grid_.rowCount(), before);
-  dialog.hide();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return form_.Label8.caption == "Dernière Séance Ajoutée (deux)"; }));
-  EXPECT_GT(grid_.rowCount(), before + 1);
-}
-
-TEST(QtDialogs, SaveUnderANameThatEndsInTheSuffix) {
-  desktop::QtDialogs dialogs([]() -> QWidget* { return nullptr; });
-  for (const auto& [typed, saved] : {std::pair{"Sortie", "/tmp/Sortie.tq2"},
-                                     {"Sortie 12.05", "/tmp/Sortie 12.05.tq2"},
-                                     {"dit \"12.5\"", "/tmp/dit \"12.5\".tq2"},
-                                     {"Sortie.tq2", "/tmp/Sortie.tq2"},
-                                     {"SORTIE.TQ2", "/tmp/SORTIE.TQ2"}}) {
-    QTimer::singleShot(0, [name = typed] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QString::fromUtf8(name));
-      QMetaObject::invokeMethod(dialog, "accept");
-    });
-    EXPECT_EQ(dialogs.chooseFiles({platform::FilePurpose::Save, "Enregistrer", "/tmp", "Séances|*.tq2", "x"}),
-              std::vector<std::string>{saved});
-  }
 }
 
 }  // namespace

@@ -24,7 +24,8 @@ namespace support {
 
 using Samples = std::vector<std::int16_t>;
 
-inline constexpr std::size_t kPerMs = devices::WavDecoder::kRate * devices::WavDecoder::kChannels / 1000;
+inline constexpr std::size_t samplesPerMs =
+    devices::WavDecoder::sampleRate * devices::WavDecoder::channelCount / 1000;
 
 inline pid_t serverPid() {
   pid_t pid = 0;
@@ -48,7 +49,7 @@ class Recording {
     arguments.push_back(nullptr);
     EXPECT_EQ(posix_spawnp(&process_, "parec", &actions, nullptr, arguments.data(), environ), 0);
     posix_spawn_file_actions_destroy(&actions);
-    waitForMore(100 * kPerMs);
+    waitForMore(100 * samplesPerMs);
   }
   ~Recording() {
     kill(process_, SIGTERM);
@@ -59,7 +60,7 @@ class Recording {
 
   // All until now and half a second beyond.
   Samples samples() {
-    waitForMore(500 * kPerMs);
+    waitForMore(500 * samplesPerMs);
     std::ifstream file(path_, std::ios::binary);
     const std::string raw(std::istreambuf_iterator<char>(file), {});
     Samples samples(raw.size() / 2);

@@ -19,9 +19,9 @@ namespace {
 
 using support::comes;
 using support::decodeWav;
-using support::kPerMs;
 using support::Recording;
 using support::Samples;
+using support::samplesPerMs;
 using support::serverPid;
 using Bytes = std::vector<unsigned char>;
 
@@ -105,7 +105,7 @@ TEST_F(PulseSound, PromptsFollowEachOtherWholeAndWithoutAGap) {
     end = begin + static_cast<std::ptrdiff_t>(whole.size());
   }
   RecordProperty("widest_gap_in_samples", static_cast<int>(widest));
-  EXPECT_LT(widest, 40 * static_cast<std::ptrdiff_t>(kPerMs));
+  EXPECT_LT(widest, 40 * static_cast<std::ptrdiff_t>(samplesPerMs));
   EXPECT_TRUE(std::none_of(end, heard.end(), sounding));
   EXPECT_EQ(spoken_, (std::vector<std::string>{"101", "-", "195", "-", "196", "-", "150", "-", "101", "-",
                                                "196", "-"}));
@@ -123,7 +123,7 @@ TEST_F(PulseSound, FilesPlayWholeAndAMissingOneBeeps) {
   heard = recording.samples();
   heard.erase(heard.begin(), heard.begin() + before);
   const auto beep = core(heard);
-  EXPECT_NEAR(double(beep.size()), 200.0 * kPerMs, 5.0 * kPerMs);
+  EXPECT_NEAR(double(beep.size()), 200.0 * samplesPerMs, 5.0 * samplesPerMs);
   EXPECT_GT(*std::max_element(beep.begin(), beep.end()), 5000);
 }
 

@@ -2,12 +2,14 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QTest>
+#include <fstream>
 
 #include "desktop/windows_test_base.h"
 #include "widgets/check_list.h"
@@ -210,6 +212,24 @@ TEST_F(ScreensTest, TheCalculatorsHelpGoesAtItsFreeGroundAndByEscape) {
   mark.setFocus();
   QTest::keyClick(&mark, Qt::Key_Escape);
   EXPECT_TRUE(form.Image11.visible && form.Picture8.visible);
+}
+
+TEST_F(ScreensTest, FilesFromOutsideWaitInTheirOrderForADialogToClose) {
+  std::ifstream data(VENTORIA_SOURCE_DIR "/tests/data/Essai.tq2", std::ios::binary);
+  const std::string session{std::istreambuf_iterator<char>(data), {}};
+  for (const char* name : {"/d/un.tq2", "/d/deux.tq2"}) program_.memory.put(name, session);
+  screens_.main.MyButton5.click();
+  const int before = program_.list().rowCount();
+  QDialog dialog(&windows_->window());
+  dialog.setModal(true);
+  dialog.show();
+  for (const char* name : {"/d/un.tq2", "/d/deux.tq2"}) windows_->addSession(name);
+  QTest::qWait(60);
+  EXPECT_EQ(program_.list().rowCount(), before);
+  dialog.hide();
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return screens_.editor.Label8.caption == "Dernière Séance Ajoutée (deux)"; }));
+  EXPECT_GT(program_.list().rowCount(), before + 1);
 }
 
 TEST(FirstWindow, FitsItsScreenWithItsFrame) {

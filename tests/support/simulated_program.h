@@ -29,8 +29,9 @@ class SimulatedProgram {
  public:
   explicit SimulatedProgram(const std::string& settings = settingsOff,
                             std::chrono::milliseconds timeOfDay = std::chrono::hours(12),
-                            console::SoundMode sound = console::SoundMode::Instant)
-      : options_(at(timeOfDay, sound)), session_(options_, "/d", out_, nullptr, &disk) {
+                            console::SoundMode sound = console::SoundMode::Instant,
+                            console::RiderHands* hands = nullptr)
+      : options_(at(timeOfDay, sound)), session_(options_, "/d", out_, hands, &disk) {
     if (!settings.empty()) memory.put("/d/par.tq3", settings);
   }
 

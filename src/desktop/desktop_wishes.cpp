@@ -1,4 +1,4 @@
-#include "desktop/system_look.h"
+#include "desktop/desktop_wishes.h"
 
 #include <QDBusArgument>
 #include <QDBusMessage>
@@ -21,11 +21,11 @@ const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
 
 }  // namespace
 
-SystemLook::SystemLook(const QDBusConnection& bus) {
+DesktopWishes::DesktopWishes(const QDBusConnection& bus) {
   if (bus.isConnected()) read(bus);
 }
 
-void SystemLook::read(QDBusConnection bus) {
+void DesktopWishes::read(QDBusConnection bus) {
   qDBusRegisterMetaType<QMap<QString, QVariantMap>>();
   qRegisterMetaType<QDBusVariant>();  // or the bus does not take the slot
   // The bus wants the signature without blanks.
@@ -39,7 +39,7 @@ void SystemLook::read(QDBusConnection bus) {
   settings_ = qdbus_cast<QMap<QString, QVariantMap>>(answer.arguments().constFirst());
 }
 
-std::optional<ThemeMode> SystemLook::colours() const {
+std::optional<ThemeMode> DesktopWishes::colours() const {
   switch (settings_.value(appearance).value(QStringLiteral("color-scheme")).toUInt()) {
     case 1:
       return ThemeMode::Dark;
@@ -50,13 +50,13 @@ std::optional<ThemeMode> SystemLook::colours() const {
   }
 }
 
-bool SystemLook::animations() const {
+bool DesktopWishes::animations() const {
   const QVariant pace = settings_.value(kde).value(QStringLiteral("AnimationDurationFactor"));
   if (pace.isValid()) return pace.toDouble() > 0;
   return settings_.value(gnome).value(QStringLiteral("enable-animations"), true).toBool();
 }
 
-void SystemLook::changeSetting(const QString& group, const QString& key, const QDBusVariant& value) {
+void DesktopWishes::changeSetting(const QString& group, const QString& key, const QDBusVariant& value) {
   settings_[group][key] = value.variant();
   emit changed();
 }

@@ -12,10 +12,10 @@
 
 namespace desktop {
 
-class SystemLook final : public QObject {
+class DesktopWishes final : public QObject {
   Q_OBJECT
  public:
-  explicit SystemLook(const QDBusConnection& bus = QDBusConnection::sessionBus());
+  explicit DesktopWishes(const QDBusConnection& bus = QDBusConnection::sessionBus());
   [[nodiscard]] std::optional<widgets::ThemeMode> colours() const;
   [[nodiscard]] bool animations() const;
 
