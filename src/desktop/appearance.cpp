@@ -12,15 +12,15 @@ namespace {
 
 using Choice = Appearance::Choice;
 
-struct Row {
+struct ChoiceRow {
   Choice choice;
   const char* word;     // in the settings
   const char* caption;  // in the menu
 };
 
-constexpr std::array<Row, 3> rows{{{Choice::System, "system", "Comme le système"},
-                                   {Choice::Light, "light", "Claire"},
-                                   {Choice::Dark, "dark", "Sombre"}}};
+constexpr std::array<ChoiceRow, 3> choiceRows{{{Choice::System, "system", "Comme le système"},
+                                               {Choice::Light, "light", "Claire"},
+                                               {Choice::Dark, "dark", "Sombre"}}};
 
 }  // namespace
 
@@ -49,7 +49,7 @@ void Appearance::update(ThemeMode before) {
 
 void Appearance::offerIn(QMenu& menu) {
   auto* group = new QActionGroup(&menu);
-  for (const Row& row : rows) {
+  for (const ChoiceRow& row : choiceRows) {
     QAction* action = menu.addAction(QString::fromUtf8(row.caption));
     action->setCheckable(true);
     action->setChecked(row.choice == choice_);
@@ -61,14 +61,14 @@ void Appearance::offerIn(QMenu& menu) {
 }
 
 QString Appearance::word(Choice choice) {
-  for (const Row& row : rows) {
+  for (const ChoiceRow& row : choiceRows) {
     if (row.choice == choice) return QString::fromLatin1(row.word);
   }
   return {};
 }
 
 Appearance::Choice Appearance::fromWord(const QString& word) {
-  for (const Row& row : rows) {
+  for (const ChoiceRow& row : choiceRows) {
     if (word == QLatin1String(row.word)) return row.choice;
   }
   return Choice::System;

@@ -126,13 +126,13 @@ void showTick(const Control& control, QWidget& widget) {
                                                              : Qt::PartiallyChecked);
 }
 
-struct Row {
+struct Shown {
   Prop prop;
   std::optional<ControlKind> kind;  // none: controls of any kind
   void (*show)(const Control&, QWidget&);
 };
 
-constexpr std::array<Row, 17> table{{
+constexpr std::array<Shown, 17> shownProperties{{
     {Prop::Visible, {}, [](const Control& control, QWidget& widget) { widget.setVisible(control.visible); }},
     {Prop::Enabled, {}, [](const Control& control, QWidget& widget) { widget.setEnabled(control.enabled); }},
     {Prop::Focus, {}, [](const Control&, QWidget& widget) { widget.setFocus(); }},
@@ -188,7 +188,7 @@ void ControlDisplay::show(const Control& control, Prop prop, QWidget& widget) {
   const bool enables = prop == Prop::Enabled && control.enabled;
   const bool inUse = (hides || disables) && handFocusToPage(widget);
   if (inUse && disables) disabledInUse_ = &widget;
-  for (const Row& row : table) {
+  for (const Shown& row : shownProperties) {
     if (row.prop == prop && row.kind.value_or(control.kind()) == control.kind()) row.show(control, widget);
   }
   if (enables && disabledInUse_ == &widget) takeFocusFromPage(*std::exchange(disabledInUse_, nullptr));

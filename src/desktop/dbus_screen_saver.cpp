@@ -8,14 +8,14 @@
 namespace desktop {
 namespace {
 
-constexpr int patience = 300;       // ms
-constexpr qint64 absence = 60'000;  // ms until a missing one is asked for again
+constexpr int screenSaverPatience = 300;  // ms
+constexpr qint64 absence = 60'000;        // ms until a missing one is asked for again
 
-const QString service = QStringLiteral("org.freedesktop.ScreenSaver");
+const QString screenSaverService = QStringLiteral("org.freedesktop.ScreenSaver");
 
 QDBusMessage saverCall(const QString& method, const QVariantList& arguments) {
-  auto call = QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/ScreenSaver"), service,
-                                             method);
+  auto call = QDBusMessage::createMethodCall(
+      screenSaverService, QStringLiteral("/org/freedesktop/ScreenSaver"), screenSaverService, method);
   call.setArguments(arguments);
   return call;
 }
@@ -30,8 +30,8 @@ QString DbusScreenSaver::owner() {
   auto question = QDBusMessage::createMethodCall(
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetNameOwner"));
-  question.setArguments({service});
-  const QDBusReply<QString> answer = bus_.call(question, QDBus::Block, patience);
+  question.setArguments({screenSaverService});
+  const QDBusReply<QString> answer = bus_.call(question, QDBus::Block, screenSaverPatience);
   if (answer.isValid()) {
     absentSince_.invalidate();
     return answer.value();
@@ -57,7 +57,7 @@ void DbusScreenSaver::setActive(bool active) {
   const QDBusReply<quint32> answer =
       bus_.call(saverCall(QStringLiteral("Inhibit"),
                           {QStringLiteral("Ventoria"), QStringLiteral("Séance d'entraînement en cours")}),
-                QDBus::Block, patience);
+                QDBus::Block, screenSaverPatience);
   if (answer.isValid()) {
     cookie_ = answer.value();
     holder_ = now;
