@@ -163,7 +163,7 @@ void MainView::refreshProfile() {
   }
   ui_->countdownProfile->setSteps(steps);
   ui_->rideProfile->setSteps(std::move(steps));
-  ui_->rideProfile->setPlace(state_.plan.sequenceCourante - 1, state_.ecouleSequence * 86400);
+  ui_->rideProfile->setPlace(state_.plan.sequenceCourante - 1, state_.ecouleSequence * model::secondsADay);
   ui_->rideProfile->setVisible(planned);
   ui_->countdownProfile->setVisible(planned);
 

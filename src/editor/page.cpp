@@ -35,10 +35,7 @@ void Page::open() {
   editor_.MyButton9.caption = "Créer ou Charger\nune Séance d'Entrainement";
   editor_.Label8.caption = "Ventoria";
   setTips();
-  calculator_.chargerListes();
-  calculator_.lireAuChargement();
-  editor_.MyButton2.click();
-  calculator_.finirChargement();
+  calculator_.load([this] { editor_.MyButton2.click(); });
   history_.clear();
 }
 

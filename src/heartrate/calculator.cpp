@@ -30,6 +30,13 @@ Calculator::Calculator(const context::Context& context)
   attachHelp(editor_);
 }
 
+void Calculator::load(const std::function<void()>& fillGrid) {
+  chargerListes();
+  personal_.lireAuChargement();
+  fillGrid();
+  finirChargement();
+}
+
 void Calculator::chargerListes() {
   figures_.formeEnChargement = "oui";
   editor_.Combo7.setLines(behindBlank(model::numbers(10, 110)));

@@ -1,6 +1,8 @@
-// The heart-rate calculator inside the session editor, and the targets of its grid. The editor, who owns the
-// form's load, calls the three steps of loading in the order in which they stand here.
+// The heart-rate calculator inside the session editor, and the targets of its grid. The editor owns the
+// form's load and has the calculator load with it.
 #pragma once
+
+#include <functional>
 
 #include "context/context.h"
 #include "heartrate/calculator_screen.h"
@@ -16,9 +18,8 @@ class Calculator {
   Calculator(const Calculator&) = delete;
   Calculator& operator=(const Calculator&) = delete;
 
-  void chargerListes();
-  void lireAuChargement() { personal_.lireAuChargement(); }
-  void finirChargement();
+  // The boxes' lists and the saved figures. While `fillGrid` runs nothing is calculated yet.
+  void load(const std::function<void()>& fillGrid);
 
   // Completes the target cell of a row for which a percentage was picked: "132-75 %".
   void viserCellule(int row, const std::string& pickedText) { column_.viserCellule(row, pickedText); }
@@ -26,6 +27,9 @@ class Calculator {
   [[nodiscard]] const Figures& figures() const { return figures_; }
 
  private:
+  void chargerListes();
+  void finirChargement();
+
   forms::CreerCycle& editor_;
   Figures figures_;
   PersonalParameters personal_;

@@ -30,11 +30,7 @@ struct HeartRate : testing::Test, support::Rig {
   void load(const std::optional<std::string>& stored = std::nullopt) {
     if (stored) memory.put(figuresPath, *stored);
     loop.onFault([this](const std::string& fault) { faults.push_back(fault); });
-    form.onLoad.handle([this] {
-      calculator.chargerListes();
-      calculator.lireAuChargement();
-      calculator.finirChargement();
-    });
+    form.onLoad.handle([this] { calculator.load([] {}); });
     form.load();
   }
   void pick(platform::ComboBox& box, const std::string& line) {
