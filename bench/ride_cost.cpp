@@ -15,6 +15,7 @@
 #include <ctime>
 #include <functional>
 #include <stdexcept>
+#include <string>
 
 #include "desktop/desktop_program.h"
 #include "widgets/qt_text.h"
@@ -63,7 +64,7 @@ void ride(desktop::DesktopProgram& program, const QString& session) {
 
 }  // namespace
 
-int main(int count, char** words) {
+int main(int count, char** words) try {
   QApplication application(count, words);
   const QStringList arguments = QCoreApplication::arguments();
   if (arguments.size() < 5) {
@@ -102,4 +103,7 @@ int main(int count, char** words) {
   player.kill();
   player.waitForFinished();
   return 0;
+} catch (const std::exception& fault) {
+  std::fputs((std::string("what was to be pressed is not there: ") + fault.what() + "\n").c_str(), stderr);
+  return 1;
 }

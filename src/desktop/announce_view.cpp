@@ -17,7 +17,6 @@ namespace desktop {
 using devices::peaksOf;
 using widgets::fromQt;
 using widgets::setLook;
-using widgets::TakeRing;
 using widgets::Waveform;
 
 namespace {
@@ -85,7 +84,7 @@ double AnnounceView::takeLength() const {
 }
 
 void AnnounceView::refreshTake() {
-  using enum TakeRing::Mood;
+  using enum widgets::TakeRing::Mood;
   ui_->takeRing->show(takeSeconds(), recording() ? Recording : listening() ? Listening : Resting);
   const int left = listening() ? takeSeconds() : 0;  // the count begins a second above the length
   ui_->takeWave->setHeard(left > 0 ? std::max(0.0, 1 - (left - 1) / std::max(1.0, takeLength())) : 0);

@@ -173,7 +173,7 @@ void History::apply(const Change& change, bool backwards) {
   const bool first = change.row == 1;
   grid_.setStyle(change.row, first ? column::cycleName : column::sessionName,
                  first ? column::duration : column::deleteMark,
-                 first ? model::rowStyle::firstRow : model::rowStyle::finished);
+                 first ? model::row_style::firstRow : model::row_style::finished);
 }
 
 // Only what the step changed, because a hand-over may have set other captions since.

@@ -69,9 +69,9 @@ void Lines::buildList() {
     grid_.addColumn(std::move(made));
   editor_.File2.refresh();
   grid_.addRow(model::firstRow());
-  grid_.setStyle(1, column::cycleName, column::duration, model::rowStyle::firstRow);
+  grid_.setStyle(1, column::cycleName, column::duration, model::row_style::firstRow);
   grid_.addRow(model::handMadeRow(2, std::string(model::noMeaning)));
-  grid_.setStyle(2, column::sessionName, column::deleteMark, model::rowStyle::finished);
+  grid_.setStyle(2, column::sessionName, column::deleteMark, model::row_style::finished);
 }
 
 void Lines::showTotalTitle() {
@@ -136,7 +136,7 @@ void Lines::ajouterSequence() {
     return;
   }
   forgetNameForOwnRows();
-  appendBlankRow(model::rowStyle::unfinished);
+  appendBlankRow(model::row_style::unfinished);
   grid_.reveal(grid_.rowCount());
   grid_.select(grid_.rowCount());
   grid_.focus();
@@ -169,7 +169,7 @@ void Lines::ajouterSequenceVariante() {
     refuseAddition();
     return;
   }
-  appendBlankRow(model::rowStyle::finished);
+  appendBlankRow(model::row_style::finished);
   recalerColonnes(editor_);
 }
 

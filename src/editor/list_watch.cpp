@@ -58,7 +58,7 @@ int ListWatch::paintRows() {
     const bool red = model::isUnfinished(grid_, row);
     if (red) ++unfinished;
     grid_.setStyle(row, column::sessionName, column::deleteMark,
-                   red ? model::rowStyle::unfinished : model::rowStyle::finished);
+                   red ? model::row_style::unfinished : model::row_style::finished);
   }
   return unfinished;
 }

@@ -28,11 +28,11 @@ inline constexpr int heartRate = 13;
 
 inline constexpr int columnCount = 13;
 
-namespace rowStyle {
+namespace row_style {
 inline constexpr platform::CellStyle firstRow{platform::Colour::rgb(0, 60, 116), true};
 inline constexpr platform::CellStyle finished{platform::Colour::rgb(0, 0, 255), false};
 inline constexpr platform::CellStyle unfinished{platform::Colour::rgb(255, 0, 0), true};
-}  // namespace rowStyle
+}  // namespace row_style
 
 inline constexpr int cycleColumnWidth = 1700;         // twips, in cycle mode
 inline constexpr int sessionColumnWidth = 2400;       // twips, after each relayout

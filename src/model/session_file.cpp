@@ -90,7 +90,7 @@ int appendPass(platform::RandomFile& file, int nbEnreg, const std::string& name,
     const SequenceTexts texts = textsOf(record);
     if (!texts.sequence.empty() || !texts.duration.empty()) ++found;
     grid.addRow(loadedRow(grid.rowCount() + 1, place, texts));
-    grid.setStyle(grid.rowCount(), column::sessionName, column::deleteMark, rowStyle::finished);
+    grid.setStyle(grid.rowCount(), column::sessionName, column::deleteMark, row_style::finished);
   }
   return found;
 }
@@ -176,7 +176,7 @@ FoundSequences ajouterSeance(platform::FileSystem& files, const std::string& che
     if (repeats == 0) continue;
     const std::string announced = "-----Répète--(" + std::to_string(pass + 1) + ")";
     grille.addRow(closingRow(grille.rowCount() + 1, pass <= repeats ? announced : std::string(endOfList)));
-    grille.setStyle(grille.rowCount(), column::sessionName, column::deleteMark, rowStyle::finished);
+    grille.setStyle(grille.rowCount(), column::sessionName, column::deleteMark, row_style::finished);
   }
   return sequences;
 }

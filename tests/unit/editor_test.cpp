@@ -85,7 +85,7 @@ TEST_F(Editor, ATextThatIsNoDurationStaysOutOfThePlan) {
     EXPECT_THAT(program.run("press CreerCycle.MyButton5\njournal dialog"), testing::HasSubstr("Ligne (3)"));
     EXPECT_TRUE(form.visible);
     EXPECT_EQ(program.state().nbSequences, 0);
-    EXPECT_EQ(program.list().style(3, column::duration), model::rowStyle::unfinished) << text;
+    EXPECT_EQ(program.list().style(3, column::duration), model::row_style::unfinished) << text;
     EXPECT_EQ(program.list().selectedRow(), 3);
     EXPECT_FALSE(form.MyButton5.visible) << text;
     // Where the cell can be opened, the rider goes on by its duration boxes.
@@ -107,7 +107,8 @@ TEST_F(Editor, AFileThatEndsTooEarlyIsToldAndItsBlankRowsAreRed) {
     EXPECT_EQ(said.find(counts) != std::string::npos, told) << said;
     ASSERT_EQ(program.list().rowCount(), 4);
     for (int row = 2; row <= 4; ++row) {
-      EXPECT_EQ(program.list().style(row, column::sequence) == model::rowStyle::unfinished, row - 1 > records)
+      EXPECT_EQ(program.list().style(row, column::sequence) == model::row_style::unfinished,
+                row - 1 > records)
           << row;
     }
     EXPECT_NE(form.MyButton5.visible, told);
