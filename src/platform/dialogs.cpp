@@ -13,7 +13,7 @@ std::string suffixOf(const std::string& filter) {
   return pattern.substr(dot);
 }
 
-std::string withSuffix(std::string name, const std::string& filter) {
+std::string withSuffix(const std::string& name, const std::string& filter) {
   const std::string suffix = suffixOf(filter);
   return lowerAscii(name).ends_with(lowerAscii(suffix)) ? name : name + suffix;
 }

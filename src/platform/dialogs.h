@@ -31,7 +31,7 @@ struct FileRequest {
 [[nodiscard]] std::string suffixOf(const std::string& filter);
 // The name that a save dialog saves under: the filter's suffix is added unless the name ends in it already,
 // also where the name has a dot of its own.
-[[nodiscard]] std::string withSuffix(std::string name, const std::string& filter);
+[[nodiscard]] std::string withSuffix(const std::string& name, const std::string& filter);
 
 class Dialogs {
  public:
