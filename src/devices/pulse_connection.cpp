@@ -16,8 +16,6 @@ constexpr milliseconds attemptPatience{500};
 constexpr milliseconds attemptPause{1000};  // the volume is asked for several times a second
 constexpr milliseconds pollInterval{10};
 constexpr milliseconds answerPatience{500};
-// What the servers show in place of a card where there is none.
-constexpr std::string_view noCard = "auto_null";
 
 }  // namespace
 

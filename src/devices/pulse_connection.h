@@ -10,8 +10,12 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <string_view>
 
 namespace devices {
+
+// The device that the servers show when there is no sound card.
+inline constexpr std::string_view noCard = "auto_null";
 
 class PulseConnection {
  public:

@@ -11,8 +11,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto patience = 500ms;
-// What the servers show in place of a card where there is none.
-constexpr std::string_view noCard = "auto_null";
 
 double fractionOf(const pa_cvolume& volume) {
   return double(pa_cvolume_max(&volume)) / PA_VOLUME_NORM;
