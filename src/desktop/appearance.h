@@ -18,7 +18,6 @@ class Appearance final : public QObject {
   explicit Appearance(widgets::ThemeMode system, Choice choice = Choice::System)
       : system_(system), choice_(choice) {}
   [[nodiscard]] widgets::ThemeMode mode() const;
-  [[nodiscard]] Choice choice() const { return choice_; }
   [[nodiscard]] widgets::ThemeMode system() const { return system_; }
   void choose(Choice choice);
   // What the desktop wants now.

@@ -63,7 +63,6 @@ void FormWindow::restyle() {
   if (scale == scale_) return;
   scale_ = scale;
   scaleWindow(*this, *this, mode_, scale);
-  emit rescaled();
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {

@@ -21,9 +21,6 @@ class FormWindow final : public QDialog {
   // What leaves the form when the window is closed or Escape pressed.
   void onClose(std::function<void()> asked) { closeAsked_ = std::move(asked); }
 
- signals:
-  void rescaled();
-
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;

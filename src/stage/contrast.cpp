@@ -18,16 +18,16 @@ double luminance(const QColor& colour) {
   return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
-}  // namespace
-
 double contrast(const QColor& a, const QColor& b) {
   const auto [dark, bright] = std::minmax({luminance(a), luminance(b)});
   return (bright + 0.05) / (dark + 0.05);
 }
 
+}  // namespace
+
 double inkContrast(const QImage& picture, const QRect& area) {
   const QRect seen = area & picture.rect();
-  // No stroke of a letter is thinner than a sample's step, in an area as large as that.
+  // Only some dots of a large area are looked at: its letters are large, and their strokes wider than a step.
   const int step = 1 + static_cast<int>(std::sqrt(seen.width() * seen.height() / enough));
   std::unordered_map<QRgb, int> counts;
   for (int y = seen.top(); y <= seen.bottom(); y += step) {

@@ -5,7 +5,6 @@
 
 namespace stage {
 
-[[nodiscard]] double contrast(const QColor& a, const QColor& b);
 // Of the strongest ink in that part of a picture of 32 bits a pixel, against the colour that fills most of
 // it.
 [[nodiscard]] double inkContrast(const QImage& picture, const QRect& area);

@@ -20,7 +20,6 @@ class GridModel final : public QAbstractTableModel {
   [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int wanted) const override;
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int wanted) const override;
-  [[nodiscard]] const platform::Grid& grid() const { return grid_; }
   // Tells the view at once what has changed so far.
   void flush();
 

@@ -17,7 +17,6 @@ class MovablePanel final : public QObject {
  public:
   // `panel` stands in the row `home` and floats inside `page`.
   MovablePanel(QFrame& panel, QBoxLayout& home, QWidget& page);
-  [[nodiscard]] bool floating() const { return stand_ != nullptr; }
   // Its text or the window's scale is another: it takes the height that it needs, inside the page.
   void fit();
 
@@ -25,6 +24,7 @@ class MovablePanel final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  [[nodiscard]] bool floating() const { return stand_ != nullptr; }
   void lift();
   void putBack();
   void moveTo(const QPoint& corner);

@@ -77,13 +77,14 @@ QString firstInstalled(const QString& family) {
   return installed.contains(family) ? family : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
 }
 
+QString numberFamily() {
+  return firstInstalled(QStringLiteral("B612"));
+}
+
 }  // namespace
 
 QString sansFamily() {
   return firstInstalled(QStringLiteral("Inter"));
-}
-QString numberFamily() {
-  return firstInstalled(QStringLiteral("B612"));
 }
 
 QPalette themePalette(ThemeMode mode) {

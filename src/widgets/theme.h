@@ -42,7 +42,6 @@ void applyTheme(ThemeMode mode);
 [[nodiscard]] QColor mixed(const QColor& a, const QColor& b, double share);
 
 [[nodiscard]] QString sansFamily();
-[[nodiscard]] QString numberFamily();
 
 // How much larger than at 1280 x 800 the widget's window shows everything.
 [[nodiscard]] double scaleOf(const QWidget* widget);
