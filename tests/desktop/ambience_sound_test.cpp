@@ -1,5 +1,5 @@
-// Whole rides with music at a real sound server: the program's own buttons are pressed and its sound is
-// listened to; run it under with-sound-server.
+// Whole rides with music at a real sound server: presses the program's buttons and listens to its sound. Run
+// it under with-sound-server.
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -32,9 +32,9 @@ using support::Recording;
 using support::Samples;
 
 constexpr int sampleRate = WavDecoder::sampleRate;
-constexpr double musicLevel = 0.1;  // of the music
+constexpr double musicLevel = 0.1;  // amplitude; full scale is 1
 
-// Music whose pitch tells the place in it, above all that the voice has.
+// Music whose rising pitch tells how far it has been played; it lies above the pitches of the voice.
 struct Sweep {
   double first;  // Hz
   double seconds;
@@ -72,12 +72,12 @@ std::vector<char> melody() {
   });
 }
 
-// What sounds in a fiftieth of a second.
+// What sounds within 20 ms.
 struct Frame {
-  double voice = 0;  // the root of the voice's power; full scale is 1
-  double pitch = 0;  // the voice's loudest
-  double level = 0;  // the music's
-  double tone = 0;   // the music's pitch
+  double voice = 0;  // effective amplitude of the voice; full scale is 1
+  double pitch = 0;  // Hz, the loudest of the voice
+  double level = 0;  // amplitude of the music
+  double tone = 0;   // Hz, the pitch of the music
 
   [[nodiscard]] bool speaks() const { return voice > 0.01; }
   [[nodiscard]] bool hasMusic() const { return level > musicLevel / 2; }
@@ -103,7 +103,7 @@ Spectrum transform(const Spectrum& in) {
   return out;
 }
 
-// The loudest bin between two, and its pitch between the bins.
+// The loudest bin between two pitches in Hz, and its own pitch, interpolated between the bins.
 std::pair<std::size_t, double> loudest(const Spectrum& spectrum, double from, double to) {
   const auto bin = [](double hertz) { return std::ptrdiff_t(hertz * windowSize / sampleRate); };
   const auto peak =
@@ -147,7 +147,8 @@ struct Stretch {
   std::size_t end;
 };
 
-// A lost moment of the sound server is no hold: those last half a second at least.
+// Shorter gaps, in frames, are the sound server's: when the program holds the music, it is for half a second
+// at least.
 constexpr std::size_t leastHold = 15;
 
 std::vector<Stretch> stretchesOf(const std::vector<Frame>& frames, const Sweep& piece) {
@@ -181,7 +182,7 @@ bool holdsMelody(const std::vector<Frame>& frames) {
   return false;
 }
 
-// One record of a session, its fields as offset and text.
+// One record of a session; `fields` gives their offsets and texts.
 std::string record(const std::map<std::size_t, std::string>& fields) {
   std::string bytes(150, ' ');
   for (const auto& [at, text] : fields) bytes.replace(at, text.size(), text);
@@ -220,7 +221,7 @@ class Ambience : public testing::Test {
   void put(const std::string& name, const Bytes& bytes) const {
     std::ofstream(at(name), std::ios::binary).write(bytes.data(), std::ptrdiff_t(bytes.size()));
   }
-  // The boxes 1 to 12; then two seconds of countdown, and the kinds are spoken.
+  // `boxes` are the settings' first twelve; the countdown takes 2 s, and the kinds are spoken.
   void start(const std::string& boxes) {
     put("par.tq3", boxes + "2 1" + std::string(15, ' '));
     program_ = std::make_unique<DesktopProgram>(fromQt(folder_.path()), ThemeMode::Dark);
@@ -239,7 +240,7 @@ class Ambience : public testing::Test {
     if (found == nullptr) throw std::out_of_range(name);
     return *found;
   }
-  // As soon as the rider can.
+  // Waits until a rider can press the button.
   static void press(const char* form, const char* name) {
     auto& button = widget<QAbstractButton>(form, name);
     ASSERT_TRUE(QTest::qWaitFor([&] { return button.isVisible() && button.isEnabled(); }, 30000))
@@ -252,12 +253,12 @@ class Ambience : public testing::Test {
     choose("mnambiance");
     for (const char* name : {"Command8", "Check1", "MyButton11", "MyButton9"}) press("EnrUneAnnonce", name);
   }
-  // A ride from its countdown to its last word.
+  // Rides a session; gives its sound from the countdown to the last word.
   std::vector<Frame> ride(const std::string& session) {
     put("chronodat/Essai.tq2", session);
     program_->addSession(at("chronodat/Essai.tq2"));
     press("CreerCycle", "MyButton5");
-    // The frame opens by itself a moment later, and starts anew what was started before.
+    // The frame for starting opens by itself a moment later; a start before that would be undone.
     const auto& startOrStop = widget<QPushButton>("MainForm", "MyButton1");
     EXPECT_TRUE(QTest::qWaitFor([&] { return startOrStop.text() == QLatin1String("Stop"); }, 10000));
     Recording recording;
@@ -295,7 +296,7 @@ TEST_F(Ambience, TheMusicYieldsToTheVoiceAndToAnAnnouncementJustRecorded) {
   QProcess speech;
   speech.start("paplay", {"-d", "test_mic", toQt(at("melody.wav"))});
   ASSERT_TRUE(QTest::qWaitFor([&] { return speech.state() == QProcess::NotRunning; }, 20000));
-  QTest::qWait(500);  // what was said last is still on its way
+  QTest::qWait(500);  // the last words are still sounding
   press("EnrUneAnnonce", "Command3");
   chooseFile("allez \"vite\" & fort");
   press("EnrUneAnnonce", "Command1");

@@ -1,4 +1,4 @@
-// What the windows wear, and what they take from the desktop while they run.
+// Dark and light windows, and how they follow the desktop's wishes while they run.
 #include <gmock/gmock.h>
 
 #include <QDBusMetaType>
@@ -73,7 +73,7 @@ QImage pictureOf(support::SimulatedProgram& program, Windows& windows) {
   return windows.window().grab().toImage();
 }
 
-// Nothing keeps a colour of the theme before: the editor with its list open, to the last pixel.
+// No pixel keeps a colour of the theme before, tried with the editor and its list open.
 TEST(Windows, AChangedThemeLooksLikeOneFromTheStart) {
   const auto compose = [](support::SimulatedProgram& program) {
     ASSERT_TRUE(program.start());

@@ -1,4 +1,4 @@
-// The audit of the screens finds what it is there to find, and nothing on a screen that is as it should be.
+// The audit of the screens finds each kind of fault, and none on a faultless screen.
 #include "stage/audit.h"
 
 #include <gmock/gmock.h>
@@ -117,7 +117,7 @@ TEST_F(AuditTest, ATextOverAPictureIsNamedUnlessThePictureIsADeclaredBackground)
   for (QWidget* widget : {static_cast<QWidget*>(&label), static_cast<QWidget*>(&picture)}) widget->show();
   const auto named = testing::Contains(QStringLiteral("Page.label has its text over a picture: picture"));
   EXPECT_THAT(faults(), named);
-  label.raise();  // covers all of the picture, but nothing of it is hidden
+  label.raise();  // covers the picture, but is transparent
   EXPECT_THAT(faults(), named);
   picture.setGeometry(130, 40, 24, 24);  // beside the text, in the label's free part
   EXPECT_THAT(faults(), testing::Not(named));

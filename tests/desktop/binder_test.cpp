@@ -1,4 +1,4 @@
-// Every page's widgets against its form: all bound, presses arrive, writes stay quiet.
+// Binding pages to their forms: every control has a widget, presses arrive, changes by code raise no events.
 #include "desktop/binder.h"
 
 #include <gmock/gmock.h>
@@ -19,7 +19,6 @@
 #include "desktop/unseen_controls.h"
 #include "forms/screens.h"
 #include "platform/clock.h"
-#include "widgets/grid_table.h"
 
 namespace {
 
@@ -51,7 +50,7 @@ TEST_F(BinderTest, EveryControlStandsOnceOnItsPage) {
   EXPECT_EQ(bindingFaults(screens_.main, main_).join('\n').toStdString(), "");
   EXPECT_EQ(bindingFaults(screens_.editor, editor_).join('\n').toStdString(), "");
 
-  // What the check is there to find.
+  // Each kind of fault is found.
   delete main_.findChild<QWidget*>("MyButton5");
   widget<QWidget>(main_, "MyButton6").setObjectName("MyButton7");
   widget<QLabel>(main_, "Label30").setObjectName("Command4x");
@@ -73,7 +72,7 @@ TEST_F(BinderTest, EveryControlStandsOnceOnItsPage) {
   }
 }
 
-// Clicks, picks and typed texts go through every scenario on the stage.
+// Clicks, picks and typed texts are left out here: the scenarios on the stage test them.
 TEST_F(BinderTest, TheRightButtonAndTheKeysReachTheControlAPointerAtRestDoesNot) {
   forms::MainForm& form = screens_.main;
   std::vector<std::string> heard;
@@ -156,37 +155,6 @@ TEST_F(BinderTest, AMenuFollowsItsEntriesAndAFaultReachesTheRider) {
   EXPECT_EQ(fault, "plein");
   screens_.main.mnsons.visible = false;
   EXPECT_FALSE(action->isVisible());
-}
-
-TEST_F(BinderTest, TheGridTakesManyRowsAtOnceAndRepaintsOnlyWhatChanged) {
-  binder_.bind(screens_.editor, editor_);
-  platform::Grid& grid = screens_.editor.ListView1;
-  for (int c = 0; c < 13; ++c) grid.addColumn({"c", 1000, platform::Alignment::Centre});
-  widgets::GridModel& model = *widget<widgets::GridTable>(editor_, "ListView1").gridModel();
-  model.flush();
-  int insertions = 0;
-  std::vector<std::pair<int, int>> changed;
-  QObject::connect(&model, &QAbstractItemModel::rowsInserted, [&insertions] { ++insertions; });
-  QObject::connect(&model, &QAbstractItemModel::dataChanged,
-                   [&changed](const QModelIndex& a, const QModelIndex& b) {
-                     changed.emplace_back(a.row() * 100 + a.column(), b.row() * 100 + b.column());
-                   });
-  for (int r = 0; r < 10000; ++r) grid.addRow({"1", "2", "3", "Plat"});
-  EXPECT_EQ(model.rowCount(), 0);
-  model.flush();
-  EXPECT_EQ(model.rowCount(), 10000);
-  EXPECT_EQ(insertions, 1);
-
-  grid.setText(5, 4, "Sprint");
-  grid.setText(5, 4, "Sprint");
-  grid.setStyle(7, 3, 12, {platform::Colour::rgb(255, 0, 0), true});
-  model.flush();
-  EXPECT_THAT(changed, ElementsAre(std::pair(403, 403), std::pair(600, 612)));
-
-  grid.removeRow(1);
-  grid.insertRow(3, {"x"});
-  model.flush();
-  EXPECT_EQ(model.rowCount(), grid.rowCount());
 }
 
 }  // namespace

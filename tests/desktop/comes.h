@@ -1,4 +1,4 @@
-// Waiting for what other programs, servers and threads bring about in their own time.
+// Waits for things that other programs, servers and threads do in their own time.
 #pragma once
 
 #include <chrono>
@@ -7,7 +7,7 @@
 
 namespace support {
 
-// Looks until it is so; the bound is only there to end a test that has failed.
+// Waits until `so` is true; after 20 s, which only a failing test takes, it gives up.
 inline bool comes(const std::function<bool()>& so) {
   using namespace std::chrono_literals;
   const auto end = std::chrono::steady_clock::now() + 20s;

@@ -9,7 +9,7 @@
 namespace desktop {
 namespace {
 
-// A saver that grants inhibitions and writes down what it was asked.
+// A screen saver that grants all requests and notes them.
 class DbusScreenSaverTest : public testing::Test {
  protected:
   void startSaver() { bus_.startService("org.freedesktop.ScreenSaver", "/org/freedesktop/ScreenSaver"); }

@@ -1,4 +1,4 @@
-// All that a sound holds, as it is played; empty if it cannot be.
+// Decodes a whole sound as it is played; empty if it cannot be played.
 #pragma once
 
 #include "devices/wav_decoder.h"

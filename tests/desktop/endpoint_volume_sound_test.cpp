@@ -43,7 +43,7 @@ TEST_F(EndpointVolume, SetsThePlainFractionAndKeepsTheBalance) {
   pactl("set-sink-volume test_out 80% 40%");
   ASSERT_TRUE(comes([&] { return volume.open() && std::abs(volume.level() - 0.8) < 0.001; }));
   for (const double step : {0.7, 0.6, 0.5}) {
-    volume.setLevel(step);  // what the server still answers about older steps is passed over
+    volume.setLevel(step);  // late answers about older steps are ignored
     EXPECT_NEAR(volume.level(), step, 0.001);
   }
   volume.setMuted(true);
@@ -54,7 +54,7 @@ TEST_F(EndpointVolume, SetsThePlainFractionAndKeepsTheBalance) {
   }));
 }
 
-// A level between two percents, or above all, comes back rounded at every tick and must not wander.
+// The screen writes back what it reads, in whole percents up to 100; the volume must not wander.
 TEST_F(EndpointVolume, LeavesALevelThatItsOwnRoundingGivesBack) {
   for (const std::string units : {"48900", "98304"}) {  // 74.6 % and 150 %
     pactl("set-sink-volume test_out " + units);
@@ -82,8 +82,8 @@ TEST_F(EndpointVolume, OvercomesAServerThatDies) {
   pid_t server = 0;
   std::ifstream(std::getenv("SOUND_SERVER_PID_FILE")) >> server;
   kill(server, SIGKILL);
-  // Each look is written back, as the bar does it; nothing read while it is away may reach the next one,
-  // which begins at full volume.
+  // Each level read is written back, as the volume bar does. What is read while the server is away must not
+  // reach the next server, which begins at full volume.
   EXPECT_TRUE(comes([&] {
     const double read = volume.level();
     volume.setLevel(read);

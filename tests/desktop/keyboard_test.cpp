@@ -16,7 +16,7 @@ class KeyboardTest : public WindowsTestBase {
   void settle() {
     WindowsTestBase::settle();
     for (int i = 0; i < 2; ++i) QCoreApplication::processEvents();
-    // A platform without a screen gives the keyboard back to nobody when a list closes.
+    // Without a screen Qt leaves the keyboard with no widget when a drop-down list closes.
     if (QApplication::activePopupWidget() == nullptr && QApplication::focusWidget() == nullptr) {
       windows_->window().activateWindow();
       QCoreApplication::processEvents();
@@ -33,12 +33,12 @@ class KeyboardTest : public WindowsTestBase {
     const QWidget* widget = QApplication::focusWidget();
     return widget != nullptr ? widget->objectName() : QString();
   }
-  // Goes there from control to control.
+  // Goes to a control by the Tab key.
   void tabTo(const char* name) {
     for (int i = 0; i < 60 && focused() != QLatin1String(name); ++i) key(Qt::Key_Tab);
     EXPECT_EQ(focused(), name);
   }
-  // Opens the cell in hand and takes the entry so many lines below the first.
+  // Opens the current cell and chooses the entry `line` lines below the first.
   void choose(int line) {
     key(Qt::Key_F2);
     key(Qt::Key_Home);
@@ -60,7 +60,7 @@ class KeyboardTest : public WindowsTestBase {
       choose(1);
       key(Qt::Key_Right);
     }
-    key(Qt::Key_Right);  // over what repeats the session
+    key(Qt::Key_Right);  // passes the columns for repeats
     key(Qt::Key_Right);
     key(Qt::Key_Return);
     EXPECT_EQ(focused(), "Combo2");
@@ -146,8 +146,8 @@ TEST_F(KeyboardTest, DeleteAsksBeforeItTakesALineAway) {
   key(Qt::Key_Home);
   key(Qt::Key_Down);
   key(Qt::Key_F2);
-  QTest::keyClick(QApplication::focusWidget(), '7');  // dropped
-  for (int i = 0; i < 2; ++i) key(Qt::Key_Escape);    // the list, then the cell
+  QTest::keyClick(QApplication::focusWidget(), '7');  // is dropped by Escape
+  for (int i = 0; i < 2; ++i) key(Qt::Key_Escape);    // closes the list, then the cell
   EXPECT_EQ(focused(), "ListView1");
   EXPECT_FALSE(screens_.editor.Combo1.visible || screens_.editor.Picture2.visible);
   EXPECT_EQ(program_.list().text(2, 4), kind);

@@ -1,4 +1,6 @@
-// The list of sequences under the mouse, the wheel and the keys, and what may come in its way.
+// The list of sequences: mouse, wheel and keys, its cell editors, and many rows at once.
+#include <gmock/gmock.h>
+
 #include <QComboBox>
 #include <QWheelEvent>
 
@@ -118,6 +120,34 @@ TEST_F(ListTest, AnAnnouncementIsHeardWhereItsOwnCellIsLeft) {
   settle();
   EXPECT_TRUE(screens_.volume.visible);
   EXPECT_EQ(screens_.player.Text1.text.get(), "/d/annonces/allez.wav");
+}
+
+TEST_F(ListTest, ManyNewRowsAreOneInsertionAndOnlyWhatChangedIsRepainted) {
+  widgets::GridModel& model = *table_.gridModel();
+  const int before = model.rowCount();
+  int insertions = 0;
+  std::vector<std::pair<int, int>> changed;
+  QObject::connect(&model, &QAbstractItemModel::rowsInserted, [&insertions] { ++insertions; });
+  QObject::connect(&model, &QAbstractItemModel::dataChanged,
+                   [&changed](const QModelIndex& a, const QModelIndex& b) {
+                     changed.emplace_back(a.row() * 100 + a.column(), b.row() * 100 + b.column());
+                   });
+  for (int r = 0; r < 10000; ++r) grid_.addRow({"1", "2", "3", "Plat"});
+  EXPECT_EQ(model.rowCount(), before);
+  model.flush();
+  EXPECT_EQ(model.rowCount(), before + 10000);
+  EXPECT_EQ(insertions, 1);
+
+  grid_.setText(5, 4, "Sprint");
+  grid_.setText(5, 4, "Sprint");
+  grid_.setStyle(7, 3, 12, {platform::Colour::rgb(255, 0, 0), true});
+  model.flush();
+  EXPECT_THAT(changed, testing::ElementsAre(std::pair(403, 403), std::pair(600, 612)));
+
+  grid_.removeRow(1);
+  grid_.insertRow(3, {"x"});
+  model.flush();
+  EXPECT_EQ(model.rowCount(), grid_.rowCount());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What the loudspeaker of with-sound-server gives out.
+// Records what the loudspeaker of with-sound-server plays.
 #pragma once
 
 #include <fcntl.h>
@@ -33,7 +33,7 @@ inline pid_t serverPid() {
   return pid;
 }
 
-// What the loudspeaker gives from its making to its stop.
+// Records from its construction on.
 class Recording {
  public:
   Recording() {
@@ -58,7 +58,7 @@ class Recording {
   Recording(const Recording&) = delete;
   Recording& operator=(const Recording&) = delete;
 
-  // All until now and half a second beyond.
+  // All that was played until now, and in the next half second.
   Samples samples() {
     waitForMore(500 * samplesPerMs);
     std::ifstream file(path_, std::ios::binary);

@@ -81,7 +81,7 @@ TEST_F(MpvMediaTest, HoldsWhereItIsAndGoesOn) {
   EXPECT_EQ(send("status m mode"), "");
 }
 
-// The piece's own volume and the program's level are amplitudes, and nothing of a piece sounds without them.
+// The piece's own volume and the program's level are amplitudes, and not one sample sounds without them.
 TEST_F(MpvMediaTest, ANewPieceHasItsVolumeAndTheLevelFromItsFirstSample) {
   send("setaudio m volume to 500");
   level.set(0x8000, 0x8000);
@@ -144,7 +144,7 @@ TEST_F(MpvMediaTest, IsHeardAgainOnceTheServerIsBack) {
   }));
 }
 
-// No server is no reason to wait: the music runs on unheard, and a recording stays empty.
+// Without a server nothing waits: the music runs on unheard, and a recording stays empty.
 TEST_F(MpvMediaTest, RunsWithoutAServer) {
   const std::string server = std::getenv("PULSE_SERVER");
   setenv("PULSE_SERVER", "unix:/nonexistent", 1);

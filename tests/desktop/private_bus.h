@@ -1,4 +1,4 @@
-// A bus of a test's own, and a service on it that a thread of its own answers, as another program would.
+// A message bus for one test, with a service that answers from its own thread, as another program would.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 
 class PrivateBus {
  public:
-  // What the service answers to a call.
+  // `answer` gives the service's answer to a call.
   explicit PrivateBus(std::function<QVariantList(const QDBusMessage&)> answer) {
     object_.answer = std::move(answer);
     daemon_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});

@@ -38,7 +38,7 @@ bool sounding(std::int16_t sample) {
   return sample != 0;
 }
 
-// The sounding part of a sound.
+// A sound without the silence at both ends.
 std::span<const std::int16_t> core(const Samples& samples) {
   const auto first = std::find_if(samples.begin(), samples.end(), sounding);
   const auto last = std::find_if(samples.rbegin(), std::make_reverse_iterator(first), sounding).base();
@@ -79,7 +79,7 @@ class PulseSound : public testing::Test {
        [this](const platform::SoundClip* clip) { spoken_.emplace_back(clip ? clip->spoken : "-"); }}};
 };
 
-// Every sample of every prompt, in turn, and hardly anything between them.
+// Every sample of every prompt is heard, in order and with hardly a gap between them.
 TEST_F(PulseSound, PromptsFollowEachOtherWholeAndWithoutAGap) {
   const std::vector<std::string> chain{"101", "195", "196", "150", "101", "196"};
   ASSERT_TRUE(output_.hasDevice());
@@ -147,7 +147,7 @@ TEST_F(PulseSound, QuittingCutsAPrompt) {
   EXPECT_EQ(spoken_.back(), "-");
   meanwhile_ = {};
   quitting_ = false;
-  output_.play({0, "", "101", kept_.back()});  // converted half way only
+  output_.play({0, "", "101", kept_.back()});  // decoded half way only
   EXPECT_TRUE(holds(recording.samples(), decodeWav(bank("101"))));
 }
 
@@ -180,13 +180,13 @@ TEST_F(PulseSound, WithoutAServerThereIsNoDeviceUntilOneComes) {
     EXPECT_FALSE(output_.hasDevice());
     attempts += before != connection_.context();
   }
-  EXPECT_LT(attempts, 20);  // none at most questions
+  EXPECT_LT(attempts, 20);  // most questions make none
 
   setenv("PULSE_SERVER", server.c_str(), 1);
   EXPECT_TRUE(comes([&] { return output_.hasDevice(); }));
 }
 
-// The play comes back though nothing takes its sound any more, and the server that follows is found.
+// A play returns even if the server takes no more sound, and the next server is found.
 TEST_F(PulseSound, AServerThatDiesOrHangsIsOvercome) {
   for (const int harm : {SIGKILL, SIGSTOP}) {
     SCOPED_TRACE(harm);

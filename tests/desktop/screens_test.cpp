@@ -18,7 +18,7 @@ namespace {
 
 class ScreensTest : public WindowsTestBase {};
 
-// That each control stands once on its page is checked as the windows are made: they would throw.
+// That each control stands once on its page needs no check here: the windows throw if not.
 TEST_F(ScreensTest, EveryFormButThePlayerHasAPlace) {
   for (const platform::Form* form : screens_.all()) {
     EXPECT_EQ(windows_->windowOf(*form) == nullptr, form == &screens_.player) << form->name();
@@ -91,7 +91,7 @@ TEST_F(ScreensTest, ATickPaintsOnlyWhatChanges) {
   screens_.main.MyButton1.click();
   program_.run("advance 0.2\npress MainForm.MyButton3\nadvance 5.5");
   settle();
-  settle();  // the page of a ride is laid out anew
+  settle();  // the first layout of the ride's page paints everything
   PaintWatch watch(*windows_->page(screens_.main));
   program_.run("advance 1");
   settle();
@@ -204,7 +204,7 @@ TEST_F(ScreensTest, TheCalculatorsHelpGoesAtItsFreeGroundAndByEscape) {
     mark.click();
     EXPECT_EQ(move(*over, at), goes) << what;
   }
-  // The marks of the two rates stay while their boxes go.
+  // The help buttons of the two rates stay when their boxes are hidden.
   form.Combo8.index = 1;
   settle();
   EXPECT_TRUE(mark.isVisible() && !widget<QWidget>(form, "Combo11").isVisible());

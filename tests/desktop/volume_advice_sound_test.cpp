@@ -64,7 +64,7 @@ TEST(VolumeAdvice, FollowsWhatOtherProgramsDoToTheMachine) {
                           {"set-sink-volume test_out 95%", "un peu fort", on, 95},
                           {"set-sink-mute test_out 1", "un peu fort", "Mais le (Son) est Désactivé.", 95},
                           {"set-sink-mute test_out 0", "un peu fort", on, 95},
-                          // The dialog stays with its device until it is opened anew.
+                          // The dialog keeps its device until it is opened again.
                           {"set-default-sink test_mic", "un peu fort", on, 95}}) {
     pactl(row.elsewhere);
     const QString advice = toQt("Le Volume de votre (Son) semble " + std::string(row.advice) + "...");

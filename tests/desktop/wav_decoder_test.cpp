@@ -28,7 +28,7 @@ struct Format {
   }
 };
 
-// One second of a tone, in a file.
+// Writes one second of a tone to a file and returns its path.
 std::string writeTone(const Format& format) {
   const auto path = std::filesystem::path(testing::TempDir()) / (std::string(format.name) + ".wav");
   std::vector<float> samples;
@@ -56,7 +56,7 @@ TEST_P(WavFormats, SoundTheSameFromMemoryAndFromDisk) {
   const std::string path = writeTone(format);
   const Samples samples = support::decodeWav(readAll(path));
 
-  // A coding in blocks pads the last one.
+  // A coding in blocks pads the last block.
   EXPECT_NEAR(double(samples.size()), 2.0 * WavDecoder::sampleRate, 2.0 * WavDecoder::sampleRate / 20);
   double worst = 0;
   for (std::size_t frame = 500; frame < WavDecoder::sampleRate - 500U; ++frame) {
@@ -69,7 +69,7 @@ TEST_P(WavFormats, SoundTheSameFromMemoryAndFromDisk) {
   }
   EXPECT_LT(worst, format.tolerance);
 
-  EXPECT_EQ(support::decodeWav(path, 998), samples);  // no divisor of anything
+  EXPECT_EQ(support::decodeWav(path, 998), samples);  // a piece size that divides nothing evenly
 }
 
 INSTANTIATE_TEST_SUITE_P(All, WavFormats,

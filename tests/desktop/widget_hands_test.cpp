@@ -1,4 +1,4 @@
-// A page that no longer lets a rider touch what its form shows makes the stage's commands fail.
+// The stage's commands fail if the window does not let a rider touch a control that the form shows.
 #include "stage/widget_hands.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +37,7 @@ TEST(WidgetHands, WhatTheFormShowsAndTheWindowDoesNotIsAnError) {
          cover.raise();
        },
        "its widget lies under cover"},
-      // The ride's panel lies over the button by design, but not where it is not to be seen itself.
+      // The ride's panel may cover the button, but not while it is hidden itself.
       {"MyButton5",
        [&](bool on) {
          form.Picture6.visible = on;
