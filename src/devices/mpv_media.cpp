@@ -11,7 +11,7 @@ using platform::TimeFormat;
 
 constexpr std::chrono::seconds checkInterval{1};
 
-// The address under which the library plays bytes that lie in no file.
+// An address by which libmpv plays bytes from memory.
 std::string inMemory(const std::vector<char>& bytes) {
   constexpr const char* digits = "0123456789abcdef";
   std::string address = "hex://";
@@ -54,7 +54,7 @@ MpvPlayer* MpvMedia::playerOf(const std::string& alias) {
   return device->player.get();
 }
 
-// Without a loudspeaker the library plays on unheard, and it does not notice one that comes back.
+// Without a loudspeaker libmpv goes on playing to nowhere, and it does not notice one that comes back.
 void MpvMedia::restoreOutput(MpvPlayer& player) {
   const auto now = std::chrono::steady_clock::now();
   if (now - checkedAt_ < checkInterval || player.mode() != MpvPlayer::Mode::Playing) return;
@@ -129,7 +129,7 @@ void MpvMedia::save(const std::string& alias, const std::string& path) {
 
 void MpvMedia::setTimeFormat(const std::string& alias, TimeFormat format) {
   Device* device = find(alias);
-  // A player of files counts in time alone.
+  // Only a recorder can count in bytes.
   if (device != nullptr && (device->recorder || format == TimeFormat::Milliseconds)) {
     device->timeFormat = format;
   }

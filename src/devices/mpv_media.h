@@ -1,4 +1,5 @@
-// Music and recorder on the real devices: libmpv plays, the sound server records.
+// Music and recorder on the real devices: libmpv plays, the sound server records. A file that cannot be
+// played is not opened, and orders to a device that is not open are ignored.
 #pragma once
 
 #include <chrono>
@@ -51,9 +52,9 @@ class MpvMedia final : public platform::MediaBackend {
   };
 
   Device* find(const std::string& alias);
-  // What plays the file or the take; null where there is nothing to play.
+  // The player of the opened file or of the recorder's take; null if there is nothing to play.
   MpvPlayer* playerOf(const std::string& alias);
-  // Lets it play, at the program's level from its first sample.
+  // Starts playing, with the program's level set before the first sample sounds.
   void playAtLevel(MpvPlayer& player);
   void restoreOutput(MpvPlayer& player);
 
@@ -61,7 +62,7 @@ class MpvMedia final : public platform::MediaBackend {
   PulseOutputLevel& level_;
   platform::FileSystem& files_;
   std::map<std::string, Device> devices_;
-  std::map<std::string, int> volumes_;                 // by name, for what is opened under it next, too
+  std::map<std::string, int> volumes_;  // in thousandths, kept for later files of the same alias
   std::chrono::steady_clock::time_point checkedAt_{};  // when restoreOutput last looked
 };
 

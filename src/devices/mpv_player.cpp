@@ -13,8 +13,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto patience = 3s;                 // with a disk that has to wake up
-constexpr std::string_view nowhere = "null";  // the output that takes the sound and drops it
+constexpr auto patience = 3s;                 // for a disk that must spin up first
+constexpr std::string_view nowhere = "null";  // libmpv's output that drops all sound
 
 constexpr std::array<std::pair<const char*, const char*>, 14> startOptions{{
     {"config", "no"},
@@ -24,7 +24,7 @@ constexpr std::array<std::pair<const char*, const char*>, 14> startOptions{{
     {"access-references", "no"},
     {"input-default-bindings", "no"},
     {"vid", "no"},
-    {"demuxer", "lavf"},  // the library's own readers are for films and lists, and look long at noise
+    {"demuxer", "lavf"},  // the other readers are for films and playlists, and search damaged files for long
     {"idle", "yes"},
     {"keep-open", "no"},
     {"pause", "yes"},
@@ -34,7 +34,7 @@ constexpr std::array<std::pair<const char*, const char*>, 14> startOptions{{
 }};
 
 mpv_handle* newHandle() {
-  std::setlocale(LC_NUMERIC, "C");  // the library refuses to live with any other
+  std::setlocale(LC_NUMERIC, "C");  // libmpv does not start with any other
   mpv_handle* handle = mpv_create();
   if (handle == nullptr) return nullptr;
   for (const auto& [name, value] : startOptions) mpv_set_option_string(handle, name, value);
@@ -58,7 +58,7 @@ MpvPlayer::MpvPlayer(std::string address) : address_(std::move(address)), handle
   opened_ = true;
 }
 
-// Waits until the piece stands there, or cannot be read.
+// Waits until the piece is ready at `from`, in ms. False if it cannot be read.
 bool MpvPlayer::load(std::int64_t from) {
   mpv_set_property_string(handle_.get(), "start", seconds(from).c_str());
   std::array<const char*, 3> command{"loadfile", address_.c_str(), nullptr};
@@ -131,7 +131,7 @@ void MpvPlayer::pause() {
 void MpvPlayer::seek(std::int64_t milliseconds) {
   holdAs(Mode::Stopped);
   const std::int64_t target = std::clamp<std::int64_t>(milliseconds, 0, length_);
-  if (ended_) {  // the library has closed the piece
+  if (ended_) {  // libmpv has closed the piece
     load(target);
     return;
   }
@@ -144,7 +144,7 @@ void MpvPlayer::setSpeed(double factor) {
   mpv_set_property(handle_.get(), "speed", MPV_FORMAT_DOUBLE, &factor);
 }
 
-// The library takes the third power of what it is told.
+// libmpv cubes its volume to get the amplitude.
 void MpvPlayer::setVolume(double amplitude) {
   double percent = 100 * std::cbrt(amplitude);
   mpv_set_property(handle_.get(), "volume", MPV_FORMAT_DOUBLE, &percent);
@@ -190,7 +190,7 @@ std::int64_t MpvPlayer::position() {
   if (sought_ >= 0) return sought_;
   double reached = 0;
   mpv_get_property(handle_.get(), "time-pos", MPV_FORMAT_DOUBLE, &reached);
-  // Some decoders run a little past the length that they told.
+  // Some decoders play a little past the length that they announced.
   return std::clamp<std::int64_t>(std::llround(reached * 1000), 0, std::max<std::int64_t>(length_ - 1, 0));
 }
 

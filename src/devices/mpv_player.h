@@ -13,28 +13,28 @@ class MpvPlayer {
  public:
   enum class Mode { Stopped, Paused, Playing };
 
-  // A file's path, or any other address that the library takes. Waits until the length is known.
+  // Opens a file's path, or any other address that libmpv accepts; waits up to 3 s until its length is known.
   explicit MpvPlayer(std::string address);
-  // False: there is nothing in it to play.
+  // False if it cannot be played: the other functions must not be called then.
   [[nodiscard]] bool opened() const { return opened_; }
 
   void play();
   void stop() { holdAs(Mode::Stopped); }
   void pause();
-  void seek(std::int64_t milliseconds);  // leaves it stopped
+  void seek(std::int64_t milliseconds);  // it is stopped afterwards
   void setSpeed(double factor);
-  void setVolume(double amplitude);  // 1 is the piece's own
+  void setVolume(double amplitude);  // 1 is as loud as recorded
   void setAudible(bool audible);
-  // Whether nobody hears what is played, since there is no sound server.
+  // Whether the sound goes nowhere because there was no sound server.
   [[nodiscard]] bool unheard();
-  // Waits until the stream of sound is open, at the server or to nowhere; nothing of it has sounded yet.
+  // Waits up to 3 s until the output is open. To be called before play(), so that a level can still be set.
   void awaitOutput();
-  // Looks for a sound server anew; what it had been given already is not played again.
+  // Looks for a sound server again. Sound that went to the old output is not repeated.
   void reopenOutput();
 
   [[nodiscard]] Mode mode();
   [[nodiscard]] std::int64_t length() const { return length_; }  // ms
-  // The length exactly once the piece has ended, and only then.
+  // ms; equal to length() only once the piece has ended.
   [[nodiscard]] std::int64_t position();
 
  private:
@@ -55,7 +55,7 @@ class MpvPlayer {
   bool loaded_ = false;
   bool ended_ = false;
   std::int64_t length_ = 0;
-  std::int64_t sought_ = -1;  // the target of the last seek, until the piece plays on from it; -1: none
+  std::int64_t sought_ = -1;  // ms, target of the last seek until it plays on from there; else -1
   bool arrived_ = false;
   Mode mode_ = Mode::Stopped;
 };

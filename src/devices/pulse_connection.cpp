@@ -13,10 +13,9 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 constexpr milliseconds attemptPatience{500};
-constexpr milliseconds attemptPause{1000};  // the volume is asked for several times a second
+constexpr milliseconds attemptPause{1000};  // callers ask several times a second
 constexpr milliseconds pollInterval{10};
 constexpr milliseconds answerPatience{500};
-
 }  // namespace
 
 void PulseConnection::FreeLoop::operator()(pa_threaded_mainloop* loop) const {

@@ -1,5 +1,5 @@
-// The one connection to the sound server (PulseAudio, or PipeWire in its place), for all that sounds,
-// records or sets a level. The library's own thread lives in here and touches nothing but this object.
+// The program's one connection to the sound server (PulseAudio, or PipeWire in its place), shared by all that
+// plays, records or sets a level. The library's own thread runs in here.
 #pragma once
 
 #include <pulse/pulseaudio.h>
@@ -19,8 +19,8 @@ inline constexpr std::string_view noCard = "auto_null";
 
 class PulseConnection {
  public:
-  // Holds the library's thread off. Every pa_ call on the context or a stream is made under one; may be
-  // nested, but no wait below is called while one lives, since nothing would ever arrive.
+  // Keeps the library's thread from running: every pa_ call on the context or a stream needs one. Locks may
+  // be nested, but none may be held during a wait below, since no answer could arrive.
   class Lock {
    public:
     explicit Lock(const PulseConnection& connection) : loop_(connection.loop_.get()) {
@@ -39,22 +39,22 @@ class PulseConnection {
   PulseConnection(const PulseConnection&) = delete;
   PulseConnection& operator=(const PulseConnection&) = delete;
 
-  // Whether the server answers. A lost or refused connection is tried anew, no more than once a second, so a
-  // server that comes back is found; an attempt that hangs is waited for once, and shortly.
+  // Whether the server answers. If not, connects again, at most once a second; an attempt that hangs is
+  // waited for once, for 500 ms.
   bool ready();
-  // Whether the server answers and has a device to play on; what only stands in for one does not count.
+  // Whether the server answers and has a real device to play on.
   bool hasLoudspeaker();
   // The live context, to be used under a Lock and only after ready().
   [[nodiscard]] pa_context* context() const { return context_.get(); }
 
   // Wakes a wait below; for the library's callbacks.
   void notify();
-  // Waits until `done`, which is asked under a Lock, or the time is over, or `goOn` says no. `goOn` is asked
-  // without a Lock at least every 10 ms. True only if done.
+  // Waits until `done` is true, the time is over or `goOn` is false; true only if done. `done` is called
+  // under a Lock, `goOn` without one and at least every 10 ms.
   bool waitUntil(const std::function<bool()>& done, std::chrono::milliseconds timeout,
                  const std::function<bool()>& goOn = {});
-  // Waits for a request's end and disposes of it; one that does not end in time is cancelled, so that its
-  // callback never comes. Takes null for a request that was refused.
+  // Waits for a request to end and frees it. False if it fails, was refused (null), or takes too long; it is
+  // then cancelled, so that its callback is never called.
   bool finish(pa_operation* operation, std::chrono::milliseconds timeout,
               const std::function<bool()>& goOn = {});
 

@@ -159,7 +159,7 @@ void PulseEndpointVolume::setLevel(double level) {
   if (!followed_) return;
   const PulseConnection::Lock lock(connection_);
   Device* device = writableDevice();
-  // A level that was read, and comes back rounded, leaves the finer or louder one as it is.
+  // The screen writes back the level that it read, rounded and capped: that must not change the volume.
   constexpr double halfPercent = 0.005;
   if (!device || std::abs(std::min(fractionOf(device->volume), 1.0) - level) <= halfPercent) return;
   pa_cvolume_scale(&device->volume, static_cast<pa_volume_t>(std::lround(level * PA_VOLUME_NORM)));

@@ -1,5 +1,5 @@
-// The master volume at the sound server. The server reports each change, also by other programs, and the last
-// report is kept: reading the volume costs nothing.
+// The volume of the sound server's default device. The server reports each change, also by other programs,
+// and the last report is kept, so that reading the volume sends no request.
 #pragma once
 
 #include <pulse/pulseaudio.h>
@@ -21,7 +21,7 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
   bool open() override;
   bool muted() override;
   void setMuted(bool muted) override;
-  // The plain fraction of the server's full volume, which is what people see in their desktop.
+  // As a fraction of the server's full volume, like desktops show it; above 1 if amplified.
   double level() override;
   void setLevel(double level) override;
   int channels() override;
@@ -34,25 +34,25 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
     std::string description;
   };
 
-  // Follows the server that answers now, which may have come back meanwhile. False: none does.
+  // Subscribes to the server that answers now, which may have restarted. False if none answers.
   bool follow();
   void stopFollowing();
   [[nodiscard]] std::optional<Device> currentDevice();
   // The device to write to; null if the last read found none, since the caller then knows no level to set.
   [[nodiscard]] Device* writableDevice();
   [[nodiscard]] pa_operation* askForDevice();
-  // Remembers a request, to cancel it if this object goes before the answer comes.
+  // Remembers a request, to cancel it if this object is destroyed before the answer comes.
   void keepRequest(pa_operation* request);
   static void answered(pa_context* context, const pa_sink_info* sink, int end, void* self);
   static void changed(pa_context* context, pa_subscription_event_type_t what, uint32_t index, void* self);
   static void done(pa_context* context, int success, void* self);
 
   PulseConnection& connection_;
-  pa_context* followed_ = nullptr;  // held, so that its address cannot come back as another's
+  pa_context* followed_ = nullptr;  // referenced, so that no new context can get its address
   std::string sink_;
-  std::optional<Device> device_;  // with all below, touched under the connection's lock
+  std::optional<Device> device_;  // this and all below are used under the connection's lock
   std::vector<pa_operation*> requests_;
-  int writes_ = 0;           // not confirmed yet: a report that comes meanwhile is older than they are
+  int writes_ = 0;           // not confirmed yet; a report that comes meanwhile is out of date
   bool deviceSeen_ = false;  // whether the last read found a device
 };
 

@@ -9,7 +9,7 @@
 namespace devices {
 namespace {
 
-// A stream may open long after its level was chosen: how often to look for new ones.
+// How often to look for streams that were opened after the level was chosen.
 constexpr std::chrono::milliseconds askInterval{1000};
 constexpr std::chrono::milliseconds patience{500};
 
@@ -66,7 +66,7 @@ void PulseOutputLevel::set(std::uint16_t left, std::uint16_t right) {
   const PulseConnection::Lock lock(connection_);
   left_ = left;
   right_ = right;
-  known_ = finishAsking();  // an answer that is under way may have passed some streams already
+  known_ = finishAsking();  // the answer to an earlier request may have set some streams already
   if (!known_) return;
   asking_ = askForStreams();
 }

@@ -13,26 +13,26 @@ class PulseOutputLevel final : public platform::OutputLevel {
   explicit PulseOutputLevel(PulseConnection& connection) : connection_(connection) {}
   ~PulseOutputLevel() override;
 
-  // Asks the server for the streams and returns; they are set as the answer comes in.
+  // 0 to 65535 on each side. Returns at once; the streams are set when the server's answer comes in.
   void set(std::uint16_t left, std::uint16_t right) override;
-  // The same with the level as it is: a library may have opened a stream that nobody asked for.
+  // Sets the same level again, for streams that a library has opened since.
   void reapply() { set(left_, right_); }
-  // Returns when every stream that there is now has the level: before one of them begins to sound.
+  // Waits until every open stream has the level. To be called before one of them begins to sound.
   void applyToAll();
   // The level for a stream of these channels that is about to be opened.
   [[nodiscard]] pa_cvolume volumeOf(const pa_channel_map& channels) const;
 
  private:
-  // Asks for the streams and sets those found; null without an answer to come. Under a lock.
+  // Asks for the streams and sets those found; null if the request was refused. Needs a lock.
   pa_operation* askForStreams();
   void applyTo(const pa_sink_input_info& input);
-  // Whether nothing is under way; disposes of what has ended. Under a lock.
+  // Whether no request is under way; frees one that has ended. Needs a lock.
   bool finishAsking();
 
   PulseConnection& connection_;
   pa_operation* asking_ = nullptr;
-  bool known_ = false;               // whether left_ and right_ were asked for already
-  pa_operation* setting_ = nullptr;  // the last of what `applyTo` has set
+  bool known_ = false;               // whether a request with the present level was sent
+  pa_operation* setting_ = nullptr;  // the last request of applyTo()
   std::uint16_t left_ = 0xFFFF;
   std::uint16_t right_ = 0xFFFF;
   std::chrono::steady_clock::time_point askedAt_{};

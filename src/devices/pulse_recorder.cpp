@@ -5,7 +5,7 @@
 namespace devices {
 namespace {
 
-constexpr std::size_t longestTake = 600;  // seconds; whoever forgets a recording shall not fill the memory
+constexpr std::size_t longestTake = 600;  // s; a forgotten recording must not fill the memory
 constexpr std::uint32_t serversChoice = static_cast<std::uint32_t>(-1);
 
 }  // namespace
@@ -42,7 +42,7 @@ void PulseRecorder::read(pa_stream* stream, std::size_t, void* recorder) {
     std::size_t size = 0;
     if (pa_stream_peek(stream, &data, &size) < 0 || size == 0) return;
     const std::size_t room = self.limit_ - std::min(self.limit_, self.samples_.size());
-    if (data != nullptr) {  // else a hole in what came
+    if (data != nullptr) {  // null marks a gap in the recording
       const auto* bytes = static_cast<const unsigned char*>(data);
       self.samples_.insert(self.samples_.end(), bytes, bytes + std::min(size, room));
     }

@@ -16,7 +16,7 @@ class PulseRecorder {
   PulseRecorder(const PulseRecorder&) = delete;
   PulseRecorder& operator=(const PulseRecorder&) = delete;
 
-  // Forgets the take before. Without a server or a microphone nothing is recorded.
+  // Drops the previous take. Without a server or a microphone nothing is recorded.
   void start(const platform::RecordingFormat& format);
   void stop();
   [[nodiscard]] bool running() const;

@@ -19,7 +19,7 @@ std::vector<std::int16_t> makeBeep() {
   constexpr double pitch = 880;
   constexpr double level = 8000;
   constexpr int frames = WavDecoder::sampleRate / 5;
-  constexpr int ramp = WavDecoder::sampleRate / 200;  // without it the ends click
+  constexpr int ramp = WavDecoder::sampleRate / 200;  // fades in and out, else both ends click
   std::vector<std::int16_t> samples;
   samples.reserve(frames * 2);
   for (int frame = 0; frame < frames; ++frame) {

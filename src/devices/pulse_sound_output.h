@@ -17,10 +17,10 @@
 
 namespace devices {
 
-// What the desktop does around a sound that blocks it; each may be left out.
+// Called while a sound blocks the program. Each may be empty.
 struct SoundHooks {
   std::function<void()> whileBlocking;                         // about every 10 ms: repaints
-  std::function<bool()> giveUp;                                // true: the program ends, stop sounding
+  std::function<bool()> giveUp;                                // true when the program ends: the sound stops
   std::function<void(const platform::SoundClip*)> onSpeaking;  // the prompt that begins; null when it ends
 };
 
@@ -31,16 +31,16 @@ class PulseSoundOutput final : public platform::SoundOutput {
   bool hasDevice() override;
   void play(const platform::SoundClip& clip) override;
   void playFile(const std::string& path) override;
-  // Returns when nothing is left to hear: before the microphone is opened, for one.
+  // Waits until the last sound has been heard to its end, for example before the microphone is opened.
   void settle() { stream_.settle(); }
 
  private:
-  // A prompt, converted as far as it was ever played: its first words need not wait for its last.
+  // A prompt, decoded only as far as it is played, so that a long one starts at once.
   struct Prompt {
     explicit Prompt(std::span<const unsigned char> wav) : decoder(std::make_unique<WavDecoder>(wav)) {}
     std::size_t read(std::size_t from, std::span<std::int16_t> piece);
 
-    std::unique_ptr<WavDecoder> decoder;  // null once all is converted
+    std::unique_ptr<WavDecoder> decoder;  // null once all is decoded
     std::vector<std::int16_t> samples;
   };
 
@@ -50,7 +50,7 @@ class PulseSoundOutput final : public platform::SoundOutput {
   PulseConnection& connection_;
   SoundHooks hooks_;
   std::chrono::steady_clock::time_point repaintedAt_{};
-  std::unordered_map<const unsigned char*, Prompt> prompts_;  // by where the bank keeps the clip
+  std::unordered_map<const unsigned char*, Prompt> prompts_;  // by the address of the clip's bytes
   PulseVoiceStream stream_;
 };
 

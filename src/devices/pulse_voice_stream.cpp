@@ -21,8 +21,8 @@ constexpr std::int64_t leadBytes = 30 * bytesPerMs;
 constexpr std::int64_t aheadBytes = 1000 * bytesPerMs;  // a repaint may take this long before a file stutters
 constexpr std::size_t samplesAtOnce = WavDecoder::sampleRate / 4 * WavDecoder::channelCount;
 constexpr milliseconds pollInterval{10};
-constexpr milliseconds soundingTail{60};  // what the server and the card still hold when all has been taken
-constexpr milliseconds patience{2000};    // with a server that has stopped taking sound
+constexpr milliseconds soundingTail{60};  // for the sound that the server and the card still hold at the end
+constexpr milliseconds patience{2000};    // for a server that takes no more sound
 
 }  // namespace
 
@@ -77,7 +77,7 @@ bool PulseVoiceStream::open() {
   return opened;
 }
 
-// Where the server stands; none when it does not say.
+// How far the server has played and been written to; none if it does not answer.
 std::optional<PulseVoiceStream::Position> PulseVoiceStream::position(const std::function<bool()>& goOn) {
   pa_operation* request = nullptr;
   {
@@ -108,7 +108,7 @@ void PulseVoiceStream::flush() {
   connection_.finish(request, patience);
 }
 
-// True unless the stream broke.
+// Plays until `lead` bytes are left or `goOn` is false. False if the stream breaks.
 bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std::function<bool()>& goOn) {
   std::vector<std::int16_t> piece(samplesAtOnce);
   bool ended = false;

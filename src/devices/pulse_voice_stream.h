@@ -1,5 +1,5 @@
-// The one playback stream that stays open from prompt to prompt, so that the next joins the last without a
-// gap: a play returns a lead before its last sample is taken, and what comes next is written behind it.
+// The playback stream of the voice. So that prompts follow each other without a gap, it stays open between
+// them, and play() returns 30 ms before the end of a sound.
 #pragma once
 
 #include <chrono>
@@ -21,15 +21,15 @@ class PulseVoiceStream {
 
   // `goOn` is asked about every 10 ms while a play waits; false ends the play and silences it.
   PulseVoiceStream(PulseConnection& connection, const PulseOutputLevel& level, std::function<bool()> goOn);
-  // Lets the tail sound to its end.
+  // Waits until the last sound has ended.
   ~PulseVoiceStream();
   PulseVoiceStream(const PulseVoiceStream&) = delete;
   PulseVoiceStream& operator=(const PulseVoiceStream&) = delete;
 
-  // Returns when all but the lead has been taken, or at once if the stream cannot be had or breaks; a broken
-  // one is dropped, and the next play opens another.
+  // Returns 30 ms before the end of the sound, or at once if the stream cannot be opened or breaks; the next
+  // call then opens another.
   void play(const Source& source);
-  // Returns when nothing of the last play is left to hear.
+  // Waits until the last sound has been heard to its end.
   void settle();
 
  private:

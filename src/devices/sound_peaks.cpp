@@ -9,7 +9,7 @@
 namespace devices {
 namespace {
 
-constexpr sf_count_t longestFile = 100'000'000;  // frames; what claims to be longer is no announcement
+constexpr sf_count_t longestFile = 100'000'000;  // frames; a damaged file may claim any length
 
 }  // namespace
 

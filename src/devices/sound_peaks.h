@@ -1,4 +1,4 @@
-// The form of a sound file: how loud it is along its length.
+// How loud a sound file is along its length, for drawing its waveform.
 #pragma once
 
 #include <cstddef>
@@ -7,8 +7,7 @@
 
 namespace devices {
 
-// The highest loudness in each of so many equal parts of a sound file, 0 to 1; empty where nobody can read
-// it.
+// The highest amplitude in each of `parts` equal parts of a sound file, 0 to 1; empty if it cannot be read.
 [[nodiscard]] std::vector<float> peaksOf(const std::string& path, std::size_t parts);
 
 }  // namespace devices

@@ -51,7 +51,7 @@ WavDecoder::WavDecoder(std::span<const unsigned char> wav) : memory_{wav} {
 }
 
 WavDecoder::WavDecoder(const std::string& path) {
-  // A pipe or a device would open, and never end.
+  // A pipe or a device can be opened too, but reading it might never end.
   std::error_code ignored;
   if (!std::filesystem::is_regular_file(path, ignored)) return;
   file_.reset(sf_open(path.c_str(), SFM_READ, &info_));
@@ -72,7 +72,7 @@ void WavDecoder::prepare() {
   if (!converter_) file_.reset();
 }
 
-// The next frames of the file, of more than two channels only the first two.
+// Reads the next frames of the file, of more than two channels only the first two.
 long WavDecoder::fill(float** data, std::size_t wanted) {
   const auto frames = sf_readf_float(file_.get(), input_.data(), static_cast<sf_count_t>(wanted));
   if (info_.channels > channels_) {

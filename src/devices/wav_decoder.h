@@ -1,4 +1,4 @@
-// A WAV file, in memory or on disk, read piece by piece as 44100 Hz stereo s16, whatever it holds.
+// Reads a WAV file of any format piece by piece, from memory or disk, as 16 bit stereo at 44100 Hz.
 #pragma once
 
 #include <samplerate.h>
@@ -18,13 +18,13 @@ class WavDecoder {
   static constexpr int sampleRate = 44100;
   static constexpr int channelCount = 2;
 
-  // The bytes are read while the decoder lives.
+  // The bytes must outlive the decoder.
   explicit WavDecoder(std::span<const unsigned char> wav);
   explicit WavDecoder(const std::string& path);
   WavDecoder(const WavDecoder&) = delete;
   WavDecoder& operator=(const WavDecoder&) = delete;
 
-  // False: nothing that can be played.
+  // False if the file cannot be played.
   [[nodiscard]] bool opened() const { return file_ != nullptr; }
   // The next samples, left and right in turn. Returns how many; 0 at the end.
   std::size_t read(std::span<std::int16_t> samples);
@@ -48,7 +48,7 @@ class WavDecoder {
   Memory memory_;
   SF_INFO info_{};
   std::unique_ptr<SNDFILE, CloseFile> file_;
-  std::unique_ptr<SRC_STATE, FreeConverter> converter_;  // none where the rate is right already
+  std::unique_ptr<SRC_STATE, FreeConverter> converter_;  // null if the rate is right already
   int channels_ = 0;                                     // that are kept: 1 or 2
   std::vector<float> input_;
   std::vector<float> output_;
