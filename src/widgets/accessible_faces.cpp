@@ -33,7 +33,7 @@ constexpr std::array<Face, 14> faces{{
     {"widgets::ZoneBand", QAccessible::Graphic},
 }};
 
-// Its name is its accessible name, if it has one, and the text that it shows.
+// A widget that draws its text itself. Its name is its accessible name, if it has one, and that text.
 class Drawn final : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;

@@ -1,12 +1,11 @@
-// What the program's own widgets are to somebody who does not see them: a role, and a name that says what
-// stands there.
+// Presents the program's own widgets to screen readers, each with a role and a name that includes its text.
 #pragma once
 
 class QWidget;
 
 namespace widgets {
 
-// For the whole application; asking again changes nothing.
+// For the whole application; calling it again changes nothing.
 void installAccessibleFaces();
 // To be called when the text that a widget draws has changed.
 void announceNewText(QWidget& drawn);

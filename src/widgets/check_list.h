@@ -9,7 +9,7 @@ class CheckList final : public GridTable {
   Q_OBJECT
  public:
   explicit CheckList(QWidget* parent = nullptr);
-  // Where a row's box is, in the viewport.
+  // The place of a row's box in the viewport, px; rows from 1.
   [[nodiscard]] QRect boxRect(int row) const;
 
  protected:

@@ -11,8 +11,8 @@ namespace widgets {
 namespace {
 
 constexpr int digitSize = 210;         // a digit is then a fifth of the window high
-constexpr double colonWidth = 0.24;    // of the font's size: narrower than its own, for larger digits
-constexpr double digitsHeight = 0.86;  // of the font's size: no digit goes below the line
+constexpr double colonWidth = 0.24;    // of the font's size; narrower than the font's own colon
+constexpr double digitsHeight = 0.86;  // of the font's size; digits have no descenders
 
 int textWidth(const QFont& font, const QString& text) {
   return QFontMetrics(font).horizontalAdvance(text);
@@ -56,7 +56,7 @@ void ChronoDigits::paintEvent(QPaintEvent*) {
   painter.setPen(dim ? mixed(QGuiApplication::palette().color(role::ground), bright,
                              isDark(QGuiApplication::palette()) ? 0.38 : 0.50)
                      : bright);
-  // By what is really drawn: the round digits rise above the height of the others.
+  // Centred by the outline of a round digit, which is higher than the font's digit height.
   const QRect zero = QFontMetrics(font).tightBoundingRect(QStringLiteral("0"));
   const int baseline = (height() - zero.height()) / 2 - zero.top();
   if (!leading_) painter.drawText(0, baseline, QStringLiteral(":"));

@@ -5,11 +5,11 @@
 
 namespace widgets {
 
-// Two digits of the chronometer; a leading "00" can be dimmed. Its colon stands before it.
+// Two digits of the chronometer, with a colon before them.
 class ChronoDigits final : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QString text READ text WRITE setText)
-  Q_PROPERTY(bool leading MEMBER leading_)  // no colon, and dim while it reads "00"
+  Q_PROPERTY(bool leading MEMBER leading_)  // no colon, and dimmed while it reads "00"
 
  public:
   explicit ChronoDigits(QWidget* parent = nullptr);

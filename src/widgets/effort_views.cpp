@@ -17,8 +17,8 @@ namespace widgets {
 namespace {
 
 constexpr double headroom = 14;  // above the bars, for the knob and the announcements' marks
-constexpr double slimmest = 2;
-constexpr double knob = 5;  // the radius of the present place's
+constexpr double slimmest = 2;   // px of a bar's width
+constexpr double knob = 5;       // radius of the present place's mark
 
 }  // namespace
 
@@ -142,7 +142,7 @@ void SessionProfile::layOut() {
   const double top = dp(this, headroom);
   const double full = height() - top;
   const auto timed = std::count_if(steps_.begin(), steps_.end(), [](const auto& s) { return s.seconds > 0; });
-  // The slimmest bars get their width beforehand, so that the rest still fits.
+  // Each timed bar has the least width; the durations share only what is left.
   const double room = width() - slimmest * static_cast<double>(timed);
   double x = 0;
   for (const ProfileStep& step : steps_) {

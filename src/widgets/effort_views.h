@@ -1,4 +1,4 @@
-// What shows a session's efforts by colour and height: the chip beside a word, the bar of the present
+// Widgets that show a session's efforts by colour and height: a chip beside a word, the bar of the present
 // sequence, and the profile of the whole session.
 #pragma once
 
@@ -13,7 +13,7 @@ namespace widgets {
 
 class EffortChip final : public QWidget {
   Q_OBJECT
-  Q_PROPERTY(int px MEMBER px_)  // its height
+  Q_PROPERTY(int px MEMBER px_)  // its height at a scale of 1
 
  public:
   explicit EffortChip(QWidget* parent = nullptr);
@@ -33,6 +33,7 @@ class SequenceBar final : public QWidget {
   Q_OBJECT
  public:
   explicit SequenceBar(QWidget* parent = nullptr);
+  // `share` of the sequence is over, 0 to 1.
   void show(model::EffortFamily family, double share);
   [[nodiscard]] QSize sizeHint() const override;
 
@@ -48,7 +49,7 @@ struct ProfileStep {
   std::string kind;
   int seconds = 0;
   std::string target;
-  int row = 0;  // what a press on its bar selects
+  int row = 0;  // of the list, selected by a press on the bar
   bool operator==(const ProfileStep&) const = default;
 };
 
@@ -58,7 +59,7 @@ class SessionProfile final : public QWidget {
   explicit SessionProfile(QWidget* parent = nullptr);
   void setSteps(std::vector<ProfileStep> steps);
   [[nodiscard]] const std::vector<ProfileStep>& steps() const { return steps_; }
-  // The present place: so many seconds into a step; -1 for no place.
+  // Marks the present place, so many seconds into a step; a step of -1 takes the mark away.
   void setPlace(int step, double seconds);
   void selectRow(int row);
   void setClickable(bool clickable);
@@ -76,7 +77,7 @@ class SessionProfile final : public QWidget {
 
  private:
   void layOut();
-  // Where the present place is marked.
+  // Where the mark is, px.
   [[nodiscard]] double markX() const;
   [[nodiscard]] QRect markRect() const;
   [[nodiscard]] int stepAt(const QPointF& point) const;
@@ -89,7 +90,7 @@ class SessionProfile final : public QWidget {
   bool clickable_ = false;
 };
 
-// A range of beats within what a heart can do; nothing of it where it is empty.
+// A band from 40 to 220 beats a minute with the part of a heart-rate zone coloured; an empty zone has none.
 class ZoneBand final : public QWidget {
   Q_OBJECT
  public:

@@ -1,4 +1,4 @@
-// A label that gives up the end of its text where its place is too narrow, and shows all of it on hover.
+// A label that shortens a text too long for its place, and marks the cut with an ellipsis.
 #pragma once
 
 #include <QLabel>

@@ -22,7 +22,7 @@ bool FadeAway::eventFilter(QObject* watched, QEvent* event) {
   if (!leaves || !panel_.parentWidget()->isVisible() || !QApplication::isEffectEnabled(Qt::UI_General)) {
     return false;
   }
-  // The panel itself is hidden at once: what fades is a picture of it, which lets the mouse through.
+  // The panel itself is hidden at once. A picture of it fades, and lets the mouse through.
   auto* ghost = new QLabel(panel_.parentWidget());
   ghost->setAttribute(Qt::WA_TransparentForMouseEvents);
   ghost->setPixmap(panel_.grab());

@@ -1,4 +1,4 @@
-// A panel that is hidden fades out, where the desktop lets things move by themselves.
+// Lets a panel fade out when it is hidden, unless the desktop wants no animations.
 #pragma once
 
 #include <QObject>

@@ -42,7 +42,7 @@ QSize FitLabel::minimumSizeHint() const {
 
 QFont FitLabel::fitted(const QRect& into) const {
   for (int px = px_; px > smallest; px -= 2) {
-    // A text that must wrap is wanted smaller: the first size at which two lines fit, too.
+    // The largest size at which the text fits, if need be on several lines.
     if (const QFont font = numberFont(this, px); fits(font, into)) return font;
   }
   return numberFont(this, smallest);

@@ -1,4 +1,4 @@
-// A text that is drawn as large as its place allows, up to a size of its own: the values of a ride.
+// Draws a text as large as its place allows, up to a largest size: for the values of a ride.
 #pragma once
 
 #include <QWidget>
@@ -8,16 +8,16 @@ namespace widgets {
 class FitLabel : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QString text READ text WRITE setText)
-  Q_PROPERTY(QString unit MEMBER unit_)  // small behind the text
-  Q_PROPERTY(int px MEMBER px_)          // the largest size
-  Q_PROPERTY(QString tone MEMBER tone_)  // text, second, wrong
+  Q_PROPERTY(QString unit MEMBER unit_)  // drawn small behind the text
+  Q_PROPERTY(int px MEMBER px_)          // the largest font size at a scale of 1
+  Q_PROPERTY(QString tone MEMBER tone_)  // "text", "second" or "wrong"
   Q_PROPERTY(bool centred MEMBER centred_)
 
  public:
   explicit FitLabel(QWidget* parent = nullptr);
   [[nodiscard]] QString text() const { return text_; }
   void setText(const QString& text);
-  // Whether its place holds the text at the smallest size.
+  // Whether the text fits, at the smallest size if need be.
   [[nodiscard]] bool textFits() const;
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
@@ -31,7 +31,7 @@ class FitLabel : public QWidget {
  private:
   [[nodiscard]] QFont fitted(const QRect& into) const;
   [[nodiscard]] bool fits(const QFont& font, const QRect& into) const;
-  // What the unit leaves to the text.
+  // The room that the unit leaves to the text.
   [[nodiscard]] QRect textRoom() const;
 
   QString text_;
@@ -41,7 +41,7 @@ class FitLabel : public QWidget {
   bool centred_ = false;
 };
 
-// The heart-rate target of a sequence. A size of 18 points marks a message in its place.
+// The heart-rate target of a sequence. With a size of 18 points the form shows a message instead.
 class HeartTarget final : public FitLabel {
   Q_OBJECT
   Q_PROPERTY(int pointSize READ pointSize WRITE setPointSize)

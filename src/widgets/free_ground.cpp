@@ -19,11 +19,11 @@ FreeGround::FreeGround(QWidget& panel, const std::function<bool(const QWidget&)>
 }
 
 bool FreeGround::eventFilter(QObject* watched, QEvent* event) {
-  // A finger comes down without having moved.
+  // On a touch screen no move comes before a press.
   if (event->type() != QEvent::MouseMove && event->type() != QEvent::MouseButtonPress) return false;
   const auto* mouse = static_cast<QMouseEvent*>(event);
   const bool moves = event->type() == QEvent::MouseMove;
-  // Qt passes a move on from a child that ignored it: the pointer is over that child, not over the ground.
+  // Qt passes on a move that a child has ignored: the pointer is then over that child, not over the ground.
   if (static_cast<QWidget*>(watched)->childAt(mouse->position().toPoint()) != nullptr) {
     return moves && watched == &panel_;
   }

@@ -1,4 +1,4 @@
-// The free ground of a panel: tells when the pointer moves where the panel shows nothing but itself.
+// Tells when the pointer moves over the free ground of a panel, where no widget that matters lies.
 #pragma once
 
 #include <QObject>
@@ -12,7 +12,7 @@ namespace widgets {
 class FreeGround final : public QObject {
   Q_OBJECT
  public:
-  // `taken` tells which widgets of the panel are no ground, with all that they hold.
+  // `taken` says which widgets of the panel, with all that they hold, are not free ground.
   FreeGround(QWidget& panel, const std::function<bool(const QWidget&)>& taken);
 
  signals:
@@ -23,7 +23,8 @@ class FreeGround final : public QObject {
 
  private:
   QWidget& panel_;
-  QPointF pointer_;  // at the last move: a widget that appears under a resting pointer gets one, too
+  // At the last move: Qt also sends one to a widget that appears under a resting pointer.
+  QPointF pointer_;
 };
 
 }  // namespace widgets

@@ -6,7 +6,7 @@
 namespace widgets {
 namespace {
 
-constexpr std::size_t singly = 256;  // more changed cells than this are told as one area
+constexpr std::size_t singly = 256;  // more changed cells than this are reported as one area
 
 }  // namespace
 
@@ -27,7 +27,7 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int wanted) const {
-  // A session file fills its announcements up with blanks.
+  // Session files pad the names of announcements with blanks.
   if (wanted == Qt::DisplayRole) return toQt(grid_.text(index.row() + 1, index.column() + 1)).trimmed();
   return {};
 }

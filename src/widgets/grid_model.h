@@ -1,5 +1,5 @@
-// A grid of the logic as a table for Qt's views. Changes are gathered and told to the view once control is
-// back in Qt's loop, so that a list of ten thousand rows made row by row costs one insertion.
+// Presents a grid of the logic to Qt's views. Changes are collected and passed on from Qt's event loop, so
+// that ten thousand rows added one by one cost the view one insertion.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -20,7 +20,7 @@ class GridModel final : public QAbstractTableModel {
   [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int wanted) const override;
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int wanted) const override;
-  // Tells the view at once what has changed so far.
+  // Passes the changes so far on at once.
   void flush();
 
  signals:
@@ -35,11 +35,11 @@ class GridModel final : public QAbstractTableModel {
 
   platform::Grid& grid_;
   QTimer pending_;
-  int rows_ = 0;  // as far as the view knows
+  int rows_ = 0;  // as last told to the view
   int columns_ = 0;
-  bool moved_ = false;  // rows came or went elsewhere than at the end
+  bool moved_ = false;  // rows were added or removed elsewhere than at the end
   bool columnsTouched_ = false;
-  std::set<std::pair<int, int>> cells_;  // changed; a column of 0 is the whole row
+  std::set<std::pair<int, int>> cells_;  // that changed; a column of 0 is the whole row
   int revealed_ = 0;
 };
 

@@ -19,7 +19,7 @@
 namespace widgets {
 namespace {
 
-// The form's column widths were made for another font: how much of its width each column needs in ours.
+// The form's column widths suit another font: the factor by which each column is wider or narrower here.
 constexpr std::array<double, 14> share{0, 1, 1.05, 0.94, 1.5, 1, 1.1, 1.05, 0.9, 0.85, 0.72, 1, 0.9, 1.05};
 
 class CellPainter final : public QStyledItemDelegate {
@@ -34,7 +34,7 @@ class CellPainter final : public QStyledItemDelegate {
     paintCellGround(*painter, option.rect, *table_, row, column);
 
     const std::string cell = fromQt(index.data().toString());
-    // A cell without a colour of its own goes with its row.
+    // A cell without a colour of its own takes that of its row.
     platform::CellStyle style = grid.style(row, column);
     if (style.colour.automatic) style = grid.style(row, model::column::sessionName);
     const bool marker = column > model::column::sessionName && cell.starts_with("--");
@@ -57,7 +57,7 @@ class CellPainter final : public QStyledItemDelegate {
   void paintKind(QPainter& painter, const QRect& place, const QString& kind) const {
     const int chip = dp(table_, 6);
     const int gap = dp(table_, 8);
-    // A long kind is written smaller before it is cut.
+    // A long name is drawn smaller before it is shortened.
     if (painter.fontMetrics().horizontalAdvance(kind) > place.width() - chip - gap) {
       painter.setFont(sansFont(table_, 13, painter.font().weight()));
     }
@@ -203,7 +203,7 @@ void GridTable::mouseMoveEvent(QMouseEvent* event) {
   point(event->position().toPoint());
 }
 
-// Other cells come under a pointer at rest.
+// Scrolling brings another cell under the pointer.
 void GridTable::wheelEvent(QWheelEvent* event) {
   QTableView::wheelEvent(event);
   point(event->position().toPoint());
@@ -273,7 +273,7 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// By a column that no grid hides.
+// Scrolls by a column that no list hides, since Qt does not scroll to a hidden cell.
 void GridTable::showRow(int row) {
   scrollTo(model_->index(row - 1, std::min(2, model_->columnCount() - 1)));
 }
@@ -302,7 +302,7 @@ void GridTable::scrollContentsBy(int dx, int dy) {
 }
 
 bool GridTable::viewportEvent(QEvent* event) {
-  // The grid's own tool tip only: the frame's around it must not come through.
+  // Shows only the list's own tool tip; Qt would show that of the frame around it when there is none.
   if (event->type() == QEvent::ToolTip) {
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTip(), this);
     return true;

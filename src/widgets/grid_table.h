@@ -1,4 +1,4 @@
-// The list on the screen: Qt's table over a grid, with the mouse and the keyboard in the grid's own terms.
+// The list on the screen: a Qt table that shows a grid, and turns mouse and keys into the grid's events.
 #pragma once
 
 #include <QTableView>
@@ -15,25 +15,25 @@ class GridTable : public QTableView {
   using Runner = std::function<void(std::function<void()>)>;
 
   explicit GridTable(QWidget* parent = nullptr);
-  // What the person does reaches the grid through `run`.
+  // The rider's actions are handed to `run`, which may delay them.
   void showGrid(platform::Grid& grid, Runner run);
   [[nodiscard]] const platform::Grid* grid() const { return grid_; }
   [[nodiscard]] GridModel* gridModel() const { return model_; }
-  // The place of a cell in the viewport; rows and columns from 1.
+  // The place of a cell in the viewport, px; rows and columns from 1.
   [[nodiscard]] QRect cellRect(int row, int column) const;
-  // Where a mouse button went down last.
+  // The cell pressed last; the left and right keys move the column.
   [[nodiscard]] int pressedRow() const { return pressedRow_; }
   [[nodiscard]] int pressedColumn() const { return cursorColumn_; }
-  // What a right press on a cell does, for a key: the keyboard stays in the cell where it is.
+  // Presses a cell with the right button on behalf of a key, without moving the keyboard's cell.
   void pressRight(int row, int column);
-  // Takes the scale of the window anew.
+  // To be called when the scale of the window has changed.
   void rescale();
-  // A tool tip for a column's header.
+  // `tip` gives the tool tip of a column's header.
   void setHeaderTip(std::function<QString(int column)> tip) { headerTip_ = std::move(tip); }
 
  signals:
   void layoutMoved();
-  // By a key: the cell in hand, or its row, is to be opened or taken away.
+  // A key asks to edit the keyboard's cell, or to delete its row.
   void cellOpened();
   void deletionAsked(int row);
 
@@ -55,7 +55,7 @@ class GridTable : public QTableView {
   };
   [[nodiscard]] Cell cellAt(const QPoint& point) const;
   void setCursorColumn(int column) { cursorColumn_ = column; }
-  // What the person does with the grid.
+  // Runs an action of the rider on the grid.
   void act(std::function<void(platform::Grid&)> deed) {
     run_([grid = grid_, deed = std::move(deed)] { deed(*grid); });
   }
@@ -77,7 +77,7 @@ class GridTable : public QTableView {
   int selectedRow_ = 0;
 };
 
-// What lies under a cell's text: the selected row's tint, the line below, the frame of the cell in hand.
+// Draws the ground of a cell: the selected row's tint, the line below, the frame of the keyboard's cell.
 void paintCellGround(QPainter& painter, const QRect& cell, const GridTable& table, int row, int column);
 
 }  // namespace widgets

@@ -1,4 +1,4 @@
-// A widget's look in the style sheet, changed while it is shown.
+// Changes the `look` of a widget, by which the style sheet chooses its style.
 #pragma once
 
 #include <QStyle>

@@ -70,7 +70,7 @@ void MovablePanel::lift() {
   panel_.raise();
   panel_.show();
   fit();
-  // The panel is narrower than its row was: the pointer holds it at its middle.
+  // The floating panel may be smaller than its place in the row: the pointer must still be over it.
   grip_ = QPoint(std::min(grip_.x(), panel_.width() / 2), std::min(grip_.y(), panel_.height() / 2));
 }
 

@@ -1,5 +1,5 @@
-// Lets a panel be pulled out of its row: held with the left button it floats over the page, where it is read
-// without being in the way; brought back over its row, or pressed twice, it takes its place there again.
+// Lets a panel be dragged out of its row with the left button, to float over the page out of the way. Dropped
+// over its row, or double-clicked, it goes back there.
 #pragma once
 
 #include <QObject>
@@ -17,7 +17,8 @@ class MovablePanel final : public QObject {
  public:
   // `panel` stands in the row `home` and floats inside `page`.
   MovablePanel(QFrame& panel, QBoxLayout& home, QWidget& page);
-  // Its text or the window's scale is another: it takes the height that it needs, inside the page.
+  // To be called when the panel's text or the window's scale has changed: fits its height, and keeps it
+  // inside the page.
   void fit();
 
  protected:
@@ -34,7 +35,7 @@ class MovablePanel final : public QObject {
   QBoxLayout& home_;
   QWidget& page_;
   QWidget* stand_ = nullptr;  // keeps the row's place while the panel is away
-  QString homeLook_;          // of the panel in its row
+  QString homeLook_;          // the panel's look while in its row
   QPoint grip_;               // where in the panel the pointer holds it
   bool held_ = false;
 };

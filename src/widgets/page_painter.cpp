@@ -31,7 +31,7 @@ struct Paper {
     QFont chosen(sansFamily());
     chosen.setPixelSize(std::max(1, static_cast<int>(std::lround(points / pointsPerTwip * unit))));
     chosen.setBold(bold);
-    chosen.setStyleStrategy(QFont::PreferNoShaping);  // "=>" stays what it is, and can be searched for
+    chosen.setStyleStrategy(QFont::PreferNoShaping);  // "=>" must not become an arrow: it is searched for
     return chosen;
   }
 };
@@ -40,10 +40,10 @@ int wrapFlags(Qt::Alignment place) {
   return static_cast<int>(place) | Qt::TextWordWrap;
 }
 
-// The largest font in which the text fits its cell; in the smallest one, what is too long is cut.
+// Takes the largest font in which the text fits its cell, and shortens a text too long for the smallest.
 void paintText(const Paper& paper, const QRectF& cell, const QString& cellText, Qt::Alignment place,
                bool bold) {
-  QString text = cellText.trimmed();  // a session file fills its announcements up with blanks
+  QString text = cellText.trimmed();  // session files pad the names of announcements with blanks
   const QRectF inside = cell.adjusted(40 * paper.unit, 10 * paper.unit, -40 * paper.unit, -25 * paper.unit);
   QFont font;
   bool fits = false;
@@ -73,7 +73,7 @@ Qt::Alignment placeOf(platform::CellPlace place) {
   return Qt::AlignCenter;
 }
 
-// A bar at the cell's left edge.
+// Draws a bar of the family's colour at the cell's left edge.
 void paintFamily(const Paper& paper, const QRectF& cell, const std::string& kind) {
   const QColor colour = familyColour(themePalette(ThemeMode::Light), model::effortFamily(kind));
   const double gap = 25 * paper.unit;

@@ -1,4 +1,4 @@
-// A piece of a list, drawn for paper: dark on white, grid lines, each text inside its cell.
+// Draws a page of a list for paper, dark on white, each text inside its cell. Lengths are device pixels.
 #pragma once
 
 #include <QPainter>
@@ -7,10 +7,10 @@
 
 namespace widgets {
 
-// Draws the grid from the area's top left, as wide as the area and no higher than leaves room for one line of
-// text. In colour, a kind of effort has its family's colour beside it. Gives the grid's bottom.
+// Draws the grid from the top left of `area`, as wide as it, and leaves room for one line of text below. In
+// colour, each kind of effort has its family's colour beside it. Returns the bottom of the grid.
 double paintGrid(QPainter& painter, const QRectF& area, const platform::PageGrid& grid, bool inColour);
-// One line of text below `top`. Gives its bottom.
+// Draws one line of text below `top` and returns its bottom.
 double paintLine(QPainter& painter, const QRectF& area, double top, const QString& line);
 
 }  // namespace widgets

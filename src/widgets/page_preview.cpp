@@ -38,7 +38,7 @@ void PagePreview::setColoured(bool coloured) {
 }
 
 QSize PagePreview::sheet() const {
-  // As wide as there is room, but never higher than a whole sheet shows.
+  // As wide as there is room, unless the sheet would then be higher than the view.
   const double wide = std::min<double>(viewport()->width() - dp(this, 4),
                                        (viewport()->height() - dp(this, 4)) * sheetWidth / sheetHeight);
   return {static_cast<int>(wide), static_cast<int>(wide * sheetHeight / sheetWidth)};

@@ -15,7 +15,7 @@ QString fileOf(const QString& name) {
   return QStringLiteral(":/ventoria/icons/") + name + QStringLiteral(".svg");
 }
 
-// As large as the place allows, in its middle.
+// The place of a drawing: as large as `place` allows, in its middle.
 QRectF fitted(const QSvgRenderer& drawing, const QRectF& place) {
   QRectF target(QPointF(0, 0), QSizeF(drawing.defaultSize()).scaled(place.size(), Qt::KeepAspectRatio));
   target.moveCenter(place.center());

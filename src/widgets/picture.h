@@ -7,11 +7,12 @@
 
 namespace widgets {
 
-// The drawing of a name, at a size, in the palette's colours; empty for an unknown name.
+// The drawing of that name in the palette's colours, `size` px large with `ratio` dots a pixel; empty if
+// unknown.
 [[nodiscard]] QPixmap drawing(const QString& name, const QSize& size, const QPalette& palette,
                               double ratio = 1);
 
-// A drawing as large as its place; mouse events go to whoever watches it.
+// Shows a drawing as large as its place allows.
 class Picture final : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QString picture READ picture WRITE setPicture)
@@ -31,7 +32,7 @@ class Picture final : public QWidget {
   QString picture_;
 };
 
-// The same as a button: an icon that can be pressed.
+// A button that shows a drawing.
 class PictureButton final : public QToolButton {
   Q_OBJECT
   Q_PROPERTY(QString picture READ picture WRITE setPicture)

@@ -1,4 +1,4 @@
-// Between the logic's UTF-8 and Qt's strings.
+// Converts between the logic's UTF-8 and Qt's strings.
 #pragma once
 
 #include <QString>

@@ -11,8 +11,7 @@
 namespace widgets {
 namespace {
 
-// The size of a wrapped text, made as narrow as it goes without another line, so that no word is left alone
-// in the last one.
+// The size of a wrapped text, as narrow as possible without another line, so that no word stands alone.
 QSize balanced(const QFontMetrics& metrics, const QString& text, int width) {
   const auto laid = [&](int within) {
     return metrics.boundingRect(QRect(0, 0, within, 10000), Qt::AlignLeft | Qt::TextWordWrap, text);

@@ -1,4 +1,4 @@
-// What shows a recording: the ring of its seconds, its form, and the line that time runs along.
+// Widgets that show a recording: the ring of its seconds, its waveform, and the bar of its progress.
 #pragma once
 
 #include <QWidget>
@@ -6,7 +6,7 @@
 
 namespace widgets {
 
-// The seconds of a take, in a ring that is full at the longest that a take may last.
+// The seconds of a take, in a ring that is full for the longest take allowed.
 class TakeRing final : public QWidget {
   Q_OBJECT
  public:
@@ -45,7 +45,7 @@ class Waveform final : public QWidget {
   double heard_ = 0;
 };
 
-// How far a piece has come.
+// How much of a piece has been played, 0 to 1.
 class TimeBar final : public QWidget {
   Q_OBJECT
  public:

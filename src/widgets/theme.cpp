@@ -122,7 +122,7 @@ QString themeStyleSheet(ThemeMode mode, double scale) {
   sheet.replace(QLatin1String("@sans"), sansFamily()).replace(QLatin1String("@numbers"), numberFamily());
   sheet.replace(QLatin1String("@theme"), QLatin1String(mode == ThemeMode::Dark ? "dark" : "light"));
   for (const NamedColour& colour : colours) {
-    // Whole words only: "@text" is no part of a longer name.
+    // Whole words only, in case a longer name begins with this one.
     sheet.replace(QRegularExpression(QLatin1Char('@') + QLatin1String(colour.name) + QLatin1String("\\b")),
                   QLatin1String(mode == ThemeMode::Dark ? colour.dark : colour.light));
   }
@@ -132,9 +132,9 @@ QString themeStyleSheet(ThemeMode mode, double scale) {
   for (auto match = length.globalMatch(sheet); match.hasNext();) {
     const QRegularExpressionMatch hit = match.next();
     sized += QStringView(sheet).mid(done, hit.capturedStart() - done);
-    // A half goes down: letters larger than their share would not fit.
+    // A half is rounded down: larger letters might not fit.
     const int pixels = static_cast<int>(std::ceil(hit.captured(1).toDouble() * scale - 0.5));
-    // A corner is only drawn where its radius is at most half the box: half a length, rounded down, is "hp".
+    // "hp" is half a length, rounded down: Qt rounds corners only if the radius is at most half the box.
     sized +=
         QString::number(hit.captured(2) == QLatin1String("hp") ? pixels / 2 : pixels) + QLatin1String("px");
     done = hit.capturedEnd();
@@ -154,8 +154,7 @@ void applyTheme(ThemeMode mode) {
 }
 
 ThemeMode platformTheme() {
-  // The palette as the platform gives it says more than nothing; the plain grey of no desktop at all does
-  // not.
+  // The plain grey that Qt uses without a desktop tells nothing; dark is the choice then.
   const QColor window = QGuiApplication::palette().color(QPalette::Window);
   const bool plain = window == QColor(0xef, 0xef, 0xef) || window == QColor(0xf0, 0xf0, 0xf0);
   return plain || window.lightness() < 128 ? ThemeMode::Dark : ThemeMode::Light;

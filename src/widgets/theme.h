@@ -14,7 +14,7 @@ namespace widgets {
 
 enum class ThemeMode { Dark, Light };
 
-// Where the table's colours stand in a palette, so that a widget finds them without asking anybody.
+// The roles under which a palette holds the theme's colours.
 namespace role {
 inline constexpr QPalette::ColorRole ground = QPalette::Window;
 inline constexpr QPalette::ColorRole card = QPalette::Base;
@@ -28,24 +28,25 @@ inline constexpr QPalette::ColorRole warning = QPalette::LinkVisited;
 }  // namespace role
 
 [[nodiscard]] QPalette themePalette(ThemeMode mode);
-// The style sheet at a scale of 1 for a window of 1280 x 800.
+// The style sheet with its sizes multiplied by `scale`, which is 1 for a window of 1280 x 800.
 [[nodiscard]] QString themeStyleSheet(ThemeMode mode, double scale);
 // Gives the whole application the fonts and the palette.
 void applyTheme(ThemeMode mode);
-// What the platform's own colours say of the desktop's preference, before any theme is applied.
+// The desktop's preference, guessed from the platform's own colours; to be called before applyTheme().
 [[nodiscard]] ThemeMode platformTheme();
 
 [[nodiscard]] bool isDark(const QPalette& palette);
 [[nodiscard]] QColor familyColour(const QPalette& palette, model::EffortFamily family);
-// A colour that the logic asks for, as this theme shows it.
+// The theme's version of a colour that the logic asks for, readable on its ground.
 [[nodiscard]] QColor onScreen(const QPalette& palette, const platform::Colour& colour);
+// `share` is how much of `b` is in the mixture, 0 to 1.
 [[nodiscard]] QColor mixed(const QColor& a, const QColor& b, double share);
 
 [[nodiscard]] QString sansFamily();
 
-// How much larger than at 1280 x 800 the widget's window shows everything.
+// The scale of the widget's window, 1 at 1280 x 800.
 [[nodiscard]] double scaleOf(const QWidget* widget);
-// A length of the design, in the widget's pixels.
+// A length of the design for 1280 x 800, in px at the scale of the widget's window.
 [[nodiscard]] int dp(const QWidget* widget, double length);
 [[nodiscard]] QFont sansFont(const QWidget* widget, double size, int weight = QFont::Normal);
 [[nodiscard]] QFont numberFont(const QWidget* widget, double size);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr auto& advices = model::volumeAdvices;
 
-// By loudness.
+// In the order of model::Loudness.
 constexpr std::array<QPalette::ColorRole, advices.size()> colours{role::wrong, role::warning, role::good,
                                                                   role::warning};
 
@@ -48,7 +48,7 @@ void VolumeGauge::paintEvent(QPaintEvent*) {
     const double from = x(advices.at(i).from);
     const double to = x(i + 1 < advices.size() ? advices.at(i + 1).from : 100);
     const QColor colour = palette.color(colours.at(static_cast<std::size_t>(advices.at(i).loudness)));
-    // The stretch that the volume is in is bright.
+    // Only the part of the scale that holds the volume is bright.
     const bool here = &advices.at(i) == &model::adviceFor(percent_);
     painter.fillRect(QRectF(from, groove.top(), to - from - dp(this, 2), high),
                      here ? colour : mixed(palette.color(role::card), colour, 0.35));

@@ -1,4 +1,4 @@
-// Where a volume stands among those that suit a ride: too low, low, right, loud.
+// Shows a volume, 0 to 100 %, on a scale from too low to loud for a ride.
 #pragma once
 
 #include <QWidget>

@@ -1,4 +1,4 @@
-// Keeps what floats inside the room that it floats in.
+// Keeps a floating box inside its surroundings.
 #pragma once
 
 #include <QRect>
@@ -6,7 +6,7 @@
 
 namespace widgets {
 
-// The same box, moved as little as it takes; at the upper left where it is larger than the room.
+// The box, moved as little as needed to lie inside `room`; at the upper left if it is larger than the room.
 inline QRect within(QRect box, const QSize& room) {
   box.moveLeft(std::clamp(box.left(), 0, std::max(0, room.width() - box.width())));
   box.moveTop(std::clamp(box.top(), 0, std::max(0, room.height() - box.height())));
