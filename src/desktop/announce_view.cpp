@@ -65,7 +65,7 @@ void AnnounceView::refresh() {
 }
 
 void AnnounceView::refreshPanels() {
-  // What is covered must not take the keyboard.
+  // Covered parts are hidden, so that the keyboard cannot reach them.
   ui_->recordingPlace->setVisible(!coverOf(page_, "recordingPlace"));
   ui_->libraryHome->setVisible(!coverOf(page_, "libraryHome"));
   const bool info = page_.MyFrame4.visible;
@@ -86,10 +86,10 @@ double AnnounceView::takeLength() const {
 void AnnounceView::refreshTake() {
   using enum widgets::TakeRing::Mood;
   ui_->takeRing->show(takeSeconds(), recording() ? Recording : listening() ? Listening : Resting);
-  const int left = listening() ? takeSeconds() : 0;  // the count begins a second above the length
+  const int left = listening() ? takeSeconds() : 0;  // counts down from one more than the length
   ui_->takeWave->setHeard(left > 0 ? std::max(0.0, 1 - (left - 1) / std::max(1.0, takeLength())) : 0);
   drawTake();
-  // What leads on stands out.
+  // The button for the next step stands out.
   const std::pair<QWidget*, bool> steps[] = {
       {ui_->Command3, recording()},
       {ui_->Command4, listening()},
@@ -115,7 +115,7 @@ void AnnounceView::drawTake() {
   } else if (!file.empty() && file != takeShown_) {
     takeShown_ = file;
     ui_->takeWave->setPeaks(peaksOf(file, Waveform::parts));
-  } else if (!state_.take.length) {  // or none any more
+  } else if (!state_.take.length) {  // the take is gone
     takeShown_.clear();
     ui_->takeWave->setPeaks({});
   }

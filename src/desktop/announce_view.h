@@ -1,5 +1,5 @@
-// What the page of announcements and music draws beside its controls: which panel covers which, the seconds
-// and the form of a take, how far a piece has come. It only reads the form and the shared state.
+// Draws what the controls for announcements and music do not show themselves: covered panels, the seconds and
+// waveform of a take, the progress of a piece. It only reads the form and the shared state.
 #pragma once
 
 #include <QObject>
@@ -24,9 +24,9 @@ class AnnounceView final : public QObject {
   AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState& state, QWidget& page, Binder& binder);
   ~AnnounceView() override;
   void refresh();
-  // The window has another scale.
+  // To be called when the window's scale has changed.
   void rescale();
-  // What writes the recorder's take to a file; without it a take shows its form only once it is saved.
+  // `save` writes the recorder's take to a file; without it a take has a waveform only once it is saved.
   void saveTakesBy(std::function<void(const std::string& path)> save) { saveTake_ = std::move(save); }
 
  private:
@@ -37,7 +37,7 @@ class AnnounceView final : public QObject {
   void refreshMusic();
   [[nodiscard]] bool recording() const { return forms::recordingTake(page_); }
   [[nodiscard]] bool listening() const { return forms::listeningToTake(page_); }
-  [[nodiscard]] int takeSeconds() const;    // that the ring shows
+  [[nodiscard]] int takeSeconds() const;    // shown in the ring
   [[nodiscard]] double takeLength() const;  // s
 
   forms::EnrUneAnnonce& page_;
@@ -45,8 +45,8 @@ class AnnounceView final : public QObject {
   std::unique_ptr<Ui::EnrUneAnnonce> ui_;
   QTimer pending_;
   std::function<void(const std::string&)> saveTake_;
-  bool taking_ = false;    // a recording is under way, or its form is not drawn yet
-  std::string takeShown_;  // file of the take drawn last
+  bool taking_ = false;    // a recording is under way, or its waveform is not drawn yet
+  std::string takeShown_;  // file of the waveform drawn last
   std::string storedShown_;
 };
 

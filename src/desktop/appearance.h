@@ -1,4 +1,4 @@
-// Dark or light: the rider's own choice where he made one, else what the desktop wants, as it changes.
+// Dark or light: the rider's own choice if he has made one, else what the desktop wants at the time.
 #pragma once
 
 #include <QObject>
@@ -20,11 +20,11 @@ class Appearance final : public QObject {
   [[nodiscard]] widgets::ThemeMode mode() const;
   [[nodiscard]] widgets::ThemeMode system() const { return system_; }
   void choose(Choice choice);
-  // What the desktop wants now.
+  // To be called when the desktop wants another mode.
   void setSystem(widgets::ThemeMode mode);
-  // Fills a menu with the choices.
+  // Adds the choices to a menu.
   void offerIn(QMenu& menu);
-  // How a choice is kept from one start to the next.
+  // The word for a choice in the settings. For any other word fromWord() gives Choice::System.
   [[nodiscard]] static QString word(Choice choice);
   [[nodiscard]] static Choice fromWord(const QString& word);
 

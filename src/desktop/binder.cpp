@@ -24,7 +24,7 @@ using platform::Control;
 using platform::ControlKind;
 using platform::Prop;
 
-// A timer is not shown at all; a menu and its entries are made from the form.
+// Timers are invisible, and menus are made from the form.
 bool needsNoWidget(const Component& component) {
   return component.kind() == ControlKind::Timer || component.kind() == ControlKind::MenuItem;
 }
@@ -39,7 +39,7 @@ void prepareBox(QComboBox& box) {
   box.setEditable(true);
   box.setInsertPolicy(QComboBox::NoInsert);
   box.setCompleter(nullptr);
-  box.setFocusPolicy(Qt::StrongFocus);  // not by the wheel: one that passes over would change it
+  box.setFocusPolicy(Qt::StrongFocus);  // not by the wheel, which would change a box that it passes over
   box.lineEdit()->setAccessibleName(box.accessibleName());
 }
 

@@ -66,7 +66,7 @@ void showSize(const Control& control, QWidget& widget) {
   if (has(widget, "pointSize")) widget.setProperty("pointSize", control.size.get());
 }
 
-// A button would take an ampersand for the mark of a shortcut.
+// Doubles ampersands, which a button would take for the mark of a shortcut.
 QString escaped(QString text, const QWidget& widget) {
   if (is<QAbstractButton>(widget)) text.replace(QLatin1Char('&'), QLatin1String("&&"));
   return text;
@@ -79,7 +79,7 @@ void showCaption(const Control& control, QWidget& widget) {
       elsewhere == nullptr && has(widget, "text") && !widget.property("captionElsewhere").toBool();
   if (elsewhere != nullptr) elsewhere->setText(text);
   if (isTextShown) widget.setProperty("text", escaped(text, widget));
-  // A label is told by its text; the accessible name says what the text is about.
+  // A screen reader reads a label's text; its accessible name is kept, as it says what the text is about.
   const bool onlyShows = isTextShown && !is<QAbstractButton>(widget);
   if (!onlyShows && !text.trimmed().isEmpty()) widget.setAccessibleName(text.trimmed());
 }
@@ -161,7 +161,7 @@ constexpr std::array<Shown, 17> shownProperties{{
      }},
 }};
 
-// What the widget must be; controls of the other kinds can be shown by any.
+// The class that a widget must have to show a control; any widget can show controls of the other kinds.
 constexpr std::array<std::pair<ControlKind, bool (*)(const QWidget&)>, 9> classes{{
     {ControlKind::Button, is<QAbstractButton>},
     {ControlKind::CheckBox, is<QCheckBox>},

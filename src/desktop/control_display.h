@@ -16,7 +16,7 @@ class ControlDisplay {
   [[nodiscard]] static bool canShow(const QWidget& widget, platform::ControlKind kind);
 
  private:
-  QPointer<QWidget> disabledInUse_;  // had the keyboard when it was disabled
+  QPointer<QWidget> disabledInUse_;  // the widget that had the keyboard when it was disabled
 };
 
 }  // namespace desktop

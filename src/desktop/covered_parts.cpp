@@ -10,7 +10,7 @@ namespace {
 struct CoveredPart {
   std::string_view form;
   std::string_view part;  // a widget of the page
-  std::string_view by;    // a control, while it is visible
+  std::string_view by;    // a control that covers the part while visible
 };
 
 constexpr std::array<CoveredPart, 10> table{{
@@ -18,7 +18,7 @@ constexpr std::array<CoveredPart, 10> table{{
     {"MainForm", "ridePage", "MyFrame2"},
     {"MainForm", "countdownPage", "Picture1"},
     {"MainForm", "buttonRow", "Picture6"},
-    {"CreerCycle", "ListView1", "Picture8"},  // its right columns, and what edits their cells
+    {"CreerCycle", "ListView1", "Picture8"},  // the right columns and their cell editors
     {"CreerCycle", "Combo1", "Picture8"},
     {"CreerCycle", "Combo13", "Picture8"},
     {"CreerCycle", "Picture2", "Picture8"},

@@ -1,5 +1,5 @@
-// The parts of a page that another part lies over or takes the place of, such as the buttons below the ride's
-// panel. The form still counts their controls among the visible ones.
+// The parts of a page that another part covers or replaces, such as the buttons below the ride's panel. The
+// form still calls their controls visible.
 #pragma once
 
 #include <optional>
@@ -9,8 +9,7 @@
 
 namespace desktop {
 
-// The control that covers a page's part just now; none where nothing does, or where the page has no such
-// part.
+// The control that covers a part of the form's page just now; none if nothing does.
 [[nodiscard]] std::optional<std::string_view> coverOf(const platform::Form& form, std::string_view part);
 
 }  // namespace desktop

@@ -9,7 +9,7 @@ namespace desktop {
 namespace {
 
 constexpr int screenSaverPatience = 300;  // ms
-constexpr qint64 absence = 60'000;        // ms until a missing one is asked for again
+constexpr qint64 absence = 60'000;        // ms until a missing saver is looked for again
 
 const QString screenSaverService = QStringLiteral("org.freedesktop.ScreenSaver");
 
@@ -62,7 +62,7 @@ void DbusScreenSaver::setActive(bool active) {
     cookie_ = answer.value();
     holder_ = now;
   } else {
-    absentSince_.start();  // a saver that refuses or hangs is asked no more often than one that is missing
+    absentSince_.start();  // a saver that refuses or hangs counts as missing for a while
   }
 }
 

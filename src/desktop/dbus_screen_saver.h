@@ -1,4 +1,4 @@
-// The desktop's screen saver, held off through the session bus for as long as the program asks and lives.
+// Keeps the desktop's screen saver off, through the session bus, until the program allows it again or ends.
 #pragma once
 
 #include <QDBusConnection>
@@ -18,13 +18,13 @@ class DbusScreenSaver final : public platform::ScreenSaver {
   void setActive(bool active) override;
 
  private:
-  // The saver's address on the bus; empty where no saver answers.
+  // The screen saver's address on the bus; empty if none answers.
   QString owner();
 
   QDBusConnection bus_;
-  QElapsedTimer absentSince_;      // invalid: not known to be absent
-  std::optional<quint32> cookie_;  // of the inhibition that we hold
-  QString holder_;                 // the owner that granted it; another one knows nothing of it
+  QElapsedTimer absentSince_;      // since when none has answered; invalid if one did
+  std::optional<quint32> cookie_;  // the saver's number for our request to stay off
+  QString holder_;  // the address of the saver that granted it; a restarted one has forgotten it
 };
 
 }  // namespace desktop

@@ -30,7 +30,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
       program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_, volume_, printer_},
                {folder, VENTORIA_VERSION, {}, platform::documentsFolder()}),
       windows_(program_, system, choice) {
-  // A handler that is long at work serves events as it goes: the rider may press what ends it.
+  // Long handlers call this from time to time, so that the rider can press the button that ends them.
   program_.loop().onInput([] { QCoreApplication::processEvents(); });
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           &DesktopProgram::endWhenQuitting);
@@ -40,7 +40,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
 
 bool DesktopProgram::start() {
   windows_.window().showFitting();
-  // Painted before the first prompt holds everything up.
+  // Paints the window before the first prompt blocks everything.
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   if (!program_.start()) return false;
   alarm_.start();
@@ -65,7 +65,7 @@ void DesktopProgram::askToClose() {
   windows_.binder().run([this] { program_.screens().main.Command4.click(); });
 }
 
-// Between two pages: what the rider presses meanwhile must not end the document under the printer's hands.
+// Called between two printed pages: actions of the rider are held back, since they could end the document.
 void DesktopProgram::repaintBlocking() {
   const platform::EventLoop::Blocking blocking(program_.loop());
   repaint();

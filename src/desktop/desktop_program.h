@@ -31,7 +31,7 @@ class DesktopProgram final : public QObject {
   [[nodiscard]] Appearance& appearance() { return windows_.appearance(); }
   // Shows the window and starts the program; false where it cannot start.
   [[nodiscard]] bool start();
-  // A second launch: the window comes to the front.
+  // Brings the window to the front, after a second launch.
   void wake();
   void addSession(const std::string& path) { windows_.addSession(path); }
 

@@ -27,8 +27,8 @@ DesktopWishes::DesktopWishes(const QDBusConnection& bus) {
 
 void DesktopWishes::read(QDBusConnection bus) {
   qDBusRegisterMetaType<QMap<QString, QVariantMap>>();
-  qRegisterMetaType<QDBusVariant>();  // or the bus does not take the slot
-  // The bus wants the signature without blanks.
+  qRegisterMetaType<QDBusVariant>();  // needed for the slot's type
+  // QtDBus finds a slot only by its signature without blanks.
   const QByteArray slot =
       QMetaObject::normalizedSignature(SLOT(changeSetting(QString, QString, QDBusVariant)));
   bus.connect({}, path, interface, QStringLiteral("SettingChanged"), this, slot.constData());

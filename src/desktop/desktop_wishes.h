@@ -1,5 +1,5 @@
-// What the desktop asks of every program through its settings portal: dark or light windows, and whether
-// anything may move by itself. Without a portal nothing is asked.
+// The desktop's wishes for every program, read from its settings portal: dark or light windows, and whether
+// animations are welcome. Without a portal it has none.
 #pragma once
 
 #include <QDBusConnection>

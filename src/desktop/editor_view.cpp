@@ -40,7 +40,7 @@ namespace {
 
 using model::EffortFamily;
 
-// The heads of the columns explain themselves by these buttons' tool tips, from the third column on.
+// By column: the button of the form whose tool tip explains the column's header.
 constexpr std::array<const char*, 14> headButtons{
     "",           "",           "",           "MyButton14", "MyButton15", "MyButton16", "MyButton17",
     "MyButton18", "MyButton19", "MyButton20", "MyButton21", "MyButton22", "MyButton23", "MyButton25"};
@@ -51,7 +51,7 @@ EditorView::EditorView(forms::CreerCycle& form, const model::SharedState& state,
                        Binder& binder)
     : editor_(form), state_(state), ui_(std::make_unique<Ui::CreerCycle>()), page_(page), binder_(binder) {
   ui_->setupUi(&page);
-  // Beside the list, not in it: what is inside a list is nothing but cells to somebody who does not see it.
+  // The list must not be their parent: for a screen reader, a list contains nothing but cells.
   for (auto* floating : std::initializer_list<QWidget*>{ui_->Navette, ui_->Combo1, ui_->Picture2,
                                                         ui_->Combo13, ui_->Picture1}) {
     floating->setParent(ui_->MyFrame2);
@@ -134,21 +134,21 @@ void EditorView::leaveCellEditor() {
   ui_->ListView1->setFocus();
 }
 
-// Leaving the editor would write the typed duration to the list.
+// Shows the list's duration in the boxes again, since leaving them would write the typed one to the list.
 void EditorView::dropTypedDuration() {
   binder_.run([this] {
     forms::showInBoxes(forms::durationBoxes(editor_), forms::timeParts(editor_.Label7.caption));
   });
 }
 
-// The calculator's picture comes back in place of a help text; false where there is none.
+// Puts the calculator's picture back in place of a help text; false if no help text is shown.
 bool EditorView::leaveHelp() {
   if (!editor_.Picture8.visible || editor_.Image11.visible) return false;
   binder_.run([this] { editor_.Picture8.hover(); });
   return true;
 }
 
-// What lies over the list lets the wheel through, and Escape ends it, whatever has the keyboard.
+// The wheel over a cell editor scrolls the list, and Escape closes the editor, wherever the keyboard is.
 bool EditorView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel && watched != &page_) {
     const auto* wheel = static_cast<const QWheelEvent*>(event);
@@ -162,7 +162,7 @@ bool EditorView::eventFilter(QObject* watched, QEvent* event) {
   const bool escape =
       event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
   if (!escape) return QObject::eventFilter(watched, event);
-  // What no widget wanted comes to the page.
+  // Keys that no widget has used arrive at the page.
   if (!forms::cellOpen(editor_)) return watched == &page_ && leaveHelp();
   dropTypedDuration();
   leaveCellEditor();
@@ -188,19 +188,19 @@ void EditorView::refresh() {
   refreshCalculator();
   setLook(*ui_->Label4, forms::badgeRefuses(editor_) ? QStringLiteral("badge") : QStringLiteral("tip"));
   placeFloating();
-  // A cell editor that has gone hands the keyboard back to the list.
+  // When a cell editor closes, the keyboard goes back to the list.
   if (std::exchange(editing_, forms::cellOpen(editor_)) && !editing_ && page_.hasFocus())
     ui_->ListView1->setFocus();
 }
 
-// A narrow box in the header, with a list as wide as its titles.
+// The box in the header is narrow; its list is made as wide as the titles.
 void EditorView::refreshFilms() {
   ui_->filmsBox->setVisible(!editor_.Combo6.lines().empty());
   QAbstractItemView& titles = *ui_->Combo6->view();
   titles.setMinimumWidth(titles.sizeHintForColumn(0) + dp(&titles, 24));
 }
 
-// Where the form put the editor: the list's own cell in hand may be another by now.
+// The column over which the form put an editor; the list's current cell may be another by now.
 int EditorView::columnUnder(const platform::Control& over) const {
   int column = editor_.ListView1.columnCount();
   while (column > 1 && editor_.ListView1.columnLeft(column) > over.left) --column;
@@ -220,7 +220,7 @@ void EditorView::placeFloating() {
     widget.setGeometry(within(place, room).translated(corner));
     widget.raise();
   };
-  // A grid that is not on the screen yet has no cells to lay anything over.
+  // The cells have no place before the list is first shown.
   if (!cell.isNull()) put(*ui_->Combo1, cell, dp(&table, 150));
   const QRect duration = table.cellRect(row, model::column::duration);
   if (!duration.isNull()) put(*ui_->Picture2, duration, ui_->Picture2->sizeHint().width());
@@ -251,11 +251,11 @@ void EditorView::refreshCalculator() {
     QWidget* row;
     const platform::Control* control;
   };
-  // The rows of the two rates stay: their help does.
+  // The rows of the two heart rates always stay, with their help buttons.
   for (const Row& input : {Row{ui_->ageRow, &editor_.Combo7}, Row{ui_->sexRow, &editor_.Combo10}}) {
     input.row->setVisible(input.control->visible);
   }
-  // In the order of the zones.
+  // In the order of state_.heartZones.
   const std::pair<ZoneBand*, EffortFamily> bands[] = {{ui_->band50, EffortFamily::Endurance},
                                                       {ui_->band52, EffortFamily::Recovery},
                                                       {ui_->band53, EffortFamily::Warmth},

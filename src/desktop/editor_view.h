@@ -1,5 +1,5 @@
-// What the session editor draws beside its controls: the cell editors over the grid, the session's profile
-// and its total, the coloured bands of the heart-rate calculator. It only reads the form.
+// Draws what the controls of the session editor do not show themselves: the cell editors over the list, the
+// session's profile and total, the coloured bands of the heart-rate calculator.
 #pragma once
 
 #include <QObject>
@@ -22,13 +22,13 @@ class EditorView final : public QObject {
  public:
   EditorView(forms::CreerCycle& form, const model::SharedState& state, QWidget& page, Binder& binder);
   ~EditorView() override;
-  // The page's widgets are tied to the form.
+  // To be called once the page's widgets are bound to the form.
   void whenBound();
   void speak(const QString& text);
   void refresh();
-  // The window has another scale.
+  // To be called when the window's scale has changed.
   void rescale();
-  // The list alone, without the profile.
+  // Shows the whole list alone, or the profile too.
   void setListMode(bool whole);
 
  protected:

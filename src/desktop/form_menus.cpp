@@ -90,7 +90,7 @@ void FormMenus::tieEntry(MenuItem& item, QAction& action) {
 }
 
 void FormMenus::tieOpeners(MenuItem& item, QMenu& menu, const QWidget& page) {
-  // Somebody who drives the program beside the windows may watch the pop-ups already.
+  // A script that drives the program may have taken the pop-ups over already.
   if (!item.popUp.handled()) {
     item.popUp.handle([this, &menu, &item] {
       popUp(menu);
@@ -105,7 +105,7 @@ void FormMenus::tieOpeners(MenuItem& item, QMenu& menu, const QWidget& page) {
 
 void FormMenus::popUp(QMenu& menu) {
   const QPoint place = placeOf(menu, input_.lastPressed());
-  menu.setProperty("place", place);  // a small screen may move the menu; pictures of it are drawn here
+  menu.setProperty("place", place);  // where pictures show it, even if a small screen moves the menu
   menu.popup(place);
   if (input_.byKeyboard()) selectFirst(menu);
 }

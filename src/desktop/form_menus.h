@@ -1,5 +1,5 @@
-// The menus of a form: entries that follow their controls, opened by a button of the menu's name or as a
-// pop-up.
+// The menus of a form. Their entries follow the form's controls; the button of a menu's name opens it, or the
+// logic does, as a pop-up.
 #pragma once
 
 #include <QHash>
@@ -20,7 +20,7 @@ class FormMenus final : public QObject {
   explicit FormMenus(RiderInput& input) : input_(input) {}
 
   void tie(const platform::Form& form, QWidget& page);
-  // Told of each menu that the logic opens.
+  // `told` is called for each menu that the logic opens.
   void onPopUp(std::function<void(const platform::MenuItem&)> told) { poppedUp_ = std::move(told); }
 
  private:

@@ -1,4 +1,4 @@
-// A form in a window of its own, over the main window: on the screen while the form is visible.
+// Shows a form in a window of its own, over the main window, while the form is visible.
 #pragma once
 
 #include <QDialog>
@@ -12,13 +12,13 @@ namespace desktop {
 class FormWindow final : public QDialog {
   Q_OBJECT
  public:
-  // `design` is its size beside a main window of 1280 x 800.
+  // `design` is its size in px beside a main window of 1280 x 800.
   FormWindow(platform::Form& form, const QSize& design, widgets::ThemeMode mode, QWidget& over);
   [[nodiscard]] QWidget& page() const { return *page_; }
-  // The page is complete: it takes the window's scale, and the form's state.
+  // To be called once the page is bound: gives it the window's scale, and follows the form from now on.
   void whenBound();
   void setTheme(widgets::ThemeMode mode);
-  // What leaves the form when the window is closed or Escape pressed.
+  // `asked` is called when the window is closed or Escape pressed; it shall leave the form.
   void onClose(std::function<void()> asked) { closeAsked_ = std::move(asked); }
 
  protected:

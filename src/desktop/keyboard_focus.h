@@ -5,10 +5,10 @@
 
 namespace desktop {
 
-// To be called before the widget is hidden or disabled, since Qt would move the focus on to the next widget,
-// which a key would then press. Gives the focus to the page instead; whether the widget had it.
+// Moves the focus from the widget to its page; false if it was elsewhere. To be called before the widget is
+// hidden or disabled: Qt would give the focus to the next widget, which a key would then press.
 bool handFocusToPage(const QWidget& widget);
-// Gives the widget the focus back, unless it has gone elsewhere meanwhile.
+// Gives the widget the focus, if it is still the page that has it.
 void takeFocusFromPage(QWidget& widget);
 
 }  // namespace desktop

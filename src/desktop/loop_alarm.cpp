@@ -17,7 +17,7 @@ void LoopAlarm::start() {
 }
 
 void LoopAlarm::serve() {
-  // What the rider did during a sound comes before the ticks that follow it: a pause before the next second.
+  // The rider's actions during a sound come first, so that a pause takes effect before the next second.
   loop_.runHeld();
   loop_.fireDue();
   arm();

@@ -1,5 +1,5 @@
-// Qt's event loop driving the program's own: a timer that goes off at the next due time, and at once where
-// something was held back until a sound had ended.
+// Drives the program's event loop from Qt's, by a timer for the next due time; it goes off at once if actions
+// were held back until a sound had ended.
 #pragma once
 
 #include <QObject>
@@ -14,7 +14,7 @@ class LoopAlarm final : public QObject {
  public:
   explicit LoopAlarm(platform::EventLoop& loop);
   ~LoopAlarm() override { loop_.onReschedule({}); }
-  // Nothing is driven before.
+  // Before this call nothing is driven.
   void start();
 
  private:

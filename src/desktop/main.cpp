@@ -18,7 +18,7 @@ namespace {
 
 const QString appearanceKey = QStringLiteral("appearance");
 
-// What was asked for at the start, else what the rider chose last.
+// The choice asked for on the command line, else the one that the rider made last.
 desktop::Appearance::Choice choiceOf(const QString& asked) {
   return desktop::Appearance::fromWord(asked.isEmpty() ? QSettings().value(appearanceKey).toString() : asked);
 }
@@ -35,7 +35,7 @@ void follow(desktop::DesktopWishes& wishes, desktop::Appearance& appearance) {
   QObject::connect(&wishes, &desktop::DesktopWishes::changed, apply);
 }
 
-// Qt's own words, such as a file chooser's, in French.
+// Puts Qt's own texts, such as those of a file chooser, into French.
 void speakFrench(QTranslator& translator) {
   if (translator.load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&translator);

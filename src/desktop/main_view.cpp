@@ -33,7 +33,7 @@ void retainPlaceWhenHidden(QWidget& widget) {
   widget.setSizePolicy(policy);
 }
 
-// Whether anything but the marks of "nothing" stands there.
+// Whether the text is more than a mark for "nothing".
 bool says(const std::string& text) {
   return !text.empty() && text != " " && text != model::noMeaning;
 }
@@ -48,7 +48,7 @@ MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidg
                                        ui_->Label3, ui_->sequenceBar, ui_->buttonRow}) {
     retainPlaceWhenHidden(*widget);
   }
-  // The panel takes the pointer as one; what it holds only shows.
+  // A press or a move over the panel's contents is one over the panel.
   for (auto* inside : ui_->Picture6->findChildren<QWidget*>()) {
     if (inside->objectName() != QLatin1String("Label40"))
       inside->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -94,11 +94,11 @@ void MainView::refreshPages() {
   ui_->volumeBox->setVisible(forms::volumeKnown(main_));
   ui_->contactScrim->setVisible(main_.Picture12.visible);
   ui_->noticePicture->setPicture(toQt(main_.Image18.visible ? "sound-off" : "sound-on"));
-  // What the ride's panel covers must not shine through its corners, nor take the keyboard.
+  // Buttons under the ride's panel would show at its round corners and take the keyboard.
   const bool covered = coverOf(main_, "buttonRow").has_value();
   if (covered) handFocusToPage(*ui_->buttonRow);
   ui_->buttonRow->setVisible(!covered);
-  // What leads on stands out: the start where a duration stands, else the way to the sessions.
+  // The next step stands out: the start if there is a duration, else the way to the sessions.
   const bool startable = main_.MyButton1.enabled && forms::startOffered(main_);
   setLook(*ui_->MyButton1, startable ? QStringLiteral("primary") : QString());
   setLook(*ui_->MyButton5, main_.MyButton1.enabled ? QString() : QStringLiteral("primary"));
@@ -110,7 +110,7 @@ void MainView::refreshRide() {
   ui_->kindChip->show(family, main_.Label11.visible);
   ui_->sequenceBar->setVisible(riding());
   ui_->sequenceBar->show(family, state_.dureeSequence > 0 ? state_.ecouleSequence / state_.dureeSequence : 0);
-  // A message of the start or the end; in a ride the same label says in its card that there is no target.
+  // The label holds a message outside a ride; during a ride it says in its card that there is no target.
   const bool message = forms::showsMessage(main_) && !riding();
   ui_->banner->setText(message ? toQt(main_.Label44.caption.get()) : QString());
   ui_->banner->setVisible(message);
@@ -121,7 +121,7 @@ void MainView::refreshCards() {
   ui_->gearCard->setVisible(forms::gearShown(main_));
   ui_->gearCross->setVisible(main_.Label15.visible && main_.Label20.visible && says(main_.Label15.caption) &&
                              says(main_.Label20.caption));
-  // Numbers stand close together, words share the place.
+  // Two numbers stand close together; two words share the width.
   const bool words = main_.Label20.caption.get().size() > 2 || main_.Label15.caption.get().size() > 2;
   ui_->gearLine->setStretch(0, words ? 1 : 0);
   ui_->Label20->setSizePolicy(words ? QSizePolicy::Ignored : QSizePolicy::Maximum, QSizePolicy::Preferred);

@@ -1,5 +1,5 @@
-// What the main screen draws beside its controls: which page covers which, the colour of the present effort,
-// the line of what comes next, the profile, the spoken text. It only reads the forms and the shared state.
+// Draws what the main screen's controls do not show themselves: covered pages, the colour of the present
+// effort, what comes next, the profile, the spoken text. It only reads the form and the shared state.
 #pragma once
 
 #include <QObject>
@@ -23,7 +23,7 @@ class MainView final : public QObject {
  public:
   MainView(forms::MainForm& form, const model::SharedState& state, QWidget& page);
   ~MainView() override;
-  // The text that the voice is speaking; empty for silence.
+  // Shows the text that the voice is speaking; empty for silence.
   void speak(const QString& text);
   void refresh();
 

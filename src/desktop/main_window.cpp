@@ -56,7 +56,7 @@ void MainWindow::fitScreen() {
   move(room.topLeft());
 }
 
-// How much the frame takes is known only once the window manager has put it around the window.
+// The size of the frame is known only once the window manager has put it around the window.
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == windowHandle() && event->type() == QEvent::Expose) {
     watched->removeEventFilter(this);

@@ -1,4 +1,4 @@
-// The one window: it shows a page at a time, and everything in it grows with it.
+// The main window: shows one page at a time, scaled to its size.
 #pragma once
 
 #include <QMainWindow>
@@ -17,14 +17,14 @@ class MainWindow final : public QMainWindow {
   void addPage(QWidget* page);
   void showPage(QWidget* page);
   void setTheme(widgets::ThemeMode mode);
-  // Shows the window no larger than the screen leaves room, its frame included.
+  // Shows the window, no larger than the screen allows with its frame.
   void showFitting();
-  // The rider wants to close the window; it closes by itself only where nobody is asked.
+  // `asked` is called when the rider closes the window, and decides; without it the window just closes.
   void onClose(std::function<void()> asked) { closeAsked_ = std::move(asked); }
 
  signals:
   void rescaled();
-  // A dialog over it has closed.
+  // The dialog over the window has closed.
   void unblocked();
 
  protected:

@@ -1,4 +1,4 @@
-// What the print form draws beside its controls: the pages to come.
+// Draws the preview of the pages on the print form.
 #pragma once
 
 #include <QObject>

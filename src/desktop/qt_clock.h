@@ -1,4 +1,4 @@
-// The machine's clock, asleep in Qt's event loop: input, repaints and devices go on meanwhile.
+// The machine's clock. It sleeps in Qt's event loop: input, repaints and devices go on meanwhile.
 #pragma once
 
 #include "platform/clock.h"

@@ -53,7 +53,7 @@ QMessageBox::Icon iconOf(platform::MessageKind kind) {
   return QMessageBox::NoIcon;
 }
 
-// "words|*.a;*.b|words|*.c" as Qt writes it.
+// Turns a filter such as "words|*.a;*.b|words|*.c" into Qt's form.
 QStringList nameFilters(const std::string& filter) {
   QStringList filters;
   const std::vector<std::string> parts = platform::split(filter, '|');
@@ -64,8 +64,7 @@ QStringList nameFilters(const std::string& filter) {
   return filters;
 }
 
-// Qt takes quotes for marks around several names. Where a file is saved there is one name, which may hold
-// them.
+// Qt takes quotes for marks around several names, but the one name of a file to save may hold quotes itself.
 QString typedPath(const QFileDialog& dialog) {
   const auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   const bool quoted = edit != nullptr && edit->text().contains(QLatin1Char('"'));

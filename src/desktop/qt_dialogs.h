@@ -10,7 +10,7 @@ namespace desktop {
 
 class QtDialogs final : public platform::Dialogs {
  public:
-  // `parent` gives the window to stand over; none while there is no window yet.
+  // `parent` gives the window that the dialogs stand over; null while there is none.
   explicit QtDialogs(std::function<QWidget*()> parent) : parent_(std::move(parent)) {}
 
   platform::Answer message(const platform::Message& message) override;

@@ -29,7 +29,7 @@ QPrinterInfo systemPrinter() {
   return all.isEmpty() ? QPrinterInfo() : all.first();
 }
 
-// A full disk is not told of while a page is drawn; the file then lacks its end.
+// Qt does not report a full disk while it draws; the file then lacks its last line.
 bool isWhole(const QString& path) {
   QFile file(path);
   constexpr qint64 tail = 64;
@@ -134,7 +134,7 @@ void QtPrinter::killDocument() {
   const QString file = file_;
   if (begun && file.isEmpty()) printer_->abort();
   drop();
-  // A file that lacks pages is of no use to anybody; a device that the rider named is not ours to remove.
+  // Removes the incomplete file, but never a device that the rider has named.
   if (begun && QFileInfo(file).isFile()) QFile::remove(file);
 }
 

@@ -1,5 +1,5 @@
-// Paper from the system's printer, each document a job of its own; without a printer, one PDF file of all
-// documents, whose name the rider is asked for.
+// Prints each document as a job on the system's printer; without a printer, all documents go into one PDF
+// file, whose name the rider is asked for. Failures are told to the rider and thrown as platform::FileFault.
 #pragma once
 
 #include <QPainter>
@@ -14,7 +14,7 @@ namespace desktop {
 
 class QtPrinter final : public platform::Printer {
  public:
-  // `onPage` is called as each page is begun, so that the rider can be shown how far it is.
+  // `onPage` is called at the beginning of each page, to show the rider the progress.
   explicit QtPrinter(
       platform::Dialogs& dialogs, std::function<void()> onPage = [] {})
       : dialogs_(dialogs), onPage_(std::move(onPage)) {}
@@ -31,12 +31,12 @@ class QtPrinter final : public platform::Printer {
   void finish() override;
 
  private:
-  // The page to draw on, made at its first use; false where the rider gave no file for it.
+  // Makes the page to draw on at its first use; false if the rider gave no file for it.
   bool page();
   [[nodiscard]] bool askForFile();
   void beginPaper();
-  void close();  // what is open goes to the printer, or to the file
-  void drop();   // what is still open is left as it is
+  void close();  // sends what is open to the printer, or to the file
+  void drop();   // gives up what is open
   [[noreturn]] void fail(const char* reason);
   [[nodiscard]] QRectF area() const;
 
@@ -48,9 +48,9 @@ class QtPrinter final : public platform::Printer {
   std::unique_ptr<QPrinter> printer_;
   QPainter painter_;
   QString file_;            // the PDF file; empty on paper
-  bool declined_ = false;   // the rider wants no file: nothing is drawn until all is finished
+  bool declined_ = false;   // the rider wants no file: nothing is drawn until finish()
   bool pageEnded_ = false;  // the next document begins on a new page of the file
-  double bottom_ = 0;       // of what stands on the page
+  double bottom_ = 0;       // of what is on the page, in dots
 };
 
 }  // namespace desktop

@@ -1,4 +1,4 @@
-// Files, addresses and the sound settings, handed to the rider's own desktop.
+// Opens files, addresses and the sound settings with the desktop's own programs.
 #pragma once
 
 #include "platform/dialogs.h"
@@ -8,7 +8,7 @@ namespace desktop {
 
 class QtShell final : public platform::Shell {
  public:
-  // `dialogs` tell where the machine has no browser, or no sound settings to open.
+  // `dialogs` tell the rider if the machine has no browser, or no sound settings to open.
   explicit QtShell(platform::Dialogs& dialogs) : dialogs_(dialogs) {}
 
   void openFile(const std::string& path) override;

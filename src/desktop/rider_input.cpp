@@ -29,7 +29,7 @@ bool isEnter(int key) {
   return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-// A text or a picture that can be pressed, and is no mere label of another control.
+// Whether the widget is a text or a picture that can be pressed, not just the label of another control.
 bool isPressableDrawing(const Control& control, const QWidget& widget) {
   const ControlKind kind = control.kind();
   const auto* label = qobject_cast<const QLabel*>(&widget);
@@ -44,7 +44,7 @@ void RiderInput::listen(Control& control, QWidget& widget) {
   controls_.insert(&widget, &control);
   widget.setMouseTracking(true);
   widget.installEventFilter(this);
-  // A list gets its mouse events in its viewport: a menu that it opens must not lie under the button before.
+  // A list's mouse events go to its viewport; without them its menu would appear at the last button.
   if (auto* list = qobject_cast<QAbstractScrollArea*>(&widget)) list->viewport()->installEventFilter(this);
   if (isPressableDrawing(control, widget)) widget.setFocusPolicy(Qt::TabFocus);
   switch (control.kind()) {
@@ -163,7 +163,7 @@ bool RiderInput::filterControl(Control& control, QWidget& widget, QEvent& event)
       }
       return false;
     case QEvent::Wheel:
-      // A wheel that passes over a closed box must not change it, but may scroll what is around it.
+      // A wheel passing over a closed box must not change it, but may scroll the widget around it.
       if (isBox) event.ignore();
       return isBox;
     case QEvent::MouseButtonDblClick:
@@ -175,13 +175,13 @@ bool RiderInput::filterControl(Control& control, QWidget& widget, QEvent& event)
 }
 
 void RiderInput::onMove(Control& control, const QMouseEvent& event) {
-  // A widget that appears under a pointer at rest gets a move, too, but the rider has moved nothing.
+  // Qt also sends a move to a widget that appears under a resting pointer; that is no action of the rider.
   const QPointF at = event.globalPosition();
   if (at != pointer_ && control.hover.handled()) run([&control] { control.hover(); });
   pointer_ = at;
 }
 
-// A key that is used up here does not reach the list around a cell's box, which would open the cell again.
+// Enter in the box over a cell must not reach the list as well, which would open the cell again.
 bool RiderInput::onKey(const Control& control, QWidget& widget, QKeyEvent& event) {
   if (pressByKey(widget, event.key())) return true;
   if (control.kind() != ControlKind::ComboBox || !isEnter(event.key())) return false;
@@ -191,7 +191,7 @@ bool RiderInput::onKey(const Control& control, QWidget& widget, QKeyEvent& event
 }
 
 bool RiderInput::onPress(Control& control, QWidget& widget, const QMouseEvent& event) {
-  // Qt passes a press on to the containers around the widget: the innermost one counts.
+  // Qt passes a press on to the widgets around; the innermost one counts.
   if (!buttonDown_ || lastPressed_ == nullptr || !widget.isAncestorOf(lastPressed_)) lastPressed_ = &widget;
   buttonDown_ = true;
   if (event.button() != Qt::RightButton || !control.alternate.handled()) return false;
@@ -216,9 +216,8 @@ void RiderInput::onRelease(Control& control, const QWidget& widget, const QMouse
   }
 }
 
-// A mouse press elsewhere validates the box before that press is handled, which may give the box another
-// meaning. Otherwise it is queued: a box also loses the keyboard when a handler hides it, and the handler
-// must end first.
+// A mouse press elsewhere may give the box another meaning, so the box is validated before that press.
+// Otherwise validation is queued: a handler that hides the box takes its keyboard, too, and must end first.
 void RiderInput::onBoxLeft(platform::ComboBox& box, const QComboBox& widget, Qt::FocusReason reason) {
   const bool elsewhere = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
   if (!elsewhere || widget.view()->isVisible()) return;

@@ -1,5 +1,5 @@
-// What the rider does to a widget raises the events of its control. Only what a person causes is listened to,
-// so that a write from code never comes back as an event.
+// Turns the rider's actions on a widget into the events of its control. It listens only to what a person
+// causes, so that a change made by code never comes back as an event.
 #pragma once
 
 #include <QHash>
@@ -31,15 +31,15 @@ class RiderInput final : public QObject {
 
   // The widget must be of a class that can show the control.
   void listen(platform::Control& control, QWidget& widget);
-  // A button that stands for no control.
+  // For a button without a control.
   void listen(QAbstractButton& button, std::function<void()> pressed);
   // Whether the widget is listened to for a control.
   [[nodiscard]] bool knows(const QWidget& widget) const { return controls_.contains(&widget); }
-  // Runs what the rider caused: at once, or, while a sound blocks the loop, after it.
+  // Runs an action of the rider: at once, or after the sound that blocks the loop.
   void run(std::function<void()> action) { loop_.whenFree(std::move(action)); }
-  // Presses the widget by a key that it does not take by itself; false where the key means nothing there.
+  // Presses the widget for a key that Qt does not take for a press; false if the key means none here, either.
   bool pressByKey(QWidget& widget, int key);
-  // What the rider pressed last; null where it is gone.
+  // The widget that the rider pressed last; null if it has been deleted.
   [[nodiscard]] QWidget* lastPressed() const { return lastPressed_; }
   // Whether he used the keyboard last, not the mouse.
   [[nodiscard]] bool byKeyboard() const { return byKeyboard_; }
@@ -55,7 +55,7 @@ class RiderInput final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
   bool filterOther(QWidget& widget, QEvent& event);
   bool filterControl(platform::Control& control, QWidget& widget, QEvent& event);
-  // These return whether the event ends there.
+  // These return true if the widget shall not get the event any more.
   bool onKey(const platform::Control& control, QWidget& widget, QKeyEvent& event);
   bool onPress(platform::Control& control, QWidget& widget, const QMouseEvent& event);
   bool onContextMenu(platform::Control& control, QWidget& widget, const QContextMenuEvent& event);

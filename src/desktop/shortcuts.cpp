@@ -30,7 +30,7 @@ class Keys {
     QObject::connect(shortcut, &QShortcut::activated, &page,
                      [&binder = binder_, action = std::move(action)] { binder.run(action); });
   }
-  // Outside a ride the space bar stays what it is elsewhere: it presses what has the focus.
+  // Outside a ride the space bar presses the widget that has the focus, as usual.
   void pauseOrPress() const {
     if (riding()) {
       press(main_.Command7);

@@ -1,4 +1,4 @@
-// The keys that work a whole page: what they press, and the few that are the window's own.
+// The keyboard shortcuts of the main page, the editor and the window.
 #pragma once
 
 #include <QWidget>
@@ -9,8 +9,8 @@
 
 namespace desktop {
 
-// Hands busy and two metres away: Space pauses and resumes a ride, Escape offers to cancel it, F11 fills the
-// screen. In the editor the usual keys open, save, undo, redo and start.
+// Space pauses and resumes a ride, Escape offers to cancel it, F11 fills the screen. In the editor the usual
+// keys open, save, undo, redo and start.
 void addShortcuts(app::Program& program, Binder& binder, MainWindow& window, QWidget& mainPage,
                   QWidget& editorPage);
 

@@ -29,7 +29,7 @@ SingleInstance::SingleInstance(const QString& programFolder, std::function<void(
     : address_(addressOf(programFolder)),
       woken_(std::move(woken)),
       lock_(address_ + QStringLiteral(".lock")) {
-  lock_.setStaleLockTime(0);  // a ride lasts for hours; only a holder that has died gives the lock up
+  lock_.setStaleLockTime(0);  // the lock never expires, since a ride lasts for hours
   // A folder that takes no lock file must not keep the program from starting.
   first_ = lock_.tryLock() || lock_.error() != QLockFile::LockFailedError;
   if (first_) listen();
@@ -49,7 +49,7 @@ void SingleInstance::listen() {
       }
     }
   });
-  QLocalServer::removeServer(address_);  // what a program that died has left
+  QLocalServer::removeServer(address_);  // left by a program that has crashed
   server_.setSocketOptions(QLocalServer::UserAccessOption);
   server_.listen(address_);
 }

@@ -10,13 +10,13 @@ namespace desktop {
 
 class SingleInstance {
  public:
-  // `woken` comes through the event loop of the first program, with the text that a later one sent.
+  // `woken` is called in the first program, from Qt's event loop, with the text that a later one has sent.
   SingleInstance(const QString& programFolder, std::function<void(QString)> woken);
   SingleInstance(const SingleInstance&) = delete;
   SingleInstance& operator=(const SingleInstance&) = delete;
 
   [[nodiscard]] bool first() const { return first_; }
-  // For a program that is not the first: false if the first does not listen.
+  // Sends the text to the first program, from a later one; false if the first does not answer.
   bool wakeFirst(const QString& text = {}) const;
 
  private:

@@ -1,4 +1,4 @@
-// The controls that no widget shows, each with its reason. Timers need no entry.
+// The controls of the forms that no widget shows, each with the reason. Timers and menus need no entry.
 #pragma once
 
 #include <span>

@@ -1,4 +1,4 @@
-// What the volume dialog draws beside its controls: the gauge, and the advice that the main screen gives.
+// Draws what the volume dialog's controls do not show themselves: the gauge, and the main screen's advice.
 #pragma once
 
 #include <QObject>

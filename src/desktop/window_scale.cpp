@@ -14,7 +14,7 @@ namespace {
 
 constexpr double step = 0.05;  // a new style sheet for every pixel of a drag would stutter
 
-// The fixed spaces of a layout, remembered like its margins.
+// Scales the fixed spaces of a layout, whose design is remembered at the first call.
 void scaleSpacers(QLayout& layout, double scale) {
   if (!layout.property("spacers").isValid()) {
     QVariantList sizes;
@@ -37,7 +37,7 @@ void scaleSpacers(QLayout& layout, double scale) {
   layout.invalidate();
 }
 
-// A layout's own lengths, remembered at the first meeting, at a scale.
+// Scales the margins and spaces of a layout, whose design is remembered at the first call.
 void scaleLayout(QLayout& layout, double scale) {
   if (!layout.property("design").isValid()) {
     const QMargins margins = layout.contentsMargins();

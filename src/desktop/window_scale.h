@@ -1,4 +1,4 @@
-// Everything in a window grows with it: the style sheet's lengths and the layouts' own.
+// Scales everything in a window to its size: the lengths of the style sheet and of the layouts.
 #pragma once
 
 #include <QSize>
@@ -8,12 +8,12 @@
 
 namespace desktop {
 
-// A screen of 1280 x 800 at 200 %, less the frame of the window.
+// For a screen of 1280 x 800 at 200 %, less the frame of the window.
 constexpr double smallestScale = 0.45;
 
-// How much larger than its design a window is, in steps that keep a drag from stuttering.
+// The scale at which `design` fits into `size`, in steps of 5 %; never below smallestScale.
 [[nodiscard]] double fittingScale(const QSize& size, const QSize& design);
-// Shows all of `contents` at that scale, under the style sheet of its window.
+// Gives `window` the style sheet, and the layouts in `contents` the lengths, of that scale.
 void scaleWindow(QWidget& window, QWidget& contents, widgets::ThemeMode mode, double scale);
 
 }  // namespace desktop

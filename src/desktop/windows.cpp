@@ -22,7 +22,7 @@ using widgets::toQt;
 
 namespace {
 
-// What the window can be dragged by; a press there does nothing else.
+// Widgets by which the window can be dragged; a press on them does nothing else.
 constexpr std::array<const char*, 22> handles{
     "header",  "Image7",  "MyFrame1", "MyFrame2",     "Picture1",        "Label4",       "Label5",  "Label6",
     "Label9",  "Label10", "Label11",  "Label13",      "Label15",         "Label16",      "Label17", "Label18",
@@ -78,7 +78,7 @@ Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice cho
   addShortcuts(program, binder_, window_, *mainPage_, *editorPage_);
   makeDraggable();
   offerAppearance();
-  // Queued: the handler that opened the dialog has not returned yet when it closes.
+  // Queued, because the handler that opened the dialog has not returned yet when the dialog closes.
   connect(&window_, &MainWindow::unblocked, this, &Windows::addWaitingSessions, Qt::QueuedConnection);
   refresh();
 }
@@ -100,7 +100,7 @@ QWidget* Windows::windowOf(const platform::Form& form) {
   return shown != nullptr ? shown->window() : nullptr;
 }
 
-// `way` is the form's own button that closes it; closing the window presses it.
+// `way` is the form's own button for leaving it; closing the window presses it.
 void Windows::openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way) {
   binder_.bind(form, window.page());
   window.onClose([this, &way] { binder_.run([&way] { way.click(); }); });
@@ -115,7 +115,7 @@ void Windows::followForm(platform::Form& form, QWidget& page) {
   });
 }
 
-// A form that closes over another one uncovers it.
+// A form that closes uncovers the one below it.
 void Windows::showWhatIsLeft() {
   forms::Screens& screens = program_.screens();
   for (const platform::Form* form :
@@ -148,7 +148,7 @@ void Windows::addSession(const std::string& path) {
   binder_.run([this] { addWaitingSession(); });
 }
 
-// Each in an action of its own, which is a step of the editor's history.
+// Each file is an action of its own, so that each is a step in the editor's history.
 void Windows::addWaitingSessions() {
   for (std::size_t left = inbox_.size(); left > 0; --left) binder_.run([this] { addWaitingSession(); });
 }

@@ -1,4 +1,4 @@
-// All windows over a program: one page a form, bound to its controls.
+// All windows of a program: one page for each form, bound to its controls.
 #pragma once
 
 #include <QObject>
@@ -23,28 +23,28 @@ namespace desktop {
 class Windows final : public QObject {
   Q_OBJECT
  public:
-  // `system` is what the desktop wants, `choice` what the rider does.
+  // `system` is what the desktop wants, `choice` what the rider wants.
   Windows(app::Program& program, widgets::ThemeMode system,
           Appearance::Choice choice = Appearance::Choice::System);
   ~Windows() override;
 
   [[nodiscard]] MainWindow& window() { return window_; }
   [[nodiscard]] Binder& binder() { return binder_; }
-  // What the windows wear; a change shows at once.
+  // Dark or light; a change shows at once.
   [[nodiscard]] Appearance& appearance() { return appearance_; }
   // The page that shows a form; null for a form without one.
   [[nodiscard]] QWidget* page(const platform::Form& form) const;
   // The window that shows a form; null for a form without one.
   [[nodiscard]] QWidget* windowOf(const platform::Form& form);
   void speak(const QString& text);
-  // What writes the recorder's take to a file, so that its form can be drawn.
+  // `save` writes the recorder's take to a file, so that its waveform can be drawn.
   void saveTakesBy(std::function<void(const std::string& path)> save) {
     announceView_->saveTakesBy(std::move(save));
   }
-  // A session file opened in the file manager: goes to the editor's list, once no dialog and no sound is in
-  // the way. A ride under way goes on.
+  // Adds a session file that was opened in the file manager to the editor's list, once no dialog and no sound
+  // is in the way. A ride under way goes on.
   void addSession(const std::string& path);
-  // Brings what is drawn up to date at once.
+  // Brings all that is drawn up to date at once.
   void refresh();
 
  private:

@@ -52,7 +52,7 @@ class Audit {
   }
 
  private:
-  // A widget of the page, not one that such a widget is made of.
+  // Whether it is a widget of the page, not a part inside one.
   static bool isControl(const QWidget& widget) {
     if (widget.objectName().isEmpty() || widget.objectName().startsWith(QLatin1String("qt_"))) return false;
     return qobject_cast<const QLabel*>(&widget) != nullptr ||
@@ -78,7 +78,7 @@ class Audit {
     if (field != nullptr && face->text(QAccessible::Name).trimmed().isEmpty()) {
       fault(*field->parentWidget(), QStringLiteral("has a field without a name"));
     }
-    // The cells of a list are its texts.
+    // The cells of a list are named by their texts.
     if (face->role() == QAccessible::Table || face->role() == QAccessible::List) return;
     for (int i = 0; i < face->childCount(); ++i) walkTree(face->child(i));
   }
@@ -100,14 +100,14 @@ class Audit {
     for (QPoint& point : points) point = widget.mapTo(&window_, point);
     return points;
   }
-  // Another widget that takes the place at a point; null where nothing does.
+  // Another widget that covers the widget at a point of the window; null if none does.
   [[nodiscard]] const QWidget* cover(const QWidget& widget, const QPoint& at) const {
     const QWidget* top = window_.childAt(at);
     const bool own =
         top == nullptr || top == &widget || widget.isAncestorOf(top) || top->isAncestorOf(&widget);
     return own || isEditorOf(widget, *top) ? nullptr : top;
   }
-  // A list's cell editors lie over it.
+  // Whether it is a cell editor, which is meant to lie over its list.
   static bool isEditorOf(const QWidget& widget, const QWidget& top) {
     if (qobject_cast<const widgets::GridTable*>(&widget) == nullptr) return false;
     for (const QWidget* over = &top; over != nullptr; over = over->parentWidget()) {
@@ -115,7 +115,7 @@ class Audit {
     }
     return false;
   }
-  // A page that lies over another one hides all of it; a panel is there to lie over what it is about.
+  // Whether it is covered on purpose: by a whole page, or by a panel, which may lie over a part.
   [[nodiscard]] bool isCovered(const QWidget& widget) const {
     const auto points = probes(widget);
     const auto over = [&](const QPoint& at) { return cover(widget, at); };
@@ -172,7 +172,7 @@ class Audit {
     }
     return needed.width() <= widget.width() + rounding && needed.height() <= widget.height();
   }
-  // A text that is the program's own. What may be of any length is elided, and read in full on hover.
+  // Whether the text is the program's own and must fit; texts of any length are shortened by their widgets.
   static bool hasFixedText(const QWidget& widget) {
     return qobject_cast<const widgets::ElidedLabel*>(&widget) == nullptr &&
            qobject_cast<const QLineEdit*>(&widget) == nullptr &&
@@ -182,7 +182,7 @@ class Audit {
   [[nodiscard]] QRect inWindow(const QWidget& widget, const QRect& place) const {
     return {widget.mapTo(&window_, place.topLeft()), place.size()};
   }
-  // What lies under a label shines through.
+  // Whether a picture cannot be seen; a label over it is transparent and does not hide it.
   [[nodiscard]] bool isHidden(const QWidget& picture) const {
     const auto points = probes(picture);
     const auto hides = [&](const QPoint& at) {
@@ -193,7 +193,7 @@ class Audit {
       return isOnPanel(cover(picture, at));
     }) || std::all_of(points.begin(), points.end(), hides);
   }
-  // A picture that is meant to be a background says so.
+  // Notes where pictures are; texts may lie over those marked as a background.
   void findPictures() {
     for (const QWidget* widget : window_.findChildren<QWidget*>()) {
       if (widget->property("background").toBool() || isHidden(*widget)) continue;
@@ -265,7 +265,7 @@ class Audit {
     return false;
   }
 
-  // What the strongest ink makes out there, inside the window.
+  // The contrast of the strongest ink at a place in the window.
   [[nodiscard]] double inkIn(const QRect& place) const {
     const double ratio = picture_.devicePixelRatio();
     const QRectF exact(place);
@@ -308,8 +308,8 @@ class Audit {
   QWidget& window_;
   const QImage picture_;  // 32 bits a pixel
   QStringList faults_;
-  QSet<const QObject*> inTree_;                             // what the accessibility tree holds
-  std::vector<std::pair<const QWidget*, QRect>> pictures_;  // and where in the window they lie
+  QSet<const QObject*> inTree_;                             // objects in the accessibility tree
+  std::vector<std::pair<const QWidget*, QRect>> pictures_;  // and their places in the window
 };
 
 }  // namespace

@@ -1,6 +1,5 @@
-// What a demanding eye would find on a window: controls that are cut off or lie over one another, texts that
-// do not fit or are too faint to read, controls without a name for those who do not see them, or out of the
-// keyboard's reach.
+// Looks for faults on a window: controls that are cut off or lie over one another, texts that do not fit or
+// are too faint to read, controls without an accessible name or out of the keyboard's reach.
 #pragma once
 
 #include <QImage>
@@ -11,7 +10,7 @@
 
 namespace stage {
 
-// A line for each fault of what shows `form` in its window; `picture` is what the window looks like.
+// A line for each fault. `window` is the one that shows `form`, `picture` a picture of it.
 [[nodiscard]] QStringList faultsOf(const platform::Form& form, QWidget& window, const QImage& picture);
 
 }  // namespace stage

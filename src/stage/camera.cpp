@@ -13,12 +13,12 @@
 namespace stage {
 namespace {
 
-// Menus are windows of their own.
+// Draws the open menus, too, which are windows of their own.
 void addMenus(QPixmap& picture, const QWidget& window) {
   QPainter painter(&picture);
   for (QWidget* menu : QApplication::topLevelWidgets()) {
     if (qobject_cast<QMenu*>(menu) == nullptr || !menu->isVisible()) continue;
-    const QVariant place = menu->property("place");  // the platform without a screen is a small one
+    const QVariant place = menu->property("place");  // without a screen, Qt moves menus as if on a small one
     painter.drawPixmap((place.isValid() ? place.toPoint() : menu->pos()) - window.pos(), menu->grab());
   }
 }

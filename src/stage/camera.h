@@ -10,8 +10,8 @@ namespace stage {
 class Camera {
  public:
   Camera(desktop::Windows& windows, bool checks) : windows_(windows), checks_(checks) {}
-  // Draws what shows a form to a file, or tells what the audit finds in it; throws console::CommandError
-  // where that cannot be done.
+  // Saves a picture of the form's window to a file, or prints what the audit finds on it. Throws
+  // console::CommandError if the form has no window or the file cannot be written.
   void capture(const platform::Form& form, const std::string& path);
   // Whether the audit has found anything.
   [[nodiscard]] bool foundFaults() const { return foundFaults_; }

@@ -1,5 +1,5 @@
-// ventoria-stage: the console's commands over the desktop's real windows, with the console's simulated
-// devices and clock, and pictures of what stands there.
+// ventoria-stage: runs the console's commands on the desktop's real windows, with the console's simulated
+// devices and clock, and takes pictures of the windows.
 #include <QApplication>
 #include <filesystem>
 #include <fstream>
@@ -64,7 +64,7 @@ int run(const StageOptions& options) {
     const std::string name = arguments.word("FORM");
     camera.capture(console::findForm(session.program().screens(), name), arguments.text());
   });
-  // What a voice would say just then: the simulated one has spoken before anybody can look.
+  // Shows a spoken text: the simulated voice ends at once, before a picture could be taken.
   session.interpreter().add(
       "speak", [&](console::Arguments& arguments) { windows.speak(widgets::toQt(arguments.text())); });
   windows.window().resize(options.size);

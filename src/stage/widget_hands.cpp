@@ -26,7 +26,7 @@ using widgets::fromQt;
 using widgets::GridTable;
 using widgets::toQt;
 
-// Lets the windows catch up with what has happened.
+// Lets the windows handle what has happened.
 void settle() {
   for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
 }
@@ -42,7 +42,7 @@ void click(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftB
   mouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
 }
 
-// A touch elsewhere closes what has popped up.
+// A press anywhere else would close them, too.
 void closeMenus() {
   for (QWidget* menu = QApplication::activePopupWidget(); menu != nullptr;
        menu = QApplication::activePopupWidget()) {
@@ -58,7 +58,7 @@ QPoint spot(const QWidget& widget) {
 }
 
 void move(QWidget& widget, const QPoint& at) {
-  // A move to the pointer's own place would be none.
+  // A move to the place where the pointer is already would be ignored.
   mouse(widget, QEvent::MouseMove, at + QPoint(1, 1), Qt::NoButton, Qt::NoButton);
   mouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
 }
@@ -87,7 +87,7 @@ bool isIn(const QWidget* widget, const QWidget& whole) {
   return widget == &whole || whole.isAncestorOf(widget);
 }
 
-// Whether another part of the page, which is to be seen, lies there or has hidden the widget.
+// Whether a visible part of the page is meant to cover the widget at that point, or has replaced it.
 bool isCoveredByDesign(const platform::Form& form, const QWidget& page, const QWidget& widget,
                        const QPoint& at) {
   for (const QWidget* part = &widget; part != nullptr && part != &page; part = part->parentWidget()) {
@@ -99,7 +99,7 @@ bool isCoveredByDesign(const platform::Form& form, const QWidget& page, const QW
   return false;
 }
 
-// A list's cell editors lie over it.
+// Whether the widget belongs to a cell editor, which lies over its list.
 bool isOverList(const QWidget* widget) {
   for (; widget != nullptr; widget = widget->parentWidget()) {
     if (widget->property("over").toString() == QLatin1String("list")) return true;
@@ -113,7 +113,7 @@ std::string hiderOf(const QWidget& widget) {
   return fromQt(hidden->objectName());
 }
 
-// What keeps a rider from touching the widget there; empty where nothing does.
+// What keeps a rider from touching the widget at that point; empty if nothing does.
 std::string obstacle(const QWidget& widget, const QPoint& at) {
   if (!widget.isVisible()) return "its widget is not to be seen, for " + hiderOf(widget) + " is hidden";
   if (!widget.isEnabled()) return "its widget is disabled";
@@ -132,7 +132,7 @@ QWidget* WidgetHands::find(const platform::Component& component) const {
   settle();
   const QWidget* page = windows_->page(component.form());
   auto* widget = page != nullptr ? page->findChild<QWidget*>(toQt(component.name())) : nullptr;
-  // A platform without a screen gives the keyboard back to nobody when a list closes.
+  // Without a screen Qt leaves the keyboard with no widget when a drop-down list closes.
   if (widget != nullptr && widget->isVisible() && QApplication::focusWidget() == nullptr) {
     widget->activateWindow();
     settle();
@@ -152,7 +152,7 @@ Widget* WidgetHands::reach(const platform::Component& component) const {
   QWidget* found = find(component);
   if (desktop::isUnseen(component)) return nullptr;
   if (found == nullptr) miss(component, "no widget shows it");
-  // Of a list only the cell matters.
+  // Only the cell to be pressed has to be free, not the middle of the list.
   const bool list = component.kind() == platform::ControlKind::Grid;
   if (!canTouch(component, *found, list ? QPoint(0, 0) : spot(*found))) return nullptr;
   auto* widget = qobject_cast<Widget*>(found);
@@ -206,7 +206,7 @@ void WidgetHands::hover(platform::Control& target) {
     logic_.hover(target);
     return;
   }
-  // At its edge, for what it contains lies on the rest.
+  // A frame is touched at its edge, since its contents cover the rest.
   const bool holds = target.kind() == platform::ControlKind::Frame;
   mouse(*widget, QEvent::MouseMove, holds ? QPoint(2, 2) : spot(*widget), Qt::NoButton, Qt::NoButton);
   settle();
@@ -252,7 +252,7 @@ void WidgetHands::type(platform::Control& box, const std::string& text) {
     return;
   }
   if (edit == nullptr) miss(box, "nothing can be typed in its widget");
-  // A drop-down list has the keyboard itself, and hands it on to its line.
+  // A drop-down list has the keyboard itself, and passes the keys on to its line.
   widget->setFocus();
   edit->selectAll();
   stroke(*widget, Qt::Key_Backspace);
@@ -296,7 +296,7 @@ void WidgetHands::hoverCell(platform::Grid& grid, int row, int column) {
 
 void WidgetHands::checkRow(platform::Grid& grid, int row, bool on) {
   auto* list = reach<CheckList>(grid);
-  // A click would take a tick away that is there already.
+  // A click on a row that is as wanted already would undo it.
   if (list == nullptr || grid.checked(row) == on || !reachCell(*list, row, 1)) {
     logic_.checkRow(grid, row, on);
   } else {
@@ -316,7 +316,7 @@ void WidgetHands::key(platform::Control& target, const std::string& key) {
 }
 
 void WidgetHands::leave(platform::ComboBox& box) {
-  // A box that has been hidden meanwhile has left the keyboard by itself.
+  // A box that has been hidden meanwhile has lost the keyboard already.
   auto* widget = qobject_cast<QComboBox*>(find(box));
   if (widget == nullptr || !widget->isVisible() || !widget->hasFocus()) return;
   widget->clearFocus();

@@ -1,5 +1,5 @@
-// The rider's hands on the real widgets: mouse and keyboard events, as the window system would send them.
-// Where the form shows a control and the window does not let a rider touch it, the command is an error.
+// The rider's hands on the real widgets: sends mouse and keyboard events, as the window system would. Throws
+// console::CommandError if the form shows a control but the window does not let a rider touch it.
 #pragma once
 
 #include <QWidget>
@@ -19,7 +19,7 @@ namespace stage {
 
 class WidgetHands final : public console::RiderHands {
  public:
-  // To be called before the first touch.
+  // To be called before the first command.
   void attach(desktop::Windows& windows) { windows_ = &windows; }
 
   void press(platform::Component& target) override;
@@ -36,19 +36,19 @@ class WidgetHands final : public console::RiderHands {
   void leave(platform::ComboBox& box) override;
 
  private:
-  // The widget of a control on its page, brought up to date; null where none has its name.
+  // The widget of a control, on its page brought up to date; null if none has its name.
   [[nodiscard]] QWidget* find(const platform::Component& component) const;
-  // Whether a rider can touch the widget there. False where another part of the page covers it by design;
-  // else throws CommandError.
+  // True if a rider can touch the widget at that point, false if another part of the page covers it by
+  // design. Throws CommandError in all other cases.
   [[nodiscard]] bool canTouch(const platform::Component& component, const QWidget& widget,
                               const QPoint& at) const;
-  // The widget that a rider would touch; null where the logic is worked instead, for what no widget is meant
-  // to show and what is covered by design.
+  // The widget that a rider would touch; null if the logic is worked instead, because no widget is meant to
+  // show the control or it is covered by design.
   template <class Widget>
   [[nodiscard]] Widget* reach(const platform::Component& component) const;
-  // The same for a cell, brought into sight: its place in the viewport.
+  // The same for a cell, which is scrolled into view: its place in the viewport.
   [[nodiscard]] std::optional<QPoint> reachCell(widgets::GridTable& table, int row, int column) const;
-  // A menu's entry.
+  // The entry of a menu; throws CommandError if the rider cannot choose it.
   [[nodiscard]] QAction& entry(const platform::Component& item) const;
 
   desktop::Windows* windows_ = nullptr;
