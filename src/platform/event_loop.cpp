@@ -202,6 +202,7 @@ void EventLoop::unblock() {
 }
 
 void EventLoop::whenFree(std::function<void()> action) {
+  if (actions_.empty()) sleptUntil(clock_.now());  // a front's own loop has slept until this came
   held_.push_back(std::move(action));
   runHeld();
 }

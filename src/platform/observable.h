@@ -41,7 +41,10 @@ class Variable final : public Observable {
 
   [[nodiscard]] const T& get() const { return value_; }
   operator const T&() const { return value_; }  // NOLINT(google-explicit-constructor): reads like its value
-  friend bool operator==(const Variable& a, const std::type_identity_t<T>& b) { return a.value_ == b; }
+  template <class Other>
+  friend bool operator==(const Variable& a, const Other& b) {
+    return a.value_ == b;
+  }
 
  private:
   T value_{};
