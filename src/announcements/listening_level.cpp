@@ -45,6 +45,7 @@ void ListeningLevel::makeReady() {
 
 // A level that is not in the table changes nothing.
 void ListeningLevel::apply() {
+  page_.Timer2.rest({&page_.VScroll1.value, &page_.HScroll1.value});
   const int down = page_.VScroll1.value - 1;
   const int across = page_.HScroll1.value + 2;
   const auto row = static_cast<std::size_t>(down);

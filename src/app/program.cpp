@@ -80,7 +80,7 @@ void showFault(platform::Dialogs& dialogs, const std::string& text) {
 }  // namespace
 
 Program::Program(const platform::Outside& outside, const Setup& setup)
-    : outside_(outside), loop_(outside_.clock) {
+    : outside_(outside), loop_(outside_.clock, setup.ticks) {
   for (platform::Form* form : screens_.all()) {
     form->attach(loop_);
     for (platform::Component* component : form->components()) {

@@ -18,6 +18,7 @@ struct Setup {
   std::string version;  // shown in the main menu
   std::function<void(const std::string&)> faultObserver;  // called with each fault before the rider is told
   std::string documentsFolder = {};                       // where the rider picks music to import
+  platform::EventLoop::Ticks ticks = platform::EventLoop::Ticks::RestWhereIdle;
 };
 
 class Program {

@@ -37,7 +37,6 @@ void Journal::print(std::ostream& out, std::string_view kind) {
     if (printed(line)) out << line.text << '\n';
   }
   std::erase_if(lines_, printed);
-  std::erase_if(states_, [&](const auto& state) { return kind.empty() || state.first == kind; });
 }
 
 }  // namespace console

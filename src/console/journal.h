@@ -20,8 +20,7 @@ class Journal {
 
   // The rest is given as fields, parted by tabs; each is escaped.
   void write(std::string_view kind, const std::vector<std::string_view>& fields);
-  // For a state that is set over and over: writes nothing if the last line of the kind, not printed yet, says
-  // the same.
+  // For a state that is set over and over: writes nothing if the last line of the kind says the same.
   void writeState(std::string_view kind, const std::string& state);
   // Prints the lines of a kind, or all of them for an empty one, and forgets what it printed.
   void print(std::ostream& out, std::string_view kind);

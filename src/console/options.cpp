@@ -112,6 +112,8 @@ Options parseOptions(const std::vector<std::string>& words) {
   for (std::size_t i = 0; i < words.size(); ++i) {
     if (words[i] == "--help" || words[i] == "-h") {
       options.help = true;
+    } else if (words[i] == "--every-tick") {
+      options.everyTick = true;
     } else if (words[i].starts_with("--")) {
       const std::size_t equals = words[i].find('=');
       const KnownOption& option = optionNamed(words[i].substr(0, equals));
@@ -130,7 +132,7 @@ Options parseOptions(const std::vector<std::string>& words) {
 
 std::string usage() {
   return "usage: ventoria-console [--folder DIR] [--clock simulated|real] [--now \"2026-01-31 12:00:00.000\"]\n"
-         "                        [--sound none|instant|timed] [--volume N|none] [SCRIPT]\n"
+         "                        [--sound none|instant|timed] [--volume N|none] [--every-tick] [SCRIPT]\n"
          "       ventoria-console --ride FILE [--speed N]\n";
 }
 

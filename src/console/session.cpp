@@ -20,7 +20,7 @@ Session::Session(const Options& options, const std::string& folder, std::ostream
       sound_(options.sound, files_, folder, journal_),
       dialogs_(journal_),
       screenSaver_(journal_),
-      machine_{options.volume},
+      machine_(options.volume),
       media_(*clock_, files_, machine_),
       mediaCommands_(media_),
       journaledMedia_(mediaCommands_, journal_),
@@ -32,7 +32,9 @@ Session::Session(const Options& options, const std::string& folder, std::ostream
           {*clock_, sound_, dialogs_, files_, screenSaver_, journaledMedia_, level_, shell_, volume_,
            printer_},
           {folder, VENTORIA_VERSION, [this](const std::string& text) { journal_.write("fault", {text}); },
-           platform::documentsFolder()}),
+           platform::documentsFolder(),
+           options.everyTick ? platform::EventLoop::Ticks::Every
+                             : platform::EventLoop::Ticks::RestWhereIdle}),
       interpreter_({program_.screens(), program_.state(), program_.loop(), journal_, dialogs_, machine_},
                    hands != nullptr ? *hands : directHands_, out) {
   sound_.attach(program_.loop());

@@ -3,11 +3,16 @@
 
 #include <optional>
 
+#include "platform/observable.h"
+
 namespace console {
 
 struct SimulatedMachine {
-  std::optional<int> volume = 80;  // the master volume, %; none: no volume device
+  explicit SimulatedMachine(std::optional<int> percent = 80) : volume(percent) {}
+
+  std::optional<int> volume;  // the master volume, %; none: no volume device
   bool muted = false;
+  platform::Observable volumeChanges;  // of these two
   bool microphone = true;
 };
 

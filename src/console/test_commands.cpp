@@ -94,6 +94,7 @@ void TestCommands::volume(Arguments& arguments) {
   if (percent < 0 || percent > 100) throw CommandError("a volume goes from 0 to 100");
   if (!world_.machine.volume) throw CommandError("there is no volume device");
   world_.machine.volume = percent;
+  world_.machine.volumeChanges.wakeTimers();
 }
 
 void TestCommands::mute(Arguments& arguments) {
@@ -101,6 +102,7 @@ void TestCommands::mute(Arguments& arguments) {
   arguments.end();
   if (!world_.machine.volume) throw CommandError("there is no volume device");
   world_.machine.muted = on;
+  world_.machine.volumeChanges.wakeTimers();
 }
 
 void TestCommands::microphone(Arguments& arguments) {

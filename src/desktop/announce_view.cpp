@@ -134,7 +134,7 @@ void AnnounceView::refreshMusic() {
   const bool chosen = forms::musicChosen(page_);
   ui_->Label6->setProperty("tone", chosen ? QStringLiteral("text") : QStringLiteral("second"));
   ui_->musicTimes->setVisible(page_.Label5.visible || page_.Label7.visible);
-  ui_->musicBar->setShare(chosen ? state_.music.share() : 0);
+  ui_->musicBar->setShare(chosen ? state_.music.get().share() : 0);
   const bool empty = page_.File1.lines().empty();
   setLook(*ui_->MyButton4, empty ? QStringLiteral("primary") : QString());
   setLook(*ui_->Command8, empty ? QString() : QStringLiteral("primary"));

@@ -68,6 +68,7 @@ void CellEditor::cliquerCellule() {
   forms::showMusicStopped(context_.screens.main);
   if (context_.screens.volume.visible) context_.screens.volume.unload();
   colonneEdit_ = colonneCliquee_;
+  editor_.Timer1.wake();
   const int row = grid_.selectedRow();
   ligneEdit_ = row;
   const std::string cell = grid_.text(row, colonneEdit_);
@@ -156,6 +157,9 @@ void CellEditor::placerEditeur() {
     return;
   }
   placeOverCell();
+  editor_.Timer1.rest({&grid_.changes, &editor_.Combo1.visible, &editor_.Combo1.left, &editor_.Combo1.width,
+                       &editor_.Picture1.visible, &editor_.Picture2.visible, &editor_.Label7.caption,
+                       &editor_.Label23.caption, &editor_.Timer3.enabled});
 }
 
 void CellEditor::explainFirstRow() {
@@ -209,6 +213,7 @@ void CellEditor::hideBadge() {
 
 void CellEditor::hideDurationPanelOutsideList() {
   editor_.Picture2.visible = grid_.rowShows(grid_.selectedRow());
+  editor_.Timer3.rest({&grid_.changes, &editor_.Picture2.visible});
 }
 
 void CellEditor::presserCellule(platform::MouseButton button) {

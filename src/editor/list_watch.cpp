@@ -21,6 +21,7 @@ constexpr int cellMargin = 100;      // twips
 ListWatch::ListWatch(const context::Context& context)
     : editor_(context.screens.editor), grid_(editor_.ListView1) {
   editor_.Timer4.tick.handle([this] { calculerTotal(); });
+  editor_.Timer5.tick.handle([this] { editor_.Timer5.rest({}); });
   editor_.Timer6.tick.handle([this] { verifierLignes(); });
   editor_.Timer7.tick.handle([this] { blink(); });
   editor_.Timer9.tick.handle([this] { survolerCellule(); });
@@ -38,7 +39,7 @@ void ListWatch::markStale(const platform::GridChange& change) {
 
 // In whole seconds. Whole days drop out, as they do where times are added as texts.
 void ListWatch::calculerTotal() {
-  if (!totalStale_) return;
+  if (!totalStale_) return editor_.Timer4.rest({&grid_.changes});
   int sum = 0;
   for (int row = 2; row <= grid_.rowCount(); ++row) {
     const std::string& duration = grid_.text(row, column::duration);
@@ -64,11 +65,18 @@ int ListWatch::paintRows() {
 }
 
 void ListWatch::verifierLignes() {
-  if (grid_.rowCount() < 2) return;
+  if (grid_.rowCount() < 2) return editor_.Timer6.rest({&grid_.changes});
   if (stylesStale_) {
     unfinished_ = paintRows();
     stylesStale_ = false;
   }
+  showUnfinished();
+  editor_.Timer6.rest({&grid_.changes, &editor_.MyButton5.visible, &editor_.Command35.visible,
+                       &editor_.Command6.visible, &editor_.MyButton11.visible, &editor_.MyButton11.caption,
+                       &editor_.Timer7.enabled});
+}
+
+void ListWatch::showUnfinished() {
   const bool complete = unfinished_ == 0;
   editor_.MyButton5.visible = complete;
   editor_.Command35.visible = complete;
@@ -92,7 +100,7 @@ void ListWatch::blink() {
 void ListWatch::survolerCellule() {
   const int row = grid_.pointedRow();
   const int col = grid_.pointedColumn();
-  if (row == 0 || col < 1 || col > grid_.columnCount()) return;
+  if (row == 0 || col < 1 || col > grid_.columnCount()) return editor_.Timer9.rest({&grid_.changes});
   const std::string text = platform::trim(grid_.text(row, col));
   editor_.Label29.caption = text;
   const int width = grid_.column(col).width;
@@ -101,6 +109,8 @@ void ListWatch::survolerCellule() {
   editor_.Navette.left = grid_.columnLeft(col);
   editor_.Navette.width = width;
   editor_.Navette.visible = grid_.rowShows(row);
+  editor_.Timer9.rest({&grid_.changes, &grid_.toolTip, &editor_.Label29.caption, &editor_.Navette.left,
+                       &editor_.Navette.width, &editor_.Navette.visible});
 }
 
 }  // namespace editor

@@ -17,6 +17,7 @@ class ListWatch {
   void markStale(const platform::GridChange& change);
   // Colours every row but the first; how many are not finished.
   [[nodiscard]] int paintRows();
+  void showUnfinished();
   void blink();
 
   forms::CreerCycle& editor_;

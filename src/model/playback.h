@@ -16,6 +16,7 @@ struct Playback {
   }
   // The player stays at the end of a sound. False where nothing is open.
   [[nodiscard]] bool atEnd() const { return length > 0 && position == length; }
+  bool operator==(const Playback&) const = default;
 };
 
 }  // namespace model

@@ -11,10 +11,16 @@ using Reader = std::function<std::string(const SharedState&)>;
 Reader text(std::string SharedState::*member) {
   return [member](const SharedState& state) { return state.*member; };
 }
+Reader text(platform::Variable<std::string> SharedState::*member) {
+  return [member](const SharedState& state) { return (state.*member).get(); };
+}
 Reader number(int SharedState::*member) {
   return [member](const SharedState& state) { return std::to_string(state.*member); };
 }
 Reader time(TimeValue SharedState::*member) {
+  return [member](const SharedState& state) { return formatTime(state.*member); };
+}
+Reader time(platform::Variable<TimeValue> SharedState::*member) {
   return [member](const SharedState& state) { return formatTime(state.*member); };
 }
 std::string slotText(const SharedState& state) {

@@ -1,5 +1,5 @@
 // What the subsystems share beside the controls: the plan, the state of a ride, the sound slot, the order to
-// the music. Everything belongs to the event loop's thread.
+// the music. Everything belongs to the event loop's thread. Timers rest on what is a Variable.
 #pragma once
 
 #include <array>
@@ -13,6 +13,7 @@
 #include "model/run_plan.h"
 #include "model/take.h"
 #include "model/time_value.h"
+#include "platform/observable.h"
 
 namespace model {
 
@@ -26,16 +27,16 @@ struct SharedState {
   std::string dureeChrono;    // length of the start countdown, whole seconds as text
 
   // The ride.
-  int seanceCourante = 0;         // number of the pass being ridden
-  TimeValue dureeSequence = 0;    // 0 stops the chrono at its next tick
-  TimeValue pasChrono = 0;        // one second, set at start-up
-  TimeValue ecouleSequence = 0;   // ridden of the present sequence
-  TimeValue restantSequence = 0;  // left of the present sequence, whole seconds
-  std::string moitieSequence;     // half of dureeSequence, "hh:nn:ss"
-  std::string etatFin;            // "terminer" once a run has ended with the voice off
-  int modeAffichageFC = 1;        // how the target is shown: 1 beats, 2 percentage, 3 both in turn
-  int alternanceFC = 0;           // in mode 3, which of the two comes next: 1 or 2
-  std::string ecranVeilleActif;   // "oui" if the screen saver was active at the last check
+  int seanceCourante = 0;                       // number of the pass being ridden
+  platform::Variable<TimeValue> dureeSequence;  // 0 stops the chrono at its next tick
+  TimeValue pasChrono = 0;                      // one second, set at start-up
+  TimeValue ecouleSequence = 0;                 // ridden of the present sequence
+  TimeValue restantSequence = 0;                // left of the present sequence, whole seconds
+  std::string moitieSequence;                   // half of dureeSequence, "hh:nn:ss"
+  std::string etatFin;                          // "terminer" once a run has ended with the voice off
+  int modeAffichageFC = 1;       // how the target is shown: 1 beats, 2 percentage, 3 both in turn
+  int alternanceFC = 0;          // in mode 3, which of the two comes next: 1 or 2
+  std::string ecranVeilleActif;  // "oui" if the screen saver was active at the last check
 
   // The voice: the sound to be played, first as a name, then as its number; and the sound names of the row
   // that is announced.
@@ -48,7 +49,7 @@ struct SharedState {
   std::string sonPlateau;
 
   // The order to the music player: "oui" to go on, "non" to hold, empty when there is none.
-  std::string musiqueSuit;
+  platform::Variable<std::string> musiqueSuit;
 
   // The music's own state.
   std::string selectionEnCours;  // "oui" while a selection drives the music, else empty
@@ -56,8 +57,8 @@ struct SharedState {
 
   // What the screens tell in words, as numbers: for what draws it.
   Take take;
-  Playback announcement;  // the stored one that is open
-  Playback music;         // the current piece
+  Playback announcement;               // the stored one that is open
+  platform::Variable<Playback> music;  // the current piece
   // As the calculator shows them: safety, light, light to moderate, moderate, strong.
   std::array<HeartZone, 5> heartZones;
 

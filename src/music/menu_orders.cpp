@@ -44,7 +44,7 @@ void MenuOrders::openLibrary() {
 void MenuOrders::startWholeLibrary() {
   forms::letMusicYield(main_);
   const auto library = static_cast<int>(library_.File1.lines().size());
-  int& ticked = selection_.nbMusiquesCochees;
+  platform::Variable<int>& ticked = selection_.nbMusiquesCochees;
   if (ticked == 0 || ticked == library) {
     ticked = library;
     library_.Command8.click();

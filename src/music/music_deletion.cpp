@@ -26,7 +26,7 @@ void MusicDeletion::removeFromList() {
   library_.ListView1.focus();
   list_.readLibrary();
   // Lowered whether the row was ticked or not.
-  if (selection_.nbMusiquesCochees > 0) --selection_.nbMusiquesCochees;
+  if (selection_.nbMusiquesCochees > 0) selection_.nbMusiquesCochees = selection_.nbMusiquesCochees - 1;
   list_.showCount();
   list_.offerStart(selection_.nbMusiquesCochees);
 }

@@ -69,9 +69,9 @@ void SelectionList::fermer() {
 }
 
 int SelectionList::recount() {
-  int& ticked = selection_.nbMusiquesCochees;
-  ticked = 0;
+  int ticked = 0;
   for (int row = 1; row <= list_.rowCount(); ++row) ticked += list_.checked(row) ? 1 : 0;
+  selection_.nbMusiquesCochees = ticked;
   if (ticked == 0) return 0;
   return ticked == list_.rowCount() ? 1 : 2;
 }

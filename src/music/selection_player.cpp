@@ -62,7 +62,7 @@ void SelectionPlayer::musiqueSuivante() {
     library_.Timer4.enabled = false;
     return;
   }
-  ++selection_.nbMusiquesJouees;
+  selection_.nbMusiquesJouees = selection_.nbMusiquesJouees + 1;
   selection_.prochaineMusique = indexMusique + 1;
   play(library_.ListView1.text(indexMusique, 1));
 }
@@ -70,7 +70,7 @@ void SelectionPlayer::musiqueSuivante() {
 // The timer starts the player in an event of its own, after this handler. Until then the length of the piece
 // before must not be taken for that of the new one.
 void SelectionPlayer::play(const std::string& name) {
-  context_.state.music = {};
+  context_.state.music = model::Playback{};
   context_.state.dureeMusique.clear();
   context_.screens.player.Text1.text = list_.pathOf(name);
   context_.screens.player.Timer2.enabled = true;
@@ -88,12 +88,17 @@ void SelectionPlayer::watch() {
                                    &library_.Command12, &library_.Command13}) {
     button->enabled = chosen;
   }
-  if (chosen) {
-    library_.Label6.visible = true;
-    // The player stays at the end of a piece, so checking once a second is enough.
-    if (context_.state.music.atEnd()) musiqueSuivante();
-  }
-  if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees) library_.Command13.enabled = false;
+  // The player stays at the end of a piece, so checking once a second is enough.
+  const bool pieceEnded = chosen && context_.state.music.get().atEnd();
+  if (chosen) library_.Label6.visible = true;
+  if (pieceEnded) musiqueSuivante();
+  if (selection_.nbMusiquesJouees == selection_.nbMusiquesCochees.get()) library_.Command13.enabled = false;
+  if (pieceEnded) return;
+  library_.Timer4.rest({&library_.Label5.caption, &library_.Label5.visible, &library_.Label6.caption,
+                        &library_.Label6.visible, &library_.Label7.visible, &library_.Command9.enabled,
+                        &library_.Command10.enabled, &library_.Command11.enabled, &library_.Command12.enabled,
+                        &library_.Command13.enabled, &context_.state.music, &selection_.nbMusiquesJouees,
+                        &selection_.nbMusiquesCochees});
 }
 
 void SelectionPlayer::ecouter() {

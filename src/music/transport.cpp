@@ -47,7 +47,7 @@ void Transport::lire() {
 
 void Transport::showLength() {
   library_.Label5.caption = player_.Label1.caption;
-  music_.position = music_.length;
+  music_ = {music_.get().length, music_.get().length};
 }
 
 // One bar for both: the machine's volume and the player's own.

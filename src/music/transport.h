@@ -17,7 +17,7 @@ class Transport {
   forms::EnrUneAnnonce& library_;
   forms::LectMCI& player_;
   forms::VolumeGeneral& volume_;
-  model::Playback& music_;
+  platform::Variable<model::Playback>& music_;
 };
 
 }  // namespace music

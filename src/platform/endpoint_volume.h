@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/observable.h"
+
 namespace platform {
 
 class EndpointVolume {
@@ -18,6 +20,8 @@ class EndpointVolume {
   virtual void setLevel(double level) = 0;
   virtual int channels() = 0;
   virtual std::string deviceName() = 0;
+  // What tells, on the loop's thread, that the reads may have changed; null where nothing does.
+  [[nodiscard]] virtual Observable* changes() { return nullptr; }
 };
 
 }  // namespace platform

@@ -8,13 +8,25 @@
 namespace platform {
 
 struct EventLoop::Entry {
+  Entry(Timer& itsTimer, std::uint64_t created) : timer(&itsTimer), order(created) {}
+
   Timer* timer;
   std::uint64_t order;
   Instant due{0};
   bool queued = false;
+  bool resting = false;
   bool running = false;
   bool released = false;
   std::string lastFault;  // so that a timer that fails at every tick says so once
+
+  [[nodiscard]] Instant period() const { return Instant{timer->interval.get()}; }
+  [[nodiscard]] bool comesBefore(const Entry& other) const {
+    return due != other.due ? due < other.due : order < other.order;
+  }
+  // The first tick after an instant that is not before the present one.
+  [[nodiscard]] Instant tickAfter(Instant when) const {
+    return due + ((when - due) / period() + 1) * period();
+  }
 };
 
 class EventLoop::Acting {
@@ -28,7 +40,7 @@ class EventLoop::Acting {
   EventLoop& loop_;
 };
 
-EventLoop::EventLoop(Clock& clock) : clock_(clock) {}
+EventLoop::EventLoop(Clock& clock, Ticks ticks) : clock_(clock), ticks_(ticks) {}
 
 EventLoop::~EventLoop() {
   for (const auto& entry : entries_) {
@@ -45,21 +57,21 @@ EventLoop::Entry* EventLoop::entryOf(const Timer& timer) const {
 void EventLoop::schedule(Entry& entry, Instant due) {
   entry.due = due;
   entry.queued = true;
-  const auto place = std::find_if(queue_.begin(), queue_.end(), [&](const Entry* other) {
-    return other->due > due || (other->due == due && other->order > entry.order);
-  });
+  const auto place = std::find_if(queue_.begin(), queue_.end(),
+                                  [&](const Entry* other) { return entry.comesBefore(*other); });
   queue_.insert(place, &entry);
 }
 
 void EventLoop::unschedule(Entry& entry) {
-  if (!entry.queued) return;
-  queue_.erase(std::find(queue_.begin(), queue_.end(), &entry));
+  if (entry.queued) queue_.erase(std::find(queue_.begin(), queue_.end(), &entry));
+  if (entry.resting) resting_.erase(std::find(resting_.begin(), resting_.end(), &entry));
   entry.queued = false;
+  entry.resting = false;
 }
 
 void EventLoop::adopt(Timer& timer) {
   std::erase_if(entries_, [](const auto& entry) { return entry->released && !entry->running; });
-  entries_.push_back(std::make_unique<Entry>(Entry{&timer, created_++, {}, false, false, false, {}}));
+  entries_.push_back(std::make_unique<Entry>(timer, created_++));
   timer.scheduler_ = this;
   restart(timer);
 }
@@ -77,8 +89,43 @@ void EventLoop::restart(Timer& timer) {
   Entry* entry = entryOf(timer);
   if (entry == nullptr) return;
   unschedule(*entry);
+  timer.forgetWhatItRestsOn();
   if (timer.enabled && timer.interval > 0) schedule(*entry, clock_.now() + Instant{timer.interval.get()});
   if (rescheduled_) rescheduled_();
+}
+
+bool EventLoop::layToRest(Timer& timer) {
+  Entry* entry = entryOf(timer);
+  if (entry == nullptr || ticks_ == Ticks::Every) return false;
+  if (entry->resting) return true;
+  if (!entry->queued) return false;
+  unschedule(*entry);
+  entry->resting = true;
+  resting_.push_back(entry);
+  return true;
+}
+
+void EventLoop::wake(Timer& timer) {
+  Entry* entry = entryOf(timer);
+  if (entry == nullptr || !entry->resting) return;
+  unschedule(*entry);
+  schedule(*entry, entry->due);
+  if (rescheduled_) rescheduled_();
+}
+
+void EventLoop::sleptUntil(Instant when) {
+  if (blocked()) return;
+  for (Entry* entry : resting_) {
+    if (entry->due < when && !entry->running) entry->due = entry->tickAfter(when - Instant{1});
+  }
+}
+
+void EventLoop::passTicks(Instant horizon, const Entry* before) {
+  const Instant now = clock_.now();
+  for (Entry* entry : resting_) {
+    if (entry->due > horizon || entry->running) continue;
+    if (before == nullptr || entry->comesBefore(*before)) entry->due = entry->tickAfter(now);
+  }
 }
 
 EventLoop::Entry* EventLoop::firstDue(Instant horizon) const {
@@ -98,11 +145,9 @@ std::optional<Instant> EventLoop::nextDue() const {
 }
 
 void EventLoop::fire(Entry& entry) {
-  const Instant now = clock_.now();
-  const Instant period{entry.timer->interval.get()};
-  const auto passed = (now - entry.due) / period + 1;
+  const Instant next = entry.tickAfter(clock_.now());
   unschedule(entry);
-  schedule(entry, entry.due + passed * period);
+  schedule(entry, next);
   entry.running = true;
   try {
     const Acting acting(*this);
@@ -133,6 +178,7 @@ void EventLoop::fireDue() {
   const Instant horizon = clock_.now();
   while (!quitting_ && !blocked()) {
     Entry* entry = firstDue(horizon);
+    passTicks(horizon, entry);
     if (entry == nullptr) break;
     fire(*entry);
   }
@@ -144,7 +190,9 @@ void EventLoop::runUntil(Instant when) {
     if (quitting_ || clock_.now() >= when) return;
     const Instant timer = nextDue().value_or(when);
     const Instant input = (nextInput_ ? nextInput_() : std::nullopt).value_or(when);
+    const Instant asleep = clock_.now();
     clock_.sleepUntil(std::min({when, timer, input}));
+    if (clock_.now() > asleep) sleptUntil(clock_.now());
   }
 }
 
@@ -154,6 +202,7 @@ void EventLoop::unblock() {
 }
 
 void EventLoop::whenFree(std::function<void()> action) {
+  if (actions_.empty()) sleptUntil(clock_.now());  // a front's own loop has slept until this came
   held_.push_back(std::move(action));
   runHeld();
 }

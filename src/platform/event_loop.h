@@ -3,6 +3,10 @@
 // Due timers fire in order of due time, then of creation. A late timer fires once, not once for each period
 // missed, and keeps its phase. A timer does not fire while its own handler still runs, even if that handler
 // waits and other timers fire. A blocking sound stops the loop: see Blocking.
+//
+// A timer that rests (Timer::rest) is not fired and wakes nobody, but its ticks go by as if it were fired: in
+// their order among the others, and late where a sound blocks the loop. So when what it waits for changes, it
+// fires at the very tick at which it would have seen the change.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +24,9 @@ namespace platform {
 
 class EventLoop final : public TimerScheduler {
  public:
-  explicit EventLoop(Clock& clock);
+  enum class Ticks { RestWhereIdle, Every };  // Every: no timer rests; to compare the two
+
+  explicit EventLoop(Clock& clock, Ticks ticks = Ticks::RestWhereIdle);
   ~EventLoop() override;
 
   [[nodiscard]] Clock& clock() const { return clock_; }
@@ -31,7 +37,7 @@ class EventLoop final : public TimerScheduler {
   void fireDue();
   // Serves events until `when`, sleeping from one due time to the next. Ends early when quitting.
   void runUntil(Instant when);
-  // When the next timer falls due; now, if an action that was held back can run.
+  // When the next timer that does not rest falls due; now, if an action that was held back can run.
   [[nodiscard]] std::optional<Instant> nextDue() const;
 
   // Runs something on behalf of the rider or a timer: an exception ends it and goes to the fault handler.
@@ -78,6 +84,8 @@ class EventLoop final : public TimerScheduler {
   void adopt(Timer& timer) override;
   void release(Timer& timer) override;
   void restart(Timer& timer) override;
+  bool layToRest(Timer& timer) override;
+  void wake(Timer& timer) override;
 
  private:
   struct Entry;
@@ -86,12 +94,18 @@ class EventLoop final : public TimerScheduler {
   void schedule(Entry& entry, Instant due);
   void unschedule(Entry& entry);
   void fire(Entry& entry);
+  // Lets the ticks of resting timers go by: those before `when`, and those whose turn comes before an
+  // entry's.
+  void sleptUntil(Instant when);
+  void passTicks(Instant horizon, const Entry* before);
   void unblock();
   [[nodiscard]] Entry* firstDue(Instant horizon) const;
 
   Clock& clock_;
   std::vector<std::unique_ptr<Entry>> entries_;
-  std::vector<Entry*> queue_;  // the timers that are on, by due time, then creation
+  std::vector<Entry*> queue_;    // the timers that are on and awake, by due time, then creation
+  std::vector<Entry*> resting_;  // those that rest, with the first tick that has not gone by
+  Ticks ticks_;
   std::uint64_t created_ = 0;
   std::vector<std::uint64_t> actions_;  // what runs, each inside the one before it
   std::uint64_t lastAction_ = 0;

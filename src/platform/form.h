@@ -19,6 +19,9 @@ class TimerScheduler {
   virtual void release(Timer& timer) = 0;
   // The timer was turned on or off, or its interval changed: its period starts anew.
   virtual void restart(Timer& timer) = 0;
+  // The timer's ticks are skipped until it is woken; false where they are not, so that nothing need wake it.
+  virtual bool layToRest(Timer& timer) = 0;
+  virtual void wake(Timer& timer) = 0;
 };
 
 class Form : public Component {

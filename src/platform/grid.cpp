@@ -6,7 +6,8 @@ namespace platform {
 
 using What = GridChange::What;
 
-void Grid::notifyWatchers(const GridChange& change) const {
+void Grid::notifyWatchers(const GridChange& change) {
+  changes.wakeTimers();
   for (const GridWatcher& watcher : watchers_) watcher(change);
 }
 
@@ -121,8 +122,17 @@ void Grid::select(int row) {
   notifyWatchers({What::Selection, wanted, 0});
 }
 
+void Grid::setVisibleRows(int first, int last) {
+  if (first == firstVisible_ && last == lastVisible_) return;
+  firstVisible_ = first;
+  lastVisible_ = last;
+  changes.wakeTimers();
+}
+
 void Grid::pointAt(int row, int column) {
-  pointedRow_ = row >= 1 && row <= rowCount() ? row : 0;
+  const int onRow = row >= 1 && row <= rowCount() ? row : 0;
+  if (onRow != pointedRow_ || column != pointedColumn_) changes.wakeTimers();
+  pointedRow_ = onRow;
   pointedColumn_ = column;
   pointerMoved();
 }

@@ -87,7 +87,7 @@ class Grid final : public Control {
   [[nodiscard]] int pointedRow() const { return pointedRow_; }
   [[nodiscard]] int pointedColumn() const { return pointedColumn_; }
   // Which rows the list shows at present; a list without a screen shows all.
-  void setVisibleRows(int first, int last) { firstVisible_ = first, lastVisible_ = last; }
+  void setVisibleRows(int first, int last);
   [[nodiscard]] bool rowShows(int row) const { return row >= firstVisible_ && row <= lastVisible_; }
 
   // The mouse. pointAt moves the pointer; pressAt is a whole press of a button on a cell: the pointer moves,
@@ -100,6 +100,8 @@ class Grid final : public Control {
   Event<int> headerClicked;
 
   void watchGrid(GridWatcher watcher) { watchers_.push_back(std::move(watcher)); }
+  // For timers: any change of columns, rows, cells or selection, of the pointer's place and of what shows.
+  Observable changes;
 
  private:
   struct Row {
@@ -109,7 +111,7 @@ class Grid final : public Control {
   };
   [[nodiscard]] static std::size_t at(int number) { return static_cast<std::size_t>(number - 1); }
   [[nodiscard]] bool holds(int row, int column) const;
-  void notifyWatchers(const GridChange& change) const;
+  void notifyWatchers(const GridChange& change);
 
   std::vector<GridColumn> columns_;
   std::vector<Row> rows_;

@@ -95,6 +95,7 @@ PropertyBase::PropertyBase(Component& owner, Prop id) : owner_(owner), id_(id) {
 }
 
 void PropertyBase::changed() {
+  wakeTimers();
   owner_.propertyChanged(id_);
 }
 

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <type_traits>
 
+#include "platform/observable.h"
+
 namespace platform {
 
 class Component;
@@ -59,12 +61,10 @@ void fromText(std::string_view text, int& value);
 void fromText(std::string_view text, bool& value);
 void fromText(std::string_view text, Colour& value);
 
-class PropertyBase {
+class PropertyBase : public Observable {
  public:
   PropertyBase(Component& owner, Prop id);
   virtual ~PropertyBase() = default;
-  PropertyBase(const PropertyBase&) = delete;
-  PropertyBase& operator=(const PropertyBase&) = delete;
 
   [[nodiscard]] Prop id() const { return id_; }
   [[nodiscard]] virtual std::string asText() const = 0;

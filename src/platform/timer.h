@@ -2,9 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <utility>
+#include <vector>
 
 #include "platform/form.h"
+#include "platform/observable.h"
 
 namespace platform {
 
@@ -14,22 +17,30 @@ class Timer final : public Component {
       : Component(&form, ControlKind::Timer, std::move(name)),
         interval(*this, Prop::Interval, intervalMs),
         enabled(*this, Prop::Enabled, on) {}
-  ~Timer() override {
-    if (scheduler_ != nullptr) scheduler_->release(*this);
-  }
+  ~Timer() override;
 
   Property<int> interval;  // ms, above 0
   Property<bool> enabled;
   Event<> tick;
 
+  // The last word of a tick that has changed nothing and would change nothing at the next ones either, until
+  // one of these changes. Those ticks are skipped; the one that would notice the change comes at its own
+  // time.
+  void rest(std::initializer_list<Observable*> until);
+  // For what no observable tells of. Nothing on a timer that does not rest.
+  void wake();
+
  private:
   friend class EventLoop;
+  friend class Observable;
   void propertyChanged(Prop id) override {
     notifyWatchers(id);
     if (scheduler_ != nullptr) scheduler_->restart(*this);
   }
+  void forgetWhatItRestsOn();
 
   TimerScheduler* scheduler_ = nullptr;
+  std::vector<Observable*> restsOn_;
 };
 
 // Makes the timer a one-shot: when it fires, it first turns itself off and then runs the action.

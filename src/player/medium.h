@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/media_commands.h"
+#include "platform/observable.h"
 
 namespace player {
 
@@ -13,11 +14,11 @@ class Medium {
   explicit Medium(platform::MediaCommands& media) : media_(media) {}
 
   std::string alias;
-  bool chargé = false;   // something is open
-  bool enPause = false;  // stopped by the pause button or by the ride
-  bool glisse = false;   // the progress bar is being dragged
-  int longueur = 0;      // ms
-  int largeurMedia = 0;  // the picture's own size
+  platform::Variable<bool> chargé;  // something is open
+  bool enPause = false;             // stopped by the pause button or by the ride
+  bool glisse = false;              // the progress bar is being dragged
+  int longueur = 0;                 // ms
+  int largeurMedia = 0;             // the picture's own size
   int hauteurMedia = 0;
   std::string infoMedia;  // its code and size
 

@@ -105,7 +105,7 @@ void Transport::montrerDuree() {
   medium_.send("set", " time format milliseconds");
   medium_.longueur = model::lenientInteger(medium_.send("status", " length"));
   bars_.viderProgression();
-  context_.state.music.length = medium_.longueur;
+  context_.state.music = {context_.state.music.get().position, medium_.longueur};
   const std::string duree = formatTemps(medium_.longueur);
   player_.Label1.caption = duree;
   announcements_.Label7.caption = duree;
@@ -113,7 +113,7 @@ void Transport::montrerDuree() {
 }
 
 void Transport::montrerPosition(std::int64_t milliseconds) {
-  context_.state.music.position = milliseconds;
+  context_.state.music = {milliseconds, context_.state.music.get().length};
   player_.Label2.caption = formatTemps(milliseconds);
   announcements_.Label5.caption = player_.Label2.caption;
 }
@@ -192,7 +192,7 @@ void Transport::appliquerVitesse(int index) {
 }
 
 void Transport::suivrePosition() {
-  if (!medium_.chargé) return;
+  if (!medium_.chargé) return player_.Timer1.rest({&medium_.chargé});
   const int position = model::lenientInteger(medium_.send("status", " position notify"));
   montrerPosition(position);
   bars_.peindreProgression(position);
@@ -201,10 +201,11 @@ void Transport::suivrePosition() {
 }
 
 void Transport::obeirALaSeance() {
-  std::string& order = context_.state.musiqueSuit;
+  platform::Variable<std::string>& order = context_.state.musiqueSuit;
   if (order == "oui") reprendre();
   if (order == "non") suspendre();
-  if (order == "oui" || order == "non") order.clear();
+  if (order == "oui" || order == "non") order = "";
+  player_.Timer9.rest({&order});
 }
 
 }  // namespace player

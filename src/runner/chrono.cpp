@@ -99,6 +99,10 @@ void Chrono::tickSurveillance() {
   // What is paused can always be resumed, whatever the row.
   forms::enableRideButtons(main_, state_.dureeSequence != 0 || forms::ridePaused(main_));
   if (forms::saysNothing(main_)) forms::turnVoice(main_, false);
+  main_.Timer3.rest({&state_.dureeSequence, &main_.Command7.caption, &main_.Command7.enabled,
+                     &main_.MyButton1.enabled, &main_.MyButton4.enabled, &main_.Check2.value,
+                     &main_.Check3.value, &main_.Check4.value, &main_.Check5.value, &main_.Check6.value,
+                     &main_.Check7.value, &main_.Check8.value, &main_.Check9.value, &main_.Check13.value});
 }
 
 void Chrono::tickPanneau() {

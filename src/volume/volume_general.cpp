@@ -65,6 +65,7 @@ clsAfMasterVolume& VolumeGeneral::master() {
 }
 
 void VolumeGeneral::load() {
+  dialog_.Tmr_Spy.wake();
   // Made anew, because the default device may have changed since the dialog was last open.
   master_.reset();
   const bool volume = master().VolumeEnabled();
@@ -85,6 +86,19 @@ void VolumeGeneral::spy() {
   showMute();
   showVolume();
   noticeOnce();
+  restUntilMoved();
+}
+
+void VolumeGeneral::restUntilMoved() {
+  platform::Observable* machine = context_.outside.volume.changes();
+  if (machine == nullptr) return;
+  forms::CreerCycle& editor = context_.screens.editor;
+  dialog_.Tmr_Spy.rest({machine, &dialog_.Chk_Mute.value, &dialog_.VScroll1.value,
+                        &dialog_.Lbl_Volume.caption, &dialog_.Image3.picture, &dialog_.Image1.picture,
+                        &dialog_.Image4.picture, &editor.Image2.picture,
+                        &context_.screens.announcements.VScroll2.value, &main_.Label34.caption,
+                        &main_.Label34.colour, &main_.Label36.caption, &main_.Label36.colour,
+                        &main_.Label38.caption, &main_.Image17.visible, &main_.Image18.visible});
 }
 
 void VolumeGeneral::showMute() {

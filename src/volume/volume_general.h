@@ -20,6 +20,7 @@ class VolumeGeneral {
   void showMute();
   void showVolume();
   void noticeOnce();
+  void restUntilMoved();
 
   context::Context context_;
   forms::VolumeGeneral& dialog_;

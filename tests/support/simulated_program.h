@@ -30,8 +30,8 @@ class SimulatedProgram {
   explicit SimulatedProgram(const std::string& settings = settingsOff,
                             std::chrono::milliseconds timeOfDay = std::chrono::hours(12),
                             console::SoundMode sound = console::SoundMode::Instant,
-                            console::RiderHands* hands = nullptr)
-      : options_(at(timeOfDay, sound)), session_(options_, "/d", out_, hands, &disk) {
+                            console::RiderHands* hands = nullptr, bool everyTick = false)
+      : options_(at(timeOfDay, sound, everyTick)), session_(options_, "/d", out_, hands, &disk) {
     if (!settings.empty()) memory.put("/d/par.tq3", settings);
   }
 
@@ -55,8 +55,9 @@ class SimulatedProgram {
   FaultyFileSystem disk{memory};
 
  private:
-  static console::Options at(std::chrono::milliseconds timeOfDay, console::SoundMode sound) {
+  static console::Options at(std::chrono::milliseconds timeOfDay, console::SoundMode sound, bool everyTick) {
     console::Options options;
+    options.everyTick = everyTick;
     options.sound = sound;
     options.start = platform::LocalTime{std::chrono::days(20000) + timeOfDay};
     return options;

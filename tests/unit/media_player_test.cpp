@@ -72,7 +72,7 @@ TEST_F(PlayerTest, OpensInOrderAndTellsTheLength) {
   EXPECT_EQ(form.Label2.caption, library.Label5.caption.get());
   EXPECT_THAT(form.Label2.caption.get(), HasSubstr("0:00:00."));
   advance("5");
-  EXPECT_TRUE(program.state().music.atEnd());
+  EXPECT_TRUE(program.state().music.get().atEnd());
   EXPECT_EQ(library.Label5.caption, program.state().dureeMusique);  // stays there: a selection decides
   EXPECT_EQ(media(), "");
   form.Timer3.enabled = true;
@@ -132,7 +132,7 @@ TEST_F(PlayerTest, PausesByButtonTimersAndTheRidesOrders) {
     advance("0.011");
     EXPECT_EQ(media().substr(0, sent == "open" ? sent.size() : std::string::npos), sent) << act;
     EXPECT_EQ(form.Command5.caption, caption) << act;
-    if (program.state().musiqueSuit == "autre") program.state().musiqueSuit.clear();
+    if (program.state().musiqueSuit == "autre") program.state().musiqueSuit = "";
     EXPECT_EQ(program.state().musiqueSuit, "");
   }
 }
