@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t choice = size == 0 ? 0 : data[0];
   support::MemoryFileSystem disk;
   const std::string name = names[choice % names.size()];
-  const std::string bytes(data, data + size);
+  std::string bytes(data, data + size);
   disk.put(name, marks[choice / names.size() % marks.size()] + bytes);
   const auto found = player::identifierMedia(disk, name, [&] { return bytes; });
   if (found.infoMedia.find('\0') != std::string::npos || !found.infoMedia.ends_with("]")) std::abort();

@@ -76,7 +76,7 @@ class Ways : public testing::TestWithParam<Ride> {
     const std::string moment = std::to_string(tenth / 10.0);
     // The way by the menu leads to a hand-over at once, perhaps just before a wait ends.
     if (button == "mnCreat") run("at " + std::to_string(tenth / 10.0 + 0.05) + " press CreerCycle.MyButton5");
-    const bool refused = run("at " + moment + " press MainForm." + button + "\nadvance " + moment) != "";
+    const bool refused = !run("at " + moment + " press MainForm." + button + "\nadvance " + moment).empty();
     for (int second = 0, shut = 0; second < 6; ++second) {
       run("advance 1");
       shut = closed() && riding() ? shut + 1 : 0;
