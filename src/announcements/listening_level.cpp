@@ -45,14 +45,18 @@ void ListeningLevel::makeReady() {
 
 // A level that is not in the table changes nothing.
 void ListeningLevel::apply() {
-  page_.Timer2.rest({&page_.VScroll1.value, &page_.HScroll1.value});
   const int down = page_.VScroll1.value - 1;
   const int across = page_.HScroll1.value + 2;
   const auto row = static_cast<std::size_t>(down);
   const auto column = static_cast<std::size_t>(across);
-  if (row >= levels.size() || column >= levels[row].size()) return;
+  if (row >= levels.size() || column >= levels[row].size()) return restUntilMoved();
   const std::uint32_t both = levels[row][column];
-  output_.set(static_cast<std::uint16_t>(both & 0xFFFF), static_cast<std::uint16_t>(both >> 16));
+  if (output_.set(static_cast<std::uint16_t>(both & 0xFFFF), static_cast<std::uint16_t>(both >> 16)))
+    restUntilMoved();
+}
+
+void ListeningLevel::restUntilMoved() {
+  page_.Timer2.rest({&page_.VScroll1.value, &page_.HScroll1.value});
 }
 
 void ListeningLevel::stopFades() {

@@ -15,6 +15,7 @@ class ListeningLevel {
 
  private:
   void apply();
+  void restUntilMoved();
   void stopFades();
   void fadeOut();
   void fadeIn();

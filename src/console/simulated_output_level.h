@@ -12,10 +12,11 @@ class SimulatedOutputLevel final : public platform::OutputLevel {
  public:
   explicit SimulatedOutputLevel(Journal& journal) : journal_(journal) {}
 
-  void set(std::uint16_t left, std::uint16_t right) override {
+  bool set(std::uint16_t left, std::uint16_t right) override {
     char text[16];
     std::snprintf(text, sizeof text, "%04X %04X", unsigned{left}, unsigned{right});
     journal_.writeState("level", text);
+    return true;
   }
 
  private:

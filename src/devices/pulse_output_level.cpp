@@ -57,18 +57,18 @@ bool PulseOutputLevel::finishAsking() {
   return true;
 }
 
-void PulseOutputLevel::set(std::uint16_t left, std::uint16_t right) {
+bool PulseOutputLevel::set(std::uint16_t left, std::uint16_t right) {
   const auto now = std::chrono::steady_clock::now();
   const bool changed = !known_ || left != left_ || right != right_;
-  if (!changed && now - askedAt_ < askInterval) return;
+  if (!changed && now - askedAt_ < askInterval) return true;
   askedAt_ = now;
-  if (!connection_.ready()) return;
+  if (!connection_.ready()) return false;
   const PulseConnection::Lock lock(connection_);
   left_ = left;
   right_ = right;
   known_ = finishAsking();  // the answer to an earlier request may have set some streams already
-  if (!known_) return;
-  asking_ = askForStreams();
+  if (known_) asking_ = askForStreams();
+  return known_;
 }
 
 void PulseOutputLevel::applyToAll() {

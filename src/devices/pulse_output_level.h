@@ -14,7 +14,7 @@ class PulseOutputLevel final : public platform::OutputLevel {
   ~PulseOutputLevel() override;
 
   // 0 to 65535 on each side. Returns at once; the streams are set when the server's answer comes in.
-  void set(std::uint16_t left, std::uint16_t right) override;
+  bool set(std::uint16_t left, std::uint16_t right) override;
   // Sets the same level again, for streams that a library has opened since.
   void reapply() { set(left_, right_); }
   // Waits until every open stream has the level. To be called before one of them begins to sound.

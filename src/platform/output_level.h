@@ -8,8 +8,8 @@ namespace platform {
 class OutputLevel {
  public:
   virtual ~OutputLevel() = default;
-  // 0 is silence, 0xFFFF full volume. Called ten times a second, mostly with unchanged values.
-  virtual void set(std::uint16_t left, std::uint16_t right) = 0;
+  // 0 is silence, 0xFFFF full volume. False: the device is away or busy, and has to be told again.
+  virtual bool set(std::uint16_t left, std::uint16_t right) = 0;
 };
 
 }  // namespace platform

@@ -52,7 +52,12 @@ struct Rig {
     void workIn(const std::string&) override {}
   } media;
   struct : platform::OutputLevel {
-    void set(std::uint16_t, std::uint16_t) override {}
+    bool set(std::uint16_t, std::uint16_t) override {
+      ++told;
+      return there;
+    }
+    bool there = true;
+    int told = 0;
   } level;
   RecordedShell shell;
   RecordedVolume volume;

@@ -3,6 +3,8 @@
 
 #include <regex>
 
+#include "announcements/listening_level.h"
+#include "support/rig.h"
 #include "support/simulated_program.h"
 
 namespace {
@@ -119,6 +121,21 @@ TEST_F(RecordingPage, TheLevelFollowsItsTable) {
               *cell.both == '\0' ? "" : std::string(cell.both) + "\n");
     EXPECT_EQ(form.MyFrame2.caption, "Volume " + std::to_string(cell.level - 1));
   }
+}
+
+TEST(ListeningLevel, IsToldAgainUntilTheDeviceHasIt) {
+  support::Rig rig;
+  const announcements::ListeningLevel level(rig.context);
+  rig.level.there = false;
+  rig.screens.announcements.load();
+  rig.advance(1000);
+  EXPECT_EQ(rig.level.told, 10);
+  rig.level.there = true;
+  rig.advance(1000);
+  EXPECT_EQ(rig.level.told, 11);
+  rig.screens.announcements.VScroll1.value = 3;
+  rig.advance(1000);
+  EXPECT_EQ(rig.level.told, 12);
 }
 
 }  // namespace
