@@ -49,11 +49,18 @@ History::History(const context::Context& context)
   editor_.mnRedo.click.handle([this] { redo(); });
 }
 
-History::Cells History::cellsOf(int row) const {
-  Cells cells;
-  cells.reserve(static_cast<std::size_t>(grid_.columnCount()));
-  for (int c = 1; c <= grid_.columnCount(); ++c) cells.push_back(grid_.text(row, c));
+History::Row History::rowOf(int row) const {
+  auto cells = std::make_shared<Cells>();
+  cells->reserve(static_cast<std::size_t>(grid_.columnCount()));
+  for (int c = 1; c <= grid_.columnCount(); ++c) cells->push_back(grid_.text(row, c));
   return cells;
+}
+
+// The cells of a row of the shadow, which no recorded change holds any more.
+History::Cells& History::ownCells(int row) {
+  Row& cells = shadow_[static_cast<std::size_t>(row - 1)];
+  if (cells.use_count() > 1) cells = std::make_shared<Cells>(*cells);
+  return *cells;
 }
 
 History::Words History::words() const {
@@ -90,7 +97,7 @@ void History::recordChange(const platform::GridChange& change) {
       recordText(change.row, change.column);
       break;
     case What::RowInserted:
-      shadow_.insert(shadow_.begin() + at, cellsOf(change.row));
+      shadow_.insert(shadow_.begin() + at, rowOf(change.row));
       open_.push_back({Kind::Insert, change.row, 0, shadow_[static_cast<std::size_t>(at)]});
       break;
     case What::RowRemoved:
@@ -104,14 +111,15 @@ void History::recordChange(const platform::GridChange& change) {
       shadow_.clear();
   }
   if (replaying_) open_.clear();
-  wordsNow_ = words();
+  wordsNow_.at(sessionTitle) = state_.seanceTitre;  // the captions are watched
 }
 
 void History::recordText(int row, int col) {
-  std::string& before = shadow_[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(col - 1)];
+  std::string& before = ownCells(row)[static_cast<std::size_t>(col - 1)];
   const std::string& after = grid_.text(row, col);
   // The total is summed by a timer some time after a change, so it belongs to no step.
-  if (row != 1 || col != column::duration) open_.push_back({Kind::Text, row, col, {before, after}});
+  if (row != 1 || col != column::duration)
+    open_.push_back({Kind::Text, row, col, std::make_shared<Cells>(Cells{before, after})});
   before = after;
 }
 
@@ -140,7 +148,7 @@ bool History::hasEffect() const {
 
 bool History::textsDiffer() const {
   std::map<std::pair<int, int>, const std::string*> first;
-  for (const Change& change : open_) first.try_emplace({change.row, change.column}, &change.cells[0]);
+  for (const Change& change : open_) first.try_emplace({change.row, change.column}, &change.cells->front());
   return std::ranges::any_of(first, [&](const auto& cell) {
     const auto& [place, before] = cell;
     return *before != grid_.text(place.first, place.second);
@@ -148,28 +156,31 @@ bool History::textsDiffer() const {
 }
 
 bool History::rowsDiffer() const {
-  std::vector<Cells> before = shadow_;
+  std::vector<Row> before = shadow_;
   for (auto last = open_.rbegin(); last != open_.rend(); ++last) {
     const Change& change = *last;
     const auto row = static_cast<std::size_t>(change.row - 1);
     const auto at = before.begin() + static_cast<std::ptrdiff_t>(row);
-    if (change.kind == Kind::Text) before[row][static_cast<std::size_t>(change.column - 1)] = change.cells[0];
+    if (change.kind == Kind::Text) {
+      before[row] = std::make_shared<Cells>(*before[row]);
+      (*before[row])[static_cast<std::size_t>(change.column - 1)] = change.cells->front();
+    }
     if (change.kind == Kind::Insert) before.erase(at);
     if (change.kind == Kind::Remove) before.insert(at, change.cells);
   }
-  return before != shadow_;
+  return !std::ranges::equal(before, shadow_, [](const Row& a, const Row& b) { return a == b || *a == *b; });
 }
 
 void History::apply(const Change& change, bool backwards) {
   if (change.kind == Kind::Text) {
-    grid_.setText(change.row, change.column, change.cells[backwards ? 0 : 1]);
+    grid_.setText(change.row, change.column, (*change.cells)[backwards ? 0 : 1]);
     return;
   }
   if ((change.kind == Kind::Insert) == backwards) {
     grid_.removeRow(change.row);
     return;
   }
-  grid_.insertRow(change.row, change.cells);
+  grid_.insertRow(change.row, *change.cells);
   const bool first = change.row == 1;
   grid_.setStyle(change.row, first ? column::cycleName : column::sessionName,
                  first ? column::duration : column::deleteMark,

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -24,12 +25,13 @@ class History {
 
  private:
   using Cells = std::vector<std::string>;
+  using Row = std::shared_ptr<Cells>;  // shared, since a long list that is loaded would be copied twice
   enum class Kind { Text, Insert, Remove };
   struct Change {
     Kind kind;
     int row;
-    int column;   // of a Text
-    Cells cells;  // the row's cells; of a Text the old one and the new one
+    int column;  // of a Text
+    Row cells;   // the row's cells; of a Text the old one and the new one
   };
   using Changes = std::vector<Change>;
   // The captions of `captions_`, then the session's title.
@@ -52,7 +54,8 @@ class History {
   void restoreWords(const Words& from, const Words& to);
   void replay(std::deque<Step>& from, std::deque<Step>& to, bool backwards);
   void enableMenuEntries();
-  [[nodiscard]] Cells cellsOf(int row) const;
+  [[nodiscard]] Row rowOf(int row) const;
+  Cells& ownCells(int row);
   [[nodiscard]] Words words() const;
 
   platform::EventLoop& loop_;
@@ -60,9 +63,9 @@ class History {
   platform::Grid& grid_;
   model::SharedState& state_;
   std::array<platform::Property<std::string>*, 5> captions_;
-  std::vector<Cells> shadow_;  // the grid's texts as they were before the change being recorded
-  Words wordsBefore_;          // as they were before the open step
-  Words wordsNow_;             // as they are
+  std::vector<Row> shadow_;  // the grid's texts as they were before the change being recorded
+  Words wordsBefore_;        // as they were before the open step
+  Words wordsNow_;           // as they are
   Changes open_;
   std::uint64_t action_ = 0;  // the action that makes the open step
   std::deque<Step> undo_;

@@ -1,5 +1,7 @@
 #include "model/grid_rows.h"
 
+#include <utility>
+
 #include "model/time_value.h"
 #include "model/vocabulary.h"
 #include "platform/text.h"
@@ -65,22 +67,21 @@ std::vector<std::string> handMadeRow(int number, const std::string& cycleName) {
           std::string(noTarget)};
 }
 
-std::vector<std::string> loadedRow(int number, const std::string& sessionName, const SequenceTexts& texts) {
-  const std::string none = dashes();
+std::vector<std::string> loadedRow(int number, const std::string& sessionName, SequenceTexts texts) {
+  std::vector<std::string> row(columnCount, dashes());
+  const auto cell = [&row](int column) -> std::string& { return row[static_cast<std::size_t>(column - 1)]; };
   const bool spoken = texts.sequence == vocalAnnouncement;
-  return {std::to_string(number),
-          none,
-          sessionName,
-          texts.sequence,
-          texts.cadence,
-          texts.chainring,
-          texts.gear,
-          none,
-          none,
-          texts.duration,
-          spoken ? texts.announcement : none,
-          "x",
-          texts.heartRate};
+  cell(column::number) = std::to_string(number);
+  cell(column::sessionName) = sessionName;
+  cell(column::sequence) = std::move(texts.sequence);
+  cell(column::cadence) = std::move(texts.cadence);
+  cell(column::chainring) = std::move(texts.chainring);
+  cell(column::gear) = std::move(texts.gear);
+  cell(column::duration) = std::move(texts.duration);
+  if (spoken) cell(column::announcement) = std::move(texts.announcement);
+  cell(column::deleteMark) = "x";
+  cell(column::heartRate) = std::move(texts.heartRate);
+  return row;
 }
 
 std::vector<std::string> closingRow(int number, const std::string& sessionName) {

@@ -55,7 +55,7 @@ struct SequenceTexts {
 // `number` is the text of column 1.
 [[nodiscard]] std::vector<std::string> handMadeRow(int number, const std::string& cycleName);
 [[nodiscard]] std::vector<std::string> loadedRow(int number, const std::string& sessionName,
-                                                 const SequenceTexts& texts);
+                                                 SequenceTexts texts);
 // A row without a sequence: the announcement of a repeat, or the end of a list.
 [[nodiscard]] std::vector<std::string> closingRow(int number, const std::string& sessionName);
 

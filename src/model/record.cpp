@@ -12,10 +12,10 @@ std::string Record::get(const Field& field) const {
 
 std::string Record::trimmed(const Field& field) const {
   constexpr std::string_view padding(" \0", 2);
-  const std::string text = get(field);
-  const std::size_t first = text.find_first_not_of(padding);
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(padding) - first + 1);
+  std::string_view bytes = std::string_view(bytes_).substr(field.offset, field.width);
+  const std::size_t first = bytes.find_first_not_of(padding);
+  if (first == std::string_view::npos) return {};
+  return fromWindows1252(bytes.substr(first, bytes.find_last_not_of(padding) - first + 1));
 }
 
 void Record::set(const Field& field, std::string_view text) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "model/grid_rows.h"
 #include "model/numbers.h"
@@ -87,9 +88,9 @@ int appendPass(platform::RandomFile& file, int nbEnreg, const std::string& name,
     record.read(file, static_cast<std::uint64_t>(number));
     std::string place = name;
     place.append(" (").append(std::to_string(number - 1)).append(total);
-    const SequenceTexts texts = textsOf(record);
+    SequenceTexts texts = textsOf(record);
     if (!texts.sequence.empty() || !texts.duration.empty()) ++found;
-    grid.addRow(loadedRow(grid.rowCount() + 1, place, texts));
+    grid.addRow(loadedRow(grid.rowCount() + 1, place, std::move(texts)));
     grid.setStyle(grid.rowCount(), column::sessionName, column::deleteMark, row_style::finished);
   }
   return found;

@@ -58,8 +58,9 @@ std::string toWindows1252(std::string_view utf8) {
 }
 
 std::string fromWindows1252(std::string_view bytes) {
-  std::string text;
-  for (const char c : bytes) {
+  const auto ascii = std::find_if(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
+  std::string text(bytes.begin(), ascii);
+  for (const char c : bytes.substr(text.size())) {
     const auto byte = static_cast<unsigned char>(c);
     const bool inUpper = byte >= 0x80 && byte <= 0x9F && upper.at(byte - 0x80U) != 0;
     appendUtf8(text, inUpper ? upper.at(byte - 0x80U) : byte);
