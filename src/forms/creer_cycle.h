@@ -189,6 +189,7 @@ struct CreerCycle : platform::Form {
   MenuItem mnRedo{*this, "mnRedo", "Rétablir la Modification", {.in = &mnMenu, .enabled = false}};
   MenuItem mnSortir{*this, "mnSortir", "Sortir", {.in = &mnMenu}};  // closes the editor
 
+  // All that poll rest. Timer7 does not: each of its ticks changes what is seen, while it is on.
   Timer Timer1{*this, "Timer1", 10};               // keeps the cell editor on its row
   Timer Timer2{*this, "Timer2", 800};              // once: hides the refusal badge
   Timer Timer3{*this, "Timer3", 10};               // keeps the duration panel inside the list

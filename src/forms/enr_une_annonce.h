@@ -161,6 +161,8 @@ struct EnrUneAnnonce : platform::Form {
       *this, "mnsupprim", "Supprimer cette Musique de ma Liste Uniquement", {.in = &mnsupress}};
   MenuItem mnViderListe{*this, "mnViderListe", "Vider la Liste et Remettre à jour", {.in = &mnsupress}};
 
+  // Timer2 and Timer4 rest. The others are on only while a take or an announcement runs or a level fades:
+  // what they ask for moves by itself.
   Timer Timer1{*this, "Timer1", 500};         // watches the recorder
   Timer Timer2{*this, "Timer2", 100, true};   // applies the listening level
   Timer Timer3{*this, "Timer3", 1000};        // shows the take's duration, ends it after 30 s

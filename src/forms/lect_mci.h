@@ -50,7 +50,8 @@ struct LectMCI : platform::Form {
   platform::Label Label2{*this, "Label2"};        // its position
   platform::Label Label3{*this, "Label3", "10"};  // the volume
 
-  // Orders from outside: each but Timer1 and Timer9 ends itself and presses a button.
+  // Orders from outside: each but Timer1 and Timer9 ends itself and presses a button. Timer9 rests, and so
+  // does Timer1 while nothing is loaded; the place in a piece moves by itself.
   platform::Timer Timer1{*this, "Timer1", 250, true};  // follows the position
   platform::Timer Timer2{*this, "Timer2", 1};          // Command8
   platform::Timer Timer3{*this, "Timer3", 1};          // Command2

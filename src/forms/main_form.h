@@ -218,6 +218,7 @@ struct MainForm : platform::Form {
   MenuItem mnRGS2{*this, "mnRGS2", "Régler le Volume Général du Son", {.in = &mnMenu2}};
   MenuItem mnAjustAudio2{*this, "mnAjustAudio2", "Ajuster les Propriétés Audio", {.in = &mnMenu2}};
 
+  // Timer3 rests. Timer1 and Timer2 are the ride itself, and Timer9 asks a desktop that tells of nothing.
   Timer Timer1{*this, "Timer1", 1000};        // the chrono's tick
   Timer Timer2{*this, "Timer2", 1000};        // the start countdown
   Timer Timer3{*this, "Timer3", 1000, true};  // the watch on the buttons and the settings

@@ -34,6 +34,7 @@ struct VolumeGeneral : platform::Form {
       "Propriétés Audio",
       {.tip = "Cliquez ici pour Afficher les Propriétes Audio de votre Ordinateur..."}};
 
+  // Rests where the machine tells of its changes.
   platform::Timer Tmr_Spy{*this, "Tmr_Spy", 200, true};  // follows the machine
   platform::Timer Timer5{*this, "Timer5", 100};          // without use
   platform::Timer Timer6{*this, "Timer6", 100};          // without use

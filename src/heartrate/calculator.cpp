@@ -51,7 +51,7 @@ void Calculator::chargerListes() {
 void Calculator::finirChargement() {
   screen_.clearDesignTexts();
   figures_.formeEnChargement.clear();
-  if (!platform::trim(figures_.persoAge).empty()) editor_.MyButton38.click();
+  if (!platform::trim(figures_.persoAge.get()).empty()) editor_.MyButton38.click();
 }
 
 }  // namespace heartrate

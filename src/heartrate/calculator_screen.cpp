@@ -140,9 +140,18 @@ void CalculatorScreen::showBoxesOf(int methode) {
   }
 }
 
-// Saving is offered only on the rider's own figures, and only where the screen differs from the file.
 void CalculatorScreen::surveiller() {
   if (forms::noTargetMode(editor_)) editor_.Check1.value = 1;
+  offerSaving();
+  editor_.Timer10.rest({&editor_.Check1.value, &editor_.Check2.value, &editor_.Check3.value,
+                        &editor_.Combo7.text, &editor_.Combo8.index, &editor_.Combo10.text,
+                        &editor_.Combo11.text, &editor_.Combo12.text, &editor_.MyButton38.visible,
+                        &editor_.MyButton40.visible, &figures_.persoAge, &figures_.persoSexe,
+                        &figures_.persoFCMax, &figures_.persoFCRepos, &figures_.persoMethode});
+}
+
+// Only on the rider's own figures, and only where the screen differs from the file.
+void CalculatorScreen::offerSaving() {
   if (editor_.Combo8.index != ownFigures) {
     editor_.MyButton40.visible = false;
     return;
@@ -150,7 +159,7 @@ void CalculatorScreen::surveiller() {
   const bool same = holds(editor_.Combo7, figures_.persoAge) && holds(editor_.Combo10, figures_.persoSexe) &&
                     holds(editor_.Combo11, figures_.persoFCMax) &&
                     holds(editor_.Combo12, figures_.persoFCRepos) &&
-                    model::lenientInteger(figures_.persoMethode) == ownFigures;
+                    model::lenientInteger(figures_.persoMethode.get()) == ownFigures;
   if (same) editor_.MyButton38.visible = false;  // and nothing shows it again
   editor_.MyButton40.visible = !same;
 }

@@ -20,6 +20,7 @@ class CalculatorScreen {
   void choisirMethode();
   void showBoxesOf(int methode);
   void surveiller();
+  void offerSaving();
   void fermer();
 
   context::Context context_;

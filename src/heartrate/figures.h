@@ -3,14 +3,18 @@
 
 #include <string>
 
+#include "platform/observable.h"
+
 namespace heartrate {
 
 struct Figures {
-  std::string persoAge;           // years
-  std::string persoSexe;          // "Féminin" or "Masculin"; enters no formula
-  std::string persoFCMax;         // bpm
-  std::string persoFCRepos;       // bpm
-  std::string persoMethode;       // "0" to "5"
+  using Text = platform::Variable<std::string>;
+
+  Text persoAge;                  // years
+  Text persoSexe;                 // "Féminin" or "Masculin"; enters no formula
+  Text persoFCMax;                // bpm
+  Text persoFCRepos;              // bpm
+  Text persoMethode;              // "0" to "5"
   int methodeFC = 0;              // the method that the computations go by; the boxes may show another
   std::string formeEnChargement;  // "oui" while the form loads
 

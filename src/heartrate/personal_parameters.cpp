@@ -69,15 +69,15 @@ void PersonalParameters::montrer(const model::PersonalFigures& saved) {
   showMethod();
   // The opposite of what picking a method does: Karvonen shows the note here and hides it there.
   editor_.Label62.visible = editor_.Combo8.index == karvonen;
-  setDisplayMode(figures_.persoMethode.empty() ? std::string() : saved.modeAffichage);
+  setDisplayMode(figures_.persoMethode.get().empty() ? std::string() : saved.modeAffichage);
 }
 
 void PersonalParameters::showMethod() {
-  const int saved = model::lenientInteger(figures_.persoMethode);
+  const int saved = model::lenientInteger(figures_.persoMethode.get());
   const int methode = saved >= 0 && saved < methodCount ? saved : 0;
   editor_.Combo8.index = methode;
   editor_.Combo13.index = methode;
-  if (figures_.persoMethode.empty()) return;
+  if (figures_.persoMethode.get().empty()) return;
   editor_.Combo9.text = "100";
   if (!isBlank(editor_.Combo7)) editor_.MyButton38.click();
 }

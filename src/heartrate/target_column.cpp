@@ -25,8 +25,8 @@ TargetColumn::TargetColumn(const context::Context& context, Figures& figures)
 }
 
 TargetOperands TargetColumn::operands() const {
-  return {editor_.Combo7.text.get(), editor_.Combo12.text.get(), figures_.persoAge, figures_.persoFCMax,
-          figures_.persoFCRepos};
+  return {editor_.Combo7.text.get(), editor_.Combo12.text.get(), figures_.persoAge.get(),
+          figures_.persoFCMax.get(), figures_.persoFCRepos.get()};
 }
 
 void TargetColumn::choisirMethode() {

@@ -30,10 +30,12 @@ class SimulatedProgram {
   explicit SimulatedProgram(const std::string& settings = settingsOff,
                             std::chrono::milliseconds timeOfDay = std::chrono::hours(12),
                             console::SoundMode sound = console::SoundMode::Instant,
-                            console::RiderHands* hands = nullptr, bool everyTick = false)
-      : options_(at(timeOfDay, sound, everyTick)), session_(options_, "/d", out_, hands, &disk) {
+                            console::RiderHands* hands = nullptr)
+      : SimulatedProgram(at(timeOfDay, sound), hands) {
     if (!settings.empty()) memory.put("/d/par.tq3", settings);
   }
+  explicit SimulatedProgram(const console::Options& options, console::RiderHands* hands = nullptr)
+      : options_(options), session_(options_, "/d", out_, hands, &disk) {}
 
   [[nodiscard]] bool start() { return session_.program().start(); }
   // Carries the commands out, a line each; what they printed.
@@ -51,18 +53,18 @@ class SimulatedProgram {
   [[nodiscard]] platform::EventLoop& loop() { return session_.program().loop(); }
   [[nodiscard]] model::SharedState& state() { return session_.program().state(); }
 
-  MemoryFileSystem memory;
-  FaultyFileSystem disk{memory};
-
- private:
-  static console::Options at(std::chrono::milliseconds timeOfDay, console::SoundMode sound, bool everyTick) {
+  // A start at that time of some day.
+  static console::Options at(std::chrono::milliseconds timeOfDay, console::SoundMode sound) {
     console::Options options;
-    options.everyTick = everyTick;
     options.sound = sound;
     options.start = platform::LocalTime{std::chrono::days(20000) + timeOfDay};
     return options;
   }
 
+  MemoryFileSystem memory;
+  FaultyFileSystem disk{memory};
+
+ private:
   std::ostringstream out_;
   console::Options options_;
   console::Session session_;

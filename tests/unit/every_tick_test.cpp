@@ -1,8 +1,14 @@
 // A program whose timers rest, and one where each of them fires every time, cannot be told apart.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iomanip>
+#include <map>
 #include <random>
+#include <sstream>
 
 #include "console/reach.h"
 #include "model/training_model.h"
@@ -39,15 +45,11 @@ std::string stateOf(support::SimulatedProgram& program) {
 // Two programs that are worked by the same commands.
 class Twins {
  public:
-  Twins(const std::string& settings, SoundMode sound)
-      : awake_(settings, std::chrono::hours(12), sound, nullptr, true),
-        rested_(settings, std::chrono::hours(12), sound) {
+  // The files by their paths in the program's folder.
+  Twins(const console::Options& options, const std::map<std::string, std::string>& files)
+      : awake_(everyTick(options)), rested_(options) {
     for (support::SimulatedProgram* program : {&awake_, &rested_}) {
-      for (const char* piece : {"a.mp3", "b.mp3"}) {
-        program->memory.put(std::string("/d/ambiances/") + piece, std::string(60000, 'a'));
-      }
-      program->memory.put("/d/annonces/allez.wav", "");
-      program->memory.put("/d/chronodat/Essai.tq2", support::session(2, 2).replace(71, 4, "Oui2"));
+      for (const auto& [path, bytes] : files) program->memory.put("/d/" + path, bytes);
       EXPECT_TRUE(program->start());
     }
   }
@@ -59,6 +61,11 @@ class Twins {
   [[nodiscard]] support::SimulatedProgram& rested() { return rested_; }
 
  private:
+  static console::Options everyTick(console::Options options) {
+    options.everyTick = true;
+    return options;
+  }
+
   support::SimulatedProgram awake_;
   support::SimulatedProgram rested_;
 };
@@ -118,14 +125,19 @@ class Rider {
   std::mt19937 dice_;
 };
 
-// Where the random part begins: on the main screen, in the editor, in a ride over music.
+// Where the random part begins: on the main screen, in the editor, in its calculator, in a ride over music.
 const std::vector<std::string>& beginnings() {
   static const std::string list = support::composeTwoRows("Plat", "09", "Endurance", "07");
-  static const std::vector<std::string> all{
-      "advance 0.5", list,
-      list +
-          "pick MainForm.Combo5 2\npress CreerCycle.MyButton5\nadvance 0.3\npress MainForm.MyButton19\n"
-          "advance 1.5\npress MainForm.MyButton3\nadvance 4"};
+  // With figures of the rider's own, just saved.
+  static const std::string calculator =
+      "press CreerCycle.MyButton25\npick CreerCycle.Combo8 Astrand et Ryhming (1954)\n"
+      "pick CreerCycle.Combo7 30\npick CreerCycle.Combo8 FCMaxi et FCRepos Perso\n"
+      "pick CreerCycle.Combo12 60\npick CreerCycle.Combo8 FCMaxi et FCRepos Perso\n"
+      "pick CreerCycle.Combo11 190\npick CreerCycle.Combo10 Masculin\npress CreerCycle.MyButton40\nadvance 1.2\n";
+  static const std::string rideOverMusic =
+      "pick MainForm.Combo5 2\npress CreerCycle.MyButton5\nadvance 0.3\npress MainForm.MyButton19\n"
+      "advance 1.5\npress MainForm.MyButton3\nadvance 4";
+  static const std::vector<std::string> all{"advance 0.5", list, list + calculator, list + rideOverMusic};
   return all;
 }
 
@@ -134,8 +146,14 @@ TEST(EveryTick, ChangesNothingThatSomebodyCouldSee) {
   const unsigned sessions = wanted != nullptr ? static_cast<unsigned>(std::atoi(wanted)) : 30;
   for (unsigned seed = 0; seed < sessions; ++seed) {
     Rider rider(seed);
-    Twins twins(rider.roll(0, 1) == 0 ? support::settingsOn : support::settingsOff,
-                rider.roll(0, 1) == 0 ? SoundMode::Timed : SoundMode::Instant);
+    const std::string settings = rider.roll(0, 1) == 0 ? support::settingsOn : support::settingsOff;
+    const SoundMode sound = rider.roll(0, 1) == 0 ? SoundMode::Timed : SoundMode::Instant;
+    Twins twins(support::SimulatedProgram::at(std::chrono::hours(12), sound),
+                {{"par.tq3", settings},
+                 {"ambiances/a.mp3", std::string(60000, 'a')},
+                 {"ambiances/b.mp3", std::string(60000, 'a')},
+                 {"annonces/allez.wav", ""},
+                 {"chronodat/Essai.tq2", support::session(2, 2).replace(71, 4, "Oui2")}});
     std::string done = "seed " + std::to_string(seed);
     const auto run = [&](const std::string& command) {
       done += "\n" + command;
@@ -147,6 +165,51 @@ TEST(EveryTick, ChangesNothingThatSomebodyCouldSee) {
     for (int i = 0; i < 60 && !HasFatalFailure(); ++i) run(rider.next(twins.rested()));
     if (HasFatalFailure()) return;
   }
+}
+
+namespace disk = std::filesystem;
+
+std::string contents(const disk::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The words of a scenario's comment line, as "files:"; empty where it has none.
+std::vector<std::string> wordsAt(const std::string& scenario, const std::string& what) {
+  const std::size_t at = scenario.find("# " + what);
+  if (at == std::string::npos) return {};
+  std::istringstream line(
+      scenario.substr(at + 2 + what.size(), scenario.find('\n', at) - at - 2 - what.size()));
+  std::vector<std::string> words;
+  for (std::string word; line >> std::quoted(word);) words.push_back(word);
+  return words;
+}
+
+// The files that a scenario asks for, by their paths in the program's folder.
+std::map<std::string, std::string> filesOf(const std::string& scenario) {
+  std::map<std::string, std::string> files;
+  for (const std::string& entry : wordsAt(scenario, "files:")) {
+    const std::size_t sign = entry.find('=');
+    const std::string source = sign == std::string::npos ? entry : entry.substr(sign + 1);
+    files[entry.substr(0, sign)] = contents(disk::path(VENTORIA_SOURCE_DIR "/tests/data") / source);
+  }
+  return files;
+}
+
+TEST(EveryTick, ChangesNoScenario) {
+  int ridden = 0;
+  for (const auto& entry : disk::directory_iterator(VENTORIA_SOURCE_DIR "/tests/scenarios")) {
+    if (entry.path().extension() != ".txt") continue;
+    const std::string scenario = contents(entry.path());
+    Twins twins(console::parseOptions(wordsAt(scenario, "options:")), filesOf(scenario));
+    std::istringstream lines(scenario);
+    for (std::string line; std::getline(lines, line) && !HasFatalFailure();) {
+      SCOPED_TRACE(entry.path().string() + ": " + line);
+      twins.run(line);
+    }
+    ++ridden;
+  }
+  EXPECT_GT(ridden, 20);
 }
 
 }  // namespace
