@@ -30,8 +30,12 @@ void retainPlaceWhenHidden(QWidget& widget) {
 }  // namespace
 
 AnnounceView::AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState& state, QWidget& page,
-                           Binder& binder)
-    : page_(form), state_(state), ui_(std::make_unique<Ui::EnrUneAnnonce>()) {
+                           Binder& binder, std::function<void(const std::string& path)> saveTake)
+    : FormView(page),
+      form_(form),
+      state_(state),
+      ui_(std::make_unique<Ui::EnrUneAnnonce>()),
+      saveTake_(std::move(saveTake)) {
   ui_->setupUi(&page);
   for (QWidget* widget : std::initializer_list<QWidget*>{ui_->Label16, ui_->Label17, ui_->musicTimes})
     retainPlaceWhenHidden(*widget);
@@ -39,14 +43,8 @@ AnnounceView::AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState&
   ui_->infoPlace->raise();
   ui_->infoPlace->hide();
   ui_->ListView1->showGrid(form.ListView1, [&binder](auto action) { binder.run(std::move(action)); });
-  pending_.setSingleShot(true);
-  pending_.setInterval(0);
-  connect(&pending_, &QTimer::timeout, this, &AnnounceView::refresh);
-  for (platform::Component* component : form.components()) {
-    component->watch([this](platform::Component&, platform::Prop) {
-      if (!pending_.isActive()) pending_.start();
-    });
-  }
+  followAll(form);
+  form.ListView1.watchGrid([this](const platform::GridChange&) { refreshSoon(); });
 }
 
 AnnounceView::~AnnounceView() = default;
@@ -55,8 +53,7 @@ void AnnounceView::rescale() {
   ui_->ListView1->rescale();
 }
 
-void AnnounceView::refresh() {
-  pending_.stop();
+void AnnounceView::draw() {
   ui_->ListView1->gridModel()->flush();
   refreshPanels();
   refreshTake();
@@ -66,9 +63,9 @@ void AnnounceView::refresh() {
 
 void AnnounceView::refreshPanels() {
   // Covered parts are hidden, so that the keyboard cannot reach them.
-  ui_->recordingPlace->setVisible(!coverOf(page_, "recordingPlace"));
-  ui_->libraryHome->setVisible(!coverOf(page_, "libraryHome"));
-  const bool info = page_.MyFrame4.visible;
+  ui_->recordingPlace->setVisible(!coverOf(form_, "recordingPlace"));
+  ui_->libraryHome->setVisible(!coverOf(form_, "libraryHome"));
+  const bool info = form_.MyFrame4.visible;
   if (info == !ui_->infoPlace->isHidden()) return;
   ui_->infoPlace->setVisible(info);
   if (info) ui_->MyButton3->setFocus();
@@ -93,8 +90,8 @@ void AnnounceView::refreshTake() {
   const std::pair<QWidget*, bool> steps[] = {
       {ui_->Command3, recording()},
       {ui_->Command4, listening()},
-      {ui_->Command1, !recording() && !listening() && page_.Command1.enabled},
-      {ui_->Command2, !recording() && !listening() && !page_.Command1.enabled},
+      {ui_->Command1, !recording() && !listening() && form_.Command1.enabled},
+      {ui_->Command2, !recording() && !listening() && !form_.Command1.enabled},
   };
   for (const auto& [button, leads] : steps) setLook(*button, leads ? QStringLiteral("primary") : QString());
 }
@@ -122,7 +119,7 @@ void AnnounceView::drawTake() {
 }
 
 void AnnounceView::refreshStored() {
-  const std::string shown = forms::announcementOpen(page_) ? page_.Label15.caption.get() : std::string();
+  const std::string shown = forms::announcementOpen(form_) ? form_.Label15.caption.get() : std::string();
   if (shown != storedShown_) {
     storedShown_ = shown;
     ui_->storedWave->setPeaks(shown.empty() ? std::vector<float>() : peaksOf(shown, Waveform::parts));
@@ -131,14 +128,14 @@ void AnnounceView::refreshStored() {
 }
 
 void AnnounceView::refreshMusic() {
-  const bool chosen = forms::musicChosen(page_);
+  const bool chosen = forms::musicChosen(form_);
   ui_->Label6->setProperty("tone", chosen ? QStringLiteral("text") : QStringLiteral("second"));
-  ui_->musicTimes->setVisible(page_.Label5.visible || page_.Label7.visible);
+  ui_->musicTimes->setVisible(form_.Label5.visible || form_.Label7.visible);
   ui_->musicBar->setShare(chosen ? state_.music.get().share() : 0);
-  const bool empty = page_.File1.lines().empty();
+  const bool empty = form_.File1.lines().empty();
   setLook(*ui_->MyButton4, empty ? QStringLiteral("primary") : QString());
   setLook(*ui_->Command8, empty ? QString() : QStringLiteral("primary"));
-  setLook(*ui_->MyButton12, page_.MyButton12.enabled ? QStringLiteral("primary") : QString());
+  setLook(*ui_->MyButton12, form_.MyButton12.enabled ? QStringLiteral("primary") : QString());
 }
 
 }  // namespace desktop

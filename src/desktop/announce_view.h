@@ -2,13 +2,12 @@
 // waveform of a take, the progress of a piece. It only reads the form and the shared state.
 #pragma once
 
-#include <QObject>
-#include <QTimer>
 #include <functional>
 #include <memory>
 #include <string>
 
 #include "desktop/binder.h"
+#include "desktop/form_view.h"
 #include "forms/enr_une_annonce_words.h"
 #include "model/training_model.h"
 
@@ -18,32 +17,30 @@ class EnrUneAnnonce;
 
 namespace desktop {
 
-class AnnounceView final : public QObject {
+class AnnounceView final : public FormView {
   Q_OBJECT
  public:
-  AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState& state, QWidget& page, Binder& binder);
+  // `saveTake` writes the recorder's take to a file; without it a take has a waveform only once it is saved.
+  AnnounceView(forms::EnrUneAnnonce& form, const model::SharedState& state, QWidget& page, Binder& binder,
+               std::function<void(const std::string& path)> saveTake);
   ~AnnounceView() override;
-  void refresh();
-  // To be called when the window's scale has changed.
-  void rescale();
-  // `save` writes the recorder's take to a file; without it a take has a waveform only once it is saved.
-  void saveTakesBy(std::function<void(const std::string& path)> save) { saveTake_ = std::move(save); }
+  void rescale() override;
 
  private:
+  void draw() override;
   void refreshPanels();
   void refreshTake();
   void drawTake();
   void refreshStored();
   void refreshMusic();
-  [[nodiscard]] bool recording() const { return forms::recordingTake(page_); }
-  [[nodiscard]] bool listening() const { return forms::listeningToTake(page_); }
+  [[nodiscard]] bool recording() const { return forms::recordingTake(form_); }
+  [[nodiscard]] bool listening() const { return forms::listeningToTake(form_); }
   [[nodiscard]] int takeSeconds() const;    // shown in the ring
   [[nodiscard]] double takeLength() const;  // s
 
-  forms::EnrUneAnnonce& page_;
+  forms::EnrUneAnnonce& form_;
   const model::SharedState& state_;
   std::unique_ptr<Ui::EnrUneAnnonce> ui_;
-  QTimer pending_;
   std::function<void(const std::string&)> saveTake_;
   bool taking_ = false;    // a recording is under way, or its waveform is not drawn yet
   std::string takeShown_;  // file of the waveform drawn last

@@ -72,7 +72,7 @@ void DesktopProgram::repaintBlocking() {
 }
 
 void DesktopProgram::repaint() {
-  windows_.refresh();
+  windows_.catchUp();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers |
                                   QEventLoop::X11ExcludeTimers);
   // Input that Qt holds back now is handled after the sound, even if no further event wakes Qt's loop.

@@ -49,7 +49,7 @@ constexpr std::array<const char*, 14> headButtons{
 
 EditorView::EditorView(forms::CreerCycle& form, const model::SharedState& state, QWidget& page,
                        Binder& binder)
-    : editor_(form), state_(state), ui_(std::make_unique<Ui::CreerCycle>()), page_(page), binder_(binder) {
+    : FormView(page), editor_(form), state_(state), ui_(std::make_unique<Ui::CreerCycle>()), binder_(binder) {
   ui_->setupUi(&page);
   // The list must not be their parent: for a screen reader, a list contains nothing but cells.
   for (auto* floating : std::initializer_list<QWidget*>{ui_->Navette, ui_->Combo1, ui_->Picture2,
@@ -67,7 +67,7 @@ EditorView::EditorView(forms::CreerCycle& form, const model::SharedState& state,
   ui_->ListView1->showGrid(form.ListView1, [&binder](auto action) { binder.run(std::move(action)); });
   ui_->ListView1->setHeaderTip([this](int column) { return headerTip(column); });
   connect(ui_->ListView1, &GridTable::layoutMoved, this, &EditorView::placeFloating);
-  connect(ui_->ListView1->gridModel(), &GridModel::contentChanged, this, &EditorView::refreshProfile);
+  form.ListView1.watchGrid([this](const platform::GridChange&) { refreshSoon(); });
   connect(ui_->ListView1->gridModel(), &GridModel::selectionMoved, ui_->editorProfile,
           &SessionProfile::selectRow);
   connect(ui_->editorProfile, &SessionProfile::rowPressed, this, [this, &binder](int row) {
@@ -80,14 +80,8 @@ EditorView::EditorView(forms::CreerCycle& form, const model::SharedState& state,
 
   help_ = new MovablePanel(*ui_->Picture3, *ui_->hintRow, page);
 
-  pending_.setSingleShot(true);
-  pending_.setInterval(0);
-  connect(&pending_, &QTimer::timeout, this, &EditorView::refresh);
-  for (platform::Component* component : form.components()) {
-    component->watch([this](platform::Component&, platform::Prop) {
-      if (!pending_.isActive()) pending_.start();
-    });
-  }
+  followAll(form);
+  follow(form);
   speak({});
 }
 
@@ -161,7 +155,7 @@ bool EditorView::eventFilter(QObject* watched, QEvent* event) {
   }
   const bool escape =
       event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
-  if (!escape) return QObject::eventFilter(watched, event);
+  if (!escape) return FormView::eventFilter(watched, event);
   // Keys that no widget has used arrive at the page.
   if (!forms::cellOpen(editor_)) return watched == &page_ && leaveHelp();
   dropTypedDuration();
@@ -175,13 +169,9 @@ void EditorView::rescale() {
   placeFloating();
 }
 
-void EditorView::setListMode(bool whole) {
-  ui_->profileCard->setVisible(!whole);
-}
-
-void EditorView::refresh() {
-  pending_.stop();
+void EditorView::draw() {
   ui_->ListView1->gridModel()->flush();
+  ui_->profileCard->setVisible(!editor_.maximised);  // a list as large as the screen stands alone
   ui_->calculatorPlace->setVisible(editor_.Picture8.visible);
   refreshFilms();
   refreshProfile();

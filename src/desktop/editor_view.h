@@ -2,11 +2,10 @@
 // session's profile and total, the coloured bands of the heart-rate calculator.
 #pragma once
 
-#include <QObject>
-#include <QTimer>
 #include <memory>
 
 #include "desktop/binder.h"
+#include "desktop/form_view.h"
 #include "forms/creer_cycle.h"
 #include "model/shared_state.h"
 #include "widgets/movable_panel.h"
@@ -17,24 +16,20 @@ class CreerCycle;
 
 namespace desktop {
 
-class EditorView final : public QObject {
+class EditorView final : public FormView {
   Q_OBJECT
  public:
   EditorView(forms::CreerCycle& form, const model::SharedState& state, QWidget& page, Binder& binder);
   ~EditorView() override;
-  // To be called once the page's widgets are bound to the form.
-  void whenBound();
-  void speak(const QString& text);
-  void refresh();
-  // To be called when the window's scale has changed.
-  void rescale();
-  // Shows the whole list alone, or the profile too.
-  void setListMode(bool whole);
+  void whenBound() override;
+  void speak(const QString& text) override;
+  void rescale() override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void draw() override;
   void focusCellEditor();
   void dropTypedDuration();
   void leaveCellEditor();
@@ -50,9 +45,7 @@ class EditorView final : public QObject {
   const model::SharedState& state_;
   std::unique_ptr<Ui::CreerCycle> ui_;
   widgets::MovablePanel* help_ = nullptr;
-  QWidget& page_;
   Binder& binder_;
-  QTimer pending_;
   bool editing_ = false;
 };
 

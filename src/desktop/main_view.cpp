@@ -41,7 +41,7 @@ bool says(const std::string& text) {
 }  // namespace
 
 MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidget& page)
-    : main_(form), state_(state), ui_(std::make_unique<Ui::MainForm>()) {
+    : FormView(page), main_(form), state_(state), ui_(std::make_unique<Ui::MainForm>()) {
   ui_->setupUi(&page);
   for (QWidget* widget :
        std::initializer_list<QWidget*>{ui_->Label4, ui_->Label5, ui_->Label6, ui_->Label1, ui_->Label2,
@@ -59,14 +59,7 @@ MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidg
   ui_->banner->setAutoFillBackground(true);
   ui_->nextText->setTextFormat(Qt::RichText);
   ui_->firstText->setTextFormat(Qt::RichText);
-  pending_.setSingleShot(true);
-  pending_.setInterval(0);
-  connect(&pending_, &QTimer::timeout, this, &MainView::refresh);
-  for (platform::Component* component : form.components()) {
-    component->watch([this](platform::Component&, platform::Prop) {
-      if (!pending_.isActive()) pending_.start();
-    });
-  }
+  followAll(form);
   speak({});
 }
 
@@ -77,8 +70,7 @@ void MainView::speak(const QString& text) {
   for (QLabel* label : {ui_->ridePrompt, ui_->countdownPrompt, ui_->settingsPrompt}) label->setText(shown);
 }
 
-void MainView::refresh() {
-  pending_.stop();
+void MainView::draw() {
   refreshPages();
   refreshRide();
   refreshCards();

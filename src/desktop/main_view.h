@@ -2,12 +2,11 @@
 // effort, what comes next, the profile, the spoken text. It only reads the form and the shared state.
 #pragma once
 
-#include <QObject>
 #include <QString>
-#include <QTimer>
 #include <memory>
 #include <vector>
 
+#include "desktop/form_view.h"
 #include "forms/main_form.h"
 #include "model/training_model.h"
 #include "widgets/effort_views.h"
@@ -18,16 +17,15 @@ class MainForm;
 
 namespace desktop {
 
-class MainView final : public QObject {
+class MainView final : public FormView {
   Q_OBJECT
  public:
   MainView(forms::MainForm& form, const model::SharedState& state, QWidget& page);
   ~MainView() override;
-  // Shows the text that the voice is speaking; empty for silence.
-  void speak(const QString& text);
-  void refresh();
+  void speak(const QString& text) override;
 
  private:
+  void draw() override;
   void refreshPages();
   void refreshRide();
   void refreshCards();
@@ -40,7 +38,6 @@ class MainView final : public QObject {
   forms::MainForm& main_;
   const model::SharedState& state_;
   std::unique_ptr<Ui::MainForm> ui_;
-  QTimer pending_;
 };
 
 }  // namespace desktop

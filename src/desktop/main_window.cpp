@@ -22,12 +22,12 @@ MainWindow::MainWindow(ThemeMode mode) : mode_(mode) {
   setMinimumSize(design * smallestScale);
   setWindowIcon(QIcon(QStringLiteral(":/ventoria/icons/ventoria.svg")));
   resize(design);
+  restyle();
 }
 
 void MainWindow::addPage(QWidget* page) {
   pages_.addWidget(page);
-  scale_ = 0;
-  restyle();
+  scaleContents(*page, scale_);
 }
 
 void MainWindow::showPage(QWidget* page) {

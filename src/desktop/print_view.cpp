@@ -6,25 +6,18 @@
 namespace desktop {
 
 PrintView::PrintView(forms::ImprimerTQ1& form, QWidget& page)
-    : print_(form), ui_(std::make_unique<Ui::ImprimerTQ1>()) {
+    : FormView(page), print_(form), ui_(std::make_unique<Ui::ImprimerTQ1>()) {
   ui_->setupUi(&page);
-  pending_.setSingleShot(true);
-  pending_.setInterval(0);
-  connect(&pending_, &QTimer::timeout, this, &PrintView::refresh);
-  const auto later = [this] {
-    if (!pending_.isActive()) pending_.start();
-  };
-  form.Grid.watchGrid([this, later](const platform::GridChange&) {
+  form.Grid.watchGrid([this](const platform::GridChange&) {
     listMoved_ = true;
-    later();
+    refreshSoon();
   });
-  form.Option1.watch([later](platform::Component&, platform::Prop) { later(); });
+  follow(form.Option1);
 }
 
 PrintView::~PrintView() = default;
 
-void PrintView::refresh() {
-  pending_.stop();
+void PrintView::draw() {
   ui_->Grid->setColoured(print_.Option1.value);
   if (!std::exchange(listMoved_, false)) return;
   std::vector<platform::PageGrid> pages;

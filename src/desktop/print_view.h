@@ -1,10 +1,9 @@
 // Draws the preview of the pages on the print form.
 #pragma once
 
-#include <QObject>
-#include <QTimer>
 #include <memory>
 
+#include "desktop/form_view.h"
 #include "forms/imprimer_tq1.h"
 
 namespace Ui {
@@ -13,17 +12,16 @@ class ImprimerTQ1;
 
 namespace desktop {
 
-class PrintView final : public QObject {
+class PrintView final : public FormView {
   Q_OBJECT
  public:
   PrintView(forms::ImprimerTQ1& form, QWidget& page);
   ~PrintView() override;
-  void refresh();
 
  private:
+  void draw() override;
   forms::ImprimerTQ1& print_;
   std::unique_ptr<Ui::ImprimerTQ1> ui_;
-  QTimer pending_;
   bool listMoved_ = true;
 };
 

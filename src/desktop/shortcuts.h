@@ -1,7 +1,9 @@
 // The keyboard shortcuts of the main page, the editor and the window.
 #pragma once
 
+#include <QKeySequence>
 #include <QWidget>
+#include <functional>
 
 #include "app/program.h"
 #include "desktop/binder.h"
@@ -11,7 +13,26 @@ namespace desktop {
 
 // Space pauses and resumes a ride, Escape offers to cancel it, F11 fills the screen. In the editor the usual
 // keys open, save, undo, redo and start.
-void addShortcuts(app::Program& program, Binder& binder, MainWindow& window, QWidget& mainPage,
-                  QWidget& editorPage);
+class Shortcuts {
+ public:
+  Shortcuts(app::Program& program, Binder& binder, MainWindow& window);
+
+  void addToMain(QWidget& page);
+  void addToEditor(QWidget& page);
+
+ private:
+  void add(QWidget& page, const QKeySequence& keys, std::function<void()> action);
+  void pauseOrPress();
+  void offerToCancel();
+  void fillScreen();
+  [[nodiscard]] bool riding() const { return state_.plan.started(); }
+  [[nodiscard]] bool confirmed();
+
+  forms::MainForm& main_;
+  forms::CreerCycle& editor_;
+  const model::SharedState& state_;
+  Binder& binder_;
+  MainWindow& window_;
+};
 
 }  // namespace desktop

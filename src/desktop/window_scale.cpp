@@ -72,10 +72,12 @@ double fittingScale(const QSize& size, const QSize& design) {
 void scaleWindow(QWidget& window, QWidget& contents, ThemeMode mode, double scale) {
   window.setProperty("scale", scale);
   window.setStyleSheet(themeStyleSheet(mode, scale));
+  scaleContents(contents, scale);
+}
+
+void scaleContents(QWidget& contents, double scale) {
   for (QLayout* layout : contents.findChildren<QLayout*>()) {
-    if (qobject_cast<QStackedLayout*>(layout) == nullptr && layout->parentWidget() != &contents) {
-      scaleLayout(*layout, scale);
-    }
+    if (qobject_cast<QStackedLayout*>(layout) == nullptr) scaleLayout(*layout, scale);
   }
   for (QWidget* widget : contents.findChildren<QWidget*>()) widget->updateGeometry();
 }

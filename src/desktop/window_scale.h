@@ -15,5 +15,7 @@ constexpr double smallestScale = 0.45;
 [[nodiscard]] double fittingScale(const QSize& size, const QSize& design);
 // Gives `window` the style sheet, and the layouts in `contents` the lengths, of that scale.
 void scaleWindow(QWidget& window, QWidget& contents, widgets::ThemeMode mode, double scale);
+// Gives the layouts in a part of a window the lengths of the window's scale.
+void scaleContents(QWidget& contents, double scale);
 
 }  // namespace desktop

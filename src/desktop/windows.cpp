@@ -5,11 +5,16 @@
 #include <QMouseEvent>
 #include <QToolButton>
 #include <QWindow>
+#include <algorithm>
 #include <array>
 
-#include "desktop/shortcuts.h"
+#include "desktop/announce_view.h"
+#include "desktop/editor_view.h"
+#include "desktop/films_view.h"
+#include "desktop/main_view.h"
+#include "desktop/print_view.h"
+#include "desktop/volume_view.h"
 #include "forms/main_form_words.h"
-#include "ui_aide_tq.h"
 #include "widgets/accessible_faces.h"
 #include "widgets/qt_text.h"
 
@@ -30,69 +35,95 @@ constexpr std::array<const char*, 22> handles{
 
 }  // namespace
 
+// A form, how its page is made, and what shows it once it is.
+struct Windows::Room {
+  platform::Form& form;
+  std::function<std::unique_ptr<FormView>(QWidget& page)> view;
+  std::function<void(QWidget& page)> finish;  // what a page of the main window has besides; may be empty
+  QSize design{};                             // of its own window at the main window's design; else empty
+  platform::Button* way = nullptr;            // for leaving the form; closing its own window presses it
+
+  QWidget* page = nullptr;
+  std::unique_ptr<FormView> drawn{};
+  std::unique_ptr<FormWindow> window{};
+};
+
+// The pages of the main window come first, each before those that may lie over it.
+std::vector<Windows::Room> Windows::plan() {
+  forms::Screens& screens = program_.screens();
+  const model::SharedState& state = program_.state();
+  std::vector<Room> rooms;
+  rooms.push_back({screens.main,
+                   [&](QWidget& page) { return std::make_unique<MainView>(screens.main, state, page); },
+                   [this](QWidget& page) {
+                     shortcuts_.addToMain(page);
+                     offerAppearance(page);
+                   }});
+  rooms.push_back(
+      {screens.editor,
+       [&](QWidget& page) { return std::make_unique<EditorView>(screens.editor, state, page, binder_); },
+       [this](QWidget& page) { shortcuts_.addToEditor(page); }});
+  rooms.push_back({screens.announcements,
+                   [&](QWidget& page) {
+                     return std::make_unique<AnnounceView>(screens.announcements, state, page, binder_,
+                                                           saveTake_);
+                   },
+                   {}});
+  rooms.push_back(
+      {screens.volume,
+       [&](QWidget& page) { return std::make_unique<VolumeView>(screens.volume, screens.main, page); },
+       {},
+       QSize(520, 500),
+       &screens.volume.MyButton7});
+  rooms.push_back({screens.print,
+                   [&](QWidget& page) { return std::make_unique<PrintView>(screens.print, page); },
+                   {},
+                   QSize(980, 740),
+                   &screens.print.Command34});
+  rooms.push_back({screens.films,
+                   [&](QWidget& page) { return std::make_unique<FilmsView>(screens.films, page); },
+                   {},
+                   QSize(860, 620),
+                   &screens.films.MyButton9});
+  return rooms;
+}
+
 Windows::Windows(app::Program& program, ThemeMode system, Appearance::Choice choice)
     : program_(program),
       appearance_(system, choice),
       window_(appearance_.mode()),
       binder_(program.loop()),
-      mainPage_(new QWidget),
-      editorPage_(new QWidget),
-      announcePage_(new QWidget),
-      volumeWindow_(program.screens().volume, QSize(520, 500), appearance_.mode(), window_),
-      printWindow_(program.screens().print, QSize(980, 740), appearance_.mode(), window_),
-      filmsWindow_(program.screens().films, QSize(860, 620), appearance_.mode(), window_) {
+      shortcuts_(program, binder_, window_) {
   applyTheme(appearance_.mode());
   installAccessibleFaces();
-  forms::Screens& screens = program.screens();
-  mainView_ = std::make_unique<MainView>(screens.main, program.state(), *mainPage_);
-  editorView_ = std::make_unique<EditorView>(screens.editor, program.state(), *editorPage_, binder_);
-  announceView_ =
-      std::make_unique<AnnounceView>(screens.announcements, program.state(), *announcePage_, binder_);
-  const std::array<std::pair<platform::Form*, QWidget*>, 3> pages{
-      {{&screens.main, mainPage_}, {&screens.editor, editorPage_}, {&screens.announcements, announcePage_}}};
-  for (const auto& [form, page] : pages) {
-    binder_.bind(*form, *page);
-    window_.addPage(page);
-    followForm(*form, *page);
-  }
-  editorView_->whenBound();
+  rooms_ = plan();
+  for (Room& room : rooms_) follow(room);
+  furnish(rooms_.front());
   connect(&window_, &MainWindow::rescaled, this, [this] {
-    editorView_->rescale();
-    announceView_->rescale();
+    for (Room& room : rooms_) {
+      if (room.drawn && !room.window) room.drawn->rescale();
+    }
   });
-  screens.editor.watch([this, &form = screens.editor](platform::Component&, platform::Prop prop) {
-    if (prop != platform::Prop::Value) return;
-    editorView_->setListMode(form.maximised);
-    if (form.maximised != window_.isMaximized())
-      form.maximised ? window_.showMaximized() : window_.showNormal();
-  });
-  volumeView_ = std::make_unique<VolumeView>(screens.volume, screens.main, volumeWindow_.page());
-  printView_ = std::make_unique<PrintView>(screens.print, printWindow_.page());
-  Ui::AideTQ films;
-  films.setupUi(&filmsWindow_.page());
-  films.filmsTitle->setText(toQt(screens.films.caption.get()));
-  openFormWindow(volumeWindow_, screens.volume, screens.volume.MyButton7);
-  openFormWindow(printWindow_, screens.print, screens.print.Command34);
-  openFormWindow(filmsWindow_, screens.films, screens.films.MyButton9);
-  window_.setWindowTitle(toQt(screens.main.caption.get()));
-  addShortcuts(program, binder_, window_, *mainPage_, *editorPage_);
-  makeDraggable();
-  offerAppearance();
+  followListMode();
+  window_.setWindowTitle(toQt(program.screens().main.caption.get()));
+  connect(&appearance_, &Appearance::changed, this, &Windows::setTheme);
   // Queued, because the handler that opened the dialog has not returned yet when the dialog closes.
   connect(&window_, &MainWindow::unblocked, this, &Windows::addWaitingSessions, Qt::QueuedConnection);
-  refresh();
 }
 
 Windows::~Windows() = default;
 
-QWidget* Windows::page(const platform::Form& form) const {
-  const forms::Screens& screens = program_.screens();
-  if (&form == &screens.main) return mainPage_;
-  if (&form == &screens.announcements) return announcePage_;
-  if (&form == &screens.volume) return &volumeWindow_.page();
-  if (&form == &screens.print) return &printWindow_.page();
-  if (&form == &screens.films) return &filmsWindow_.page();
-  return &form == &screens.editor ? editorPage_ : nullptr;
+Windows::Room* Windows::roomOf(const platform::Form& form) {
+  const auto found =
+      std::find_if(rooms_.begin(), rooms_.end(), [&](const Room& room) { return &room.form == &form; });
+  return found == rooms_.end() ? nullptr : &*found;
+}
+
+QWidget* Windows::page(const platform::Form& form) {
+  Room* room = roomOf(form);
+  if (room == nullptr) return nullptr;
+  furnish(*room);
+  return room->page;
 }
 
 QWidget* Windows::windowOf(const platform::Form& form) {
@@ -100,45 +131,78 @@ QWidget* Windows::windowOf(const platform::Form& form) {
   return shown != nullptr ? shown->window() : nullptr;
 }
 
-// `way` is the form's own button for leaving it; closing the window presses it.
-void Windows::openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way) {
-  binder_.bind(form, window.page());
-  window.onClose([this, &way] { binder_.run([&way] { way.click(); }); });
-  window.whenBound();
+void Windows::furnish(Room& room) {
+  if (room.page != nullptr) return;
+  room.design.isEmpty() ? furnishPage(room) : furnishWindow(room);
+  room.drawn->speak(spoken_);
+  room.drawn->refresh();
 }
 
-void Windows::followForm(platform::Form& form, QWidget& page) {
-  if (form.visible) window_.showPage(&page);
-  form.watch([this, &form, &page](platform::Component&, platform::Prop prop) {
-    if (prop != platform::Prop::Visible) return;
-    form.visible ? window_.showPage(&page) : showWhatIsLeft();
+void Windows::furnishPage(Room& room) {
+  room.page = new QWidget;
+  room.drawn = room.view(*room.page);
+  binder_.bind(room.form, *room.page);
+  window_.addPage(room.page);
+  room.drawn->whenBound();
+  room.drawn->rescale();
+  if (room.finish) room.finish(*room.page);
+  makeDraggable(*room.page);
+}
+
+void Windows::furnishWindow(Room& room) {
+  room.window = std::make_unique<FormWindow>(room.form, room.design, appearance_.mode(), window_);
+  room.page = &room.window->page();
+  room.drawn = room.view(*room.page);
+  binder_.bind(room.form, *room.page);
+  room.window->onClose([this, way = room.way] { binder_.run([way] { way->click(); }); });
+  room.window->whenBound();
+}
+
+void Windows::follow(Room& room) {
+  // A window of its own follows its form, once it is there.
+  const auto show = [this, &room] {
+    if (room.form.visible) furnish(room);
+    if (!room.design.isEmpty()) return;
+    room.form.visible ? window_.showPage(room.page) : showWhatIsLeft();
+  };
+  if (room.form.visible) show();
+  room.form.watch([show](platform::Component&, platform::Prop prop) {
+    if (prop == platform::Prop::Visible) show();
   });
 }
 
 // A form that closes uncovers the one below it.
 void Windows::showWhatIsLeft() {
-  forms::Screens& screens = program_.screens();
-  for (const platform::Form* form :
-       {static_cast<platform::Form*>(&screens.announcements), static_cast<platform::Form*>(&screens.editor),
-        static_cast<platform::Form*>(&screens.main)}) {
-    if (!form->visible) continue;
-    window_.showPage(page(*form));
-    return;
-  }
+  const auto shown = std::find_if(rooms_.rbegin(), rooms_.rend(), [](const Room& room) {
+    return room.design.isEmpty() && room.form.visible;
+  });
+  if (shown == rooms_.rend()) return;
+  furnish(*shown);
+  window_.showPage(shown->page);
 }
 
-void Windows::offerAppearance() {
-  auto* button = mainPage_->findChild<QToolButton*>(QStringLiteral("themeButton"));
+// The editor's button for the whole list makes the window as large as the screen.
+void Windows::followListMode() {
+  forms::CreerCycle& editor = program_.screens().editor;
+  editor.watch([this, &editor](platform::Component&, platform::Prop prop) {
+    if (prop != platform::Prop::Value || editor.maximised == window_.isMaximized()) return;
+    editor.maximised ? window_.showMaximized() : window_.showNormal();
+  });
+}
+
+void Windows::offerAppearance(QWidget& mainPage) {
+  auto* button = mainPage.findChild<QToolButton*>(QStringLiteral("themeButton"));
   auto* menu = new QMenu(button);
   appearance_.offerIn(*menu);
   button->setMenu(menu);
-  connect(&appearance_, &Appearance::changed, this, &Windows::setTheme);
 }
 
 void Windows::setTheme(ThemeMode mode) {
   applyTheme(mode);
   window_.setTheme(mode);
-  for (FormWindow* window : {&volumeWindow_, &printWindow_, &filmsWindow_}) window->setTheme(mode);
+  for (Room& room : rooms_) {
+    if (room.window) room.window->setTheme(mode);
+  }
   binder_.recolour();
   refresh();
 }
@@ -163,11 +227,9 @@ void Windows::addWaitingSession() {
   screens.editor.sessionHandedIn(path);
 }
 
-void Windows::makeDraggable() {
-  for (QWidget* page : {mainPage_, editorPage_, announcePage_}) {
-    for (const char* name : handles) {
-      if (auto* handle = page->findChild<QWidget*>(QLatin1String(name))) handle->installEventFilter(this);
-    }
+void Windows::makeDraggable(QWidget& page) {
+  for (const char* name : handles) {
+    if (auto* handle = page.findChild<QWidget*>(QLatin1String(name))) handle->installEventFilter(this);
   }
 }
 
@@ -180,16 +242,22 @@ bool Windows::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Windows::speak(const QString& text) {
-  mainView_->speak(text);
-  editorView_->speak(text);
+  spoken_ = text;
+  for (Room& room : rooms_) {
+    if (room.drawn) room.drawn->speak(text);
+  }
 }
 
 void Windows::refresh() {
-  mainView_->refresh();
-  editorView_->refresh();
-  announceView_->refresh();
-  volumeView_->refresh();
-  printView_->refresh();
+  for (Room& room : rooms_) {
+    if (room.drawn) room.drawn->refresh();
+  }
+}
+
+void Windows::catchUp() {
+  for (Room& room : rooms_) {
+    if (room.drawn) room.drawn->catchUp();
+  }
 }
 
 }  // namespace desktop

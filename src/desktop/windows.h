@@ -1,4 +1,5 @@
-// All windows of a program: one page for each form, bound to its controls.
+// All windows of a program: one page for each form, bound to its controls. A page is made when it is first
+// wanted: what nobody opens costs nothing.
 #pragma once
 
 #include <QObject>
@@ -6,17 +7,15 @@
 #include <deque>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/program.h"
-#include "desktop/announce_view.h"
 #include "desktop/appearance.h"
 #include "desktop/binder.h"
-#include "desktop/editor_view.h"
+#include "desktop/form_view.h"
 #include "desktop/form_window.h"
-#include "desktop/main_view.h"
 #include "desktop/main_window.h"
-#include "desktop/print_view.h"
-#include "desktop/volume_view.h"
+#include "desktop/shortcuts.h"
 
 namespace desktop {
 
@@ -33,28 +32,36 @@ class Windows final : public QObject {
   // Dark or light; a change shows at once.
   [[nodiscard]] Appearance& appearance() { return appearance_; }
   // The page that shows a form; null for a form without one.
-  [[nodiscard]] QWidget* page(const platform::Form& form) const;
+  [[nodiscard]] QWidget* page(const platform::Form& form);
   // The window that shows a form; null for a form without one.
   [[nodiscard]] QWidget* windowOf(const platform::Form& form);
+  // Shows the text that the voice is speaking; empty for silence.
   void speak(const QString& text);
-  // `save` writes the recorder's take to a file, so that its waveform can be drawn.
-  void saveTakesBy(std::function<void(const std::string& path)> save) {
-    announceView_->saveTakesBy(std::move(save));
-  }
+  // `save` writes the recorder's take to a file, so that its waveform can be drawn. To be called before the
+  // page of the announcements is opened.
+  void saveTakesBy(std::function<void(const std::string& path)> save) { saveTake_ = std::move(save); }
   // Adds a session file that was opened in the file manager to the editor's list, once no dialog and no sound
   // is in the way. A ride under way goes on.
   void addSession(const std::string& path);
-  // Brings all that is drawn up to date at once.
+  // Draws everything anew at once.
   void refresh();
+  // Draws at once what has changed and is not drawn yet.
+  void catchUp();
 
  private:
-  void followForm(platform::Form& form, QWidget& page);
+  struct Room;
+  [[nodiscard]] std::vector<Room> plan();
+  Room* roomOf(const platform::Form& form);
+  void furnish(Room& room);
+  void furnishPage(Room& room);
+  void furnishWindow(Room& room);
+  void follow(Room& room);
   void showWhatIsLeft();
-  void openFormWindow(FormWindow& window, platform::Form& form, platform::Button& way);
+  void followListMode();
   void addWaitingSessions();
   void addWaitingSession();
-  void makeDraggable();
-  void offerAppearance();
+  void makeDraggable(QWidget& page);
+  void offerAppearance(QWidget& mainPage);
   void setTheme(widgets::ThemeMode mode);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -62,17 +69,10 @@ class Windows final : public QObject {
   Appearance appearance_;
   MainWindow window_;
   Binder binder_;
-  QWidget* mainPage_;
-  QWidget* editorPage_;
-  QWidget* announcePage_;
-  std::unique_ptr<MainView> mainView_;
-  std::unique_ptr<EditorView> editorView_;
-  std::unique_ptr<AnnounceView> announceView_;
-  FormWindow volumeWindow_;
-  FormWindow printWindow_;
-  FormWindow filmsWindow_;
-  std::unique_ptr<VolumeView> volumeView_;
-  std::unique_ptr<PrintView> printView_;
+  Shortcuts shortcuts_;
+  std::vector<Room> rooms_;
+  QString spoken_;
+  std::function<void(const std::string& path)> saveTake_;
   std::deque<std::string> inbox_;  // session files that wait for a dialog to close
 };
 

@@ -6,6 +6,7 @@ namespace model {
 struct HeartZone {
   double from = 0;  // bpm, whole
   double to = 0;    // bpm, whole
+  bool operator==(const HeartZone&) const = default;
 };
 
 }  // namespace model

@@ -18,10 +18,7 @@ PropertyBase* Component::property(Prop id) const {
 }
 
 void Component::notifyWatchers(Prop id) {
-  // By index, since a watcher may add another one.
-  for (std::size_t i = 0; i < watchers_.size(); ++i) {  // NOLINT(modernize-loop-convert)
-    watchers_[i](*this, id);
-  }
+  for (const Watcher& watcher : watchers_) watcher(*this, id);
 }
 
 const std::vector<CodeEvent>& codeEvents() {

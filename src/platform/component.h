@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <list>
 #include <string>
 #include <vector>
 
@@ -66,7 +67,7 @@ class Component {
   ControlKind kind_;
   std::string name_;
   std::vector<PropertyBase*> properties_;
-  std::vector<Watcher> watchers_;
+  std::list<Watcher> watchers_;  // each stays where it is: one that runs may add another
 };
 
 // Which control raises which event when code, and not only the rider, changes a property.

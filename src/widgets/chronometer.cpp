@@ -75,7 +75,9 @@ void CountdownRing::setText(const QString& text) {
 }
 
 void CountdownRing::setShare(double share) {
-  share_ = std::clamp(share, 0.0, 1.0);
+  const double shown = std::clamp(share, 0.0, 1.0);
+  if (share_ == shown) return;
+  share_ = shown;
   update();
 }
 

@@ -28,6 +28,7 @@ EffortChip::EffortChip(QWidget* parent) : QWidget(parent) {
 }
 
 void EffortChip::show(model::EffortFamily family, bool any) {
+  if (family_ == family && any_ == any) return;
   family_ = family;
   any_ = any;
   update();
@@ -52,8 +53,10 @@ SequenceBar::SequenceBar(QWidget* parent) : QWidget(parent) {
 }
 
 void SequenceBar::show(model::EffortFamily family, double share) {
+  const double shown = std::clamp(share, 0.0, 1.0);
+  if (family_ == family && share_ == shown) return;
   family_ = family;
-  share_ = std::clamp(share, 0.0, 1.0);
+  share_ = shown;
   update();
 }
 
@@ -231,6 +234,7 @@ ZoneBand::ZoneBand(QWidget* parent) : QWidget(parent) {
 }
 
 void ZoneBand::show(const model::HeartZone& zone, const QColor& colour) {
+  if (zone_ == zone && colour_ == colour) return;
   zone_ = zone;
   colour_ = colour;
   update();

@@ -25,7 +25,9 @@ VolumeGauge::VolumeGauge(QWidget* parent) : QWidget(parent) {
 }
 
 void VolumeGauge::setPercent(int percent) {
-  percent_ = std::clamp(percent, 0, 100);
+  const int shown = std::clamp(percent, 0, 100);
+  if (percent_ == shown) return;
+  percent_ = shown;
   update();
 }
 
