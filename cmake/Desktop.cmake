@@ -4,10 +4,12 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(PULSE REQUIRED IMPORTED_TARGET "libpulse>=16")
 pkg_check_modules(SNDFILE REQUIRED IMPORTED_TARGET "sndfile>=1.2")
 pkg_check_modules(SAMPLERATE REQUIRED IMPORTED_TARGET "samplerate>=0.2.2")
-pkg_check_modules(MPV REQUIRED IMPORTED_TARGET "mpv>=2.0")
+pkg_check_modules(MPV REQUIRED "mpv>=2.0")
 
 ventoria_floor(devices UNWATCHED
-  LINKS ventoria_context PkgConfig::PULSE PkgConfig::SNDFILE PkgConfig::SAMPLERATE PkgConfig::MPV)
+  LINKS ventoria_context PkgConfig::PULSE PkgConfig::SNDFILE PkgConfig::SAMPLERATE ${CMAKE_DL_LIBS})
+# Not linked: the program loads it when it is first needed.
+target_include_directories(ventoria_devices SYSTEM PUBLIC ${MPV_INCLUDEDIR})
 # The adapters of one library speak of the same things by the same names.
 set_target_properties(ventoria_devices PROPERTIES UNITY_BUILD OFF)
 

@@ -21,6 +21,7 @@ set(CPACK_STRIP_FILES TRUE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION sports)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS TRUE)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libqt6svg6")
+# Whatever is loaded while the program runs, which no look at its links finds.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libmpv2 (>= 0.35), qt6-qpa-plugins, libqt6svg6")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-b612, fonts-inter, qt6-translations-l10n, xdg-utils")
 include(CPack)

@@ -42,14 +42,19 @@ MpvMedia::Device* MpvMedia::find(const std::string& alias) {
   return found == devices_.end() ? nullptr : &found->second;
 }
 
+std::unique_ptr<MpvPlayer> MpvMedia::open(std::string address) {
+  const MpvFunctions* mpv = library_.functions();
+  if (mpv == nullptr) return nullptr;
+  auto player = std::make_unique<MpvPlayer>(*mpv, std::move(address));
+  return player->opened() ? std::move(player) : nullptr;
+}
+
 MpvPlayer* MpvMedia::playerOf(const std::string& alias) {
   Device* device = find(alias);
   if (device == nullptr) return nullptr;
   if (device->recorder && !device->player && device->recorder->size() > 0) {
     device->recorder->stop();
-    auto player =
-        std::make_unique<MpvPlayer>(inMemory(platform::wavFile(device->format, device->recorder->samples())));
-    if (player->opened()) device->player = std::move(player);
+    device->player = open(inMemory(platform::wavFile(device->format, device->recorder->samples())));
   }
   return device->player.get();
 }
@@ -74,8 +79,8 @@ void MpvMedia::playAtLevel(MpvPlayer& player) {
 void MpvMedia::openFile(const std::string& alias, const std::string& path) {
   if (devices_.contains(alias)) return;
   Device device;
-  device.player = std::make_unique<MpvPlayer>(path);
-  if (!device.player->opened()) return;
+  device.player = open(path);
+  if (!device.player) return;
   if (const auto volume = volumes_.find(alias); volume != volumes_.end())
     device.player->setVolume(volume->second / 1000.0);
   devices_.emplace(alias, std::move(device));

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 
+#include "devices/mpv_library.h"
 #include "devices/mpv_player.h"
 #include "devices/pulse_output_level.h"
 #include "devices/pulse_recorder.h"
@@ -52,6 +53,8 @@ class MpvMedia final : public platform::MediaBackend {
   };
 
   Device* find(const std::string& alias);
+  // A player of what libmpv finds there; null if it cannot be played.
+  std::unique_ptr<MpvPlayer> open(std::string address);
   // The player of the opened file or of the recorder's take; null if there is nothing to play.
   MpvPlayer* playerOf(const std::string& alias);
   // Starts playing, with the program's level set before the first sample sounds.
@@ -61,6 +64,7 @@ class MpvMedia final : public platform::MediaBackend {
   PulseConnection& connection_;
   PulseOutputLevel& level_;
   platform::FileSystem& files_;
+  MpvLibrary library_;
   std::map<std::string, Device> devices_;
   std::map<std::string, int> volumes_;  // in thousandths, kept for later files of the same alias
   std::chrono::steady_clock::time_point checkedAt_{};  // when restoreOutput last looked

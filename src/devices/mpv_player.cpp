@@ -33,13 +33,13 @@ constexpr std::array<std::pair<const char*, const char*>, 14> startOptions{{
     {"audio-client-name", "Ventoria"},
 }};
 
-mpv_handle* newHandle() {
+mpv_handle* newHandle(const MpvFunctions& mpv) {
   std::setlocale(LC_NUMERIC, "C");  // libmpv does not start with any other
-  mpv_handle* handle = mpv_create();
+  mpv_handle* handle = mpv.create();
   if (handle == nullptr) return nullptr;
-  for (const auto& [name, value] : startOptions) mpv_set_option_string(handle, name, value);
-  if (mpv_initialize(handle) >= 0) return handle;
-  mpv_terminate_destroy(handle);
+  for (const auto& [name, value] : startOptions) mpv.setOption(handle, name, value);
+  if (mpv.initialize(handle) >= 0) return handle;
+  mpv.destroy(handle);
   return nullptr;
 }
 
@@ -50,24 +50,25 @@ std::string seconds(std::int64_t milliseconds) {
 
 }  // namespace
 
-MpvPlayer::MpvPlayer(std::string address) : address_(std::move(address)), handle_(newHandle()) {
+MpvPlayer::MpvPlayer(const MpvFunctions& mpv, std::string address)
+    : mpv_(mpv), address_(std::move(address)), handle_(newHandle(mpv), mpv.destroy) {
   if (!handle_ || !load(0)) return;
   double duration = 0;
-  mpv_get_property(handle_.get(), "duration", MPV_FORMAT_DOUBLE, &duration);
+  mpv_.getProperty(handle_.get(), "duration", MPV_FORMAT_DOUBLE, &duration);
   length_ = std::llround(std::max(duration, 0.0) * 1000);
   opened_ = true;
 }
 
 // Waits until the piece is ready at `from`, in ms. False if it cannot be read.
 bool MpvPlayer::load(std::int64_t from) {
-  mpv_set_property_string(handle_.get(), "start", seconds(from).c_str());
+  mpv_.setText(handle_.get(), "start", seconds(from).c_str());
   std::array<const char*, 3> command{"loadfile", address_.c_str(), nullptr};
   loaded_ = ended_ = false;
   expectPosition(from);
-  if (mpv_command(handle_.get(), command.data()) < 0) return false;
+  if (mpv_.command(handle_.get(), command.data()) < 0) return false;
   const auto patienceEnds = std::chrono::steady_clock::now() + patience;
   while (!loaded_ && !ended_ && std::chrono::steady_clock::now() < patienceEnds) {
-    handle(*mpv_wait_event(handle_.get(), 0.1));
+    handle(*mpv_.waitEvent(handle_.get(), 0.1));
   }
   return loaded_;
 }
@@ -94,7 +95,7 @@ void MpvPlayer::handle(const mpv_event& event) {
 
 void MpvPlayer::handleEvents() {
   for (;;) {
-    const mpv_event* event = mpv_wait_event(handle_.get(), 0);
+    const mpv_event* event = mpv_.waitEvent(handle_.get(), 0);
     if (event->event_id == MPV_EVENT_NONE) break;
     handle(*event);
   }
@@ -108,7 +109,7 @@ void MpvPlayer::expectPosition(std::int64_t position) {
 
 void MpvPlayer::setFlag(const char* property, bool on) {
   int value = on ? 1 : 0;
-  mpv_set_property(handle_.get(), property, MPV_FORMAT_FLAG, &value);
+  mpv_.setProperty(handle_.get(), property, MPV_FORMAT_FLAG, &value);
 }
 
 void MpvPlayer::play() {
@@ -137,17 +138,17 @@ void MpvPlayer::seek(std::int64_t milliseconds) {
   }
   const std::string place = seconds(target);
   std::array<const char*, 4> command{"seek", place.c_str(), "absolute+exact", nullptr};
-  if (mpv_command(handle_.get(), command.data()) >= 0) expectPosition(target);
+  if (mpv_.command(handle_.get(), command.data()) >= 0) expectPosition(target);
 }
 
 void MpvPlayer::setSpeed(double factor) {
-  mpv_set_property(handle_.get(), "speed", MPV_FORMAT_DOUBLE, &factor);
+  mpv_.setProperty(handle_.get(), "speed", MPV_FORMAT_DOUBLE, &factor);
 }
 
 // libmpv cubes its volume to get the amplitude.
 void MpvPlayer::setVolume(double amplitude) {
   double percent = 100 * std::cbrt(amplitude);
-  mpv_set_property(handle_.get(), "volume", MPV_FORMAT_DOUBLE, &percent);
+  mpv_.setProperty(handle_.get(), "volume", MPV_FORMAT_DOUBLE, &percent);
 }
 
 void MpvPlayer::setAudible(bool audible) {
@@ -155,28 +156,28 @@ void MpvPlayer::setAudible(bool audible) {
 }
 
 bool MpvPlayer::unheard() {
-  char* output = mpv_get_property_string(handle_.get(), "current-ao");
+  char* output = mpv_.getText(handle_.get(), "current-ao");
   const bool unheard = output != nullptr && std::string_view(output) == nowhere;
-  mpv_free(output);
+  mpv_.free(output);
   return unheard;
 }
 
 void MpvPlayer::awaitOutput() {
   const auto patienceEnds = std::chrono::steady_clock::now() + patience;
   while (!ended_ && std::chrono::steady_clock::now() < patienceEnds) {
-    char* output = mpv_get_property_string(handle_.get(), "current-ao");
+    char* output = mpv_.getText(handle_.get(), "current-ao");
     if (output == nullptr) {
-      handle(*mpv_wait_event(handle_.get(), 0.005));
+      handle(*mpv_.waitEvent(handle_.get(), 0.005));
       continue;
     }
-    mpv_free(output);
+    mpv_.free(output);
     return;
   }
 }
 
 void MpvPlayer::reopenOutput() {
   std::array<const char*, 2> command{"ao-reload", nullptr};
-  mpv_command(handle_.get(), command.data());
+  mpv_.command(handle_.get(), command.data());
 }
 
 MpvPlayer::Mode MpvPlayer::mode() {
@@ -189,7 +190,7 @@ std::int64_t MpvPlayer::position() {
   if (ended_) return length_;
   if (sought_ >= 0) return sought_;
   double reached = 0;
-  mpv_get_property(handle_.get(), "time-pos", MPV_FORMAT_DOUBLE, &reached);
+  mpv_.getProperty(handle_.get(), "time-pos", MPV_FORMAT_DOUBLE, &reached);
   // Some decoders play a little past the length that they announced.
   return std::clamp<std::int64_t>(std::llround(reached * 1000), 0, std::max<std::int64_t>(length_ - 1, 0));
 }

@@ -1,11 +1,11 @@
 // One piece of music or one take, played by libmpv without a window.
 #pragma once
 
-#include <mpv/client.h>
-
 #include <cstdint>
 #include <memory>
 #include <string>
+
+#include "devices/mpv_library.h"
 
 namespace devices {
 
@@ -14,7 +14,7 @@ class MpvPlayer {
   enum class Mode { Stopped, Paused, Playing };
 
   // Opens a file's path, or any other address that libmpv accepts; waits up to 3 s until its length is known.
-  explicit MpvPlayer(std::string address);
+  MpvPlayer(const MpvFunctions& mpv, std::string address);
   // False if it cannot be played: the other functions must not be called then.
   [[nodiscard]] bool opened() const { return opened_; }
 
@@ -38,10 +38,6 @@ class MpvPlayer {
   [[nodiscard]] std::int64_t position();
 
  private:
-  struct Destroy {
-    void operator()(mpv_handle* handle) const { mpv_terminate_destroy(handle); }
-  };
-
   bool load(std::int64_t from);
   void holdAs(Mode mode);
   void setFlag(const char* property, bool on);
@@ -49,8 +45,9 @@ class MpvPlayer {
   void expectPosition(std::int64_t position);
   void handle(const mpv_event& event);
 
+  const MpvFunctions& mpv_;
   std::string address_;
-  std::unique_ptr<mpv_handle, Destroy> handle_;
+  std::unique_ptr<mpv_handle, decltype(MpvFunctions::destroy)> handle_;
   bool opened_ = false;
   bool loaded_ = false;
   bool ended_ = false;

@@ -1,0 +1,36 @@
+#include "devices/mpv_library.h"
+
+#include <dlfcn.h>
+
+namespace devices {
+namespace {
+
+template <class Function>
+bool find(void* library, const char* name, Function& function) {
+  function = reinterpret_cast<Function>(dlsym(library, name));
+  return function != nullptr;
+}
+
+}  // namespace
+
+const MpvFunctions* MpvLibrary::functions() {
+  if (functions_) return &*functions_;
+  // Never unloaded: some of the libraries behind it keep things of theirs in threads and at the program's
+  // end.
+  void* library = dlopen("libmpv.so.2", RTLD_LAZY | RTLD_LOCAL | RTLD_NODELETE);
+  if (library == nullptr) return nullptr;
+  MpvFunctions found;
+  const bool whole =
+      find(library, "mpv_create", found.create) && find(library, "mpv_initialize", found.initialize) &&
+      find(library, "mpv_terminate_destroy", found.destroy) &&
+      find(library, "mpv_set_option_string", found.setOption) &&
+      find(library, "mpv_get_property", found.getProperty) &&
+      find(library, "mpv_set_property", found.setProperty) &&
+      find(library, "mpv_get_property_string", found.getText) &&
+      find(library, "mpv_set_property_string", found.setText) && find(library, "mpv_free", found.free) &&
+      find(library, "mpv_command", found.command) && find(library, "mpv_wait_event", found.waitEvent);
+  if (whole) functions_ = found;
+  return whole ? &*functions_ : nullptr;
+}
+
+}  // namespace devices
