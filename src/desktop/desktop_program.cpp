@@ -2,6 +2,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
+#include <functional>
 #include <utility>
 
 #include "platform/documents_folder.h"
@@ -25,7 +26,12 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
                   }}),
       dialogs_([this]() -> QWidget* { return &windows_.window(); }),
       shell_(dialogs_),
-      volume_(connection_),
+      volume_(connection_,
+              [this](std::function<void()> action) {
+                QMetaObject::invokeMethod(
+                    this, [this, action = std::move(action)] { program_.loop().whenFree(action); },
+                    Qt::QueuedConnection);
+              }),
       printer_(dialogs_, [this] { repaintBlocking(); }),
       program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_, volume_, printer_},
                {folder, VENTORIA_VERSION, {}, platform::documentsFolder()}),

@@ -44,12 +44,23 @@ bool PulseConnection::alive() const {
   return context_ && PA_CONTEXT_IS_GOOD(pa_context_get_state(context_.get()));
 }
 
+void PulseConnection::onLoss(std::function<void()> lost) {
+  if (!loop_) return;
+  const Lock lock(*this);
+  lost_ = std::move(lost);
+}
+
+void PulseConnection::stateChanged(pa_context* context, void* self) {
+  auto& connection = *static_cast<PulseConnection*>(self);
+  connection.notify();
+  if (connection.lost_ && !PA_CONTEXT_IS_GOOD(pa_context_get_state(context))) connection.lost_();
+}
+
 void PulseConnection::connect() {
   attemptedAt_ = steady_clock::now();
   context_.reset(pa_context_new(pa_threaded_mainloop_get_api(loop_.get()), applicationName_.c_str()));
   if (!context_) return;
-  pa_context_set_state_callback(
-      context_.get(), [](pa_context*, void* self) { static_cast<PulseConnection*>(self)->notify(); }, this);
+  pa_context_set_state_callback(context_.get(), &stateChanged, this);
   pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr);
 }
 

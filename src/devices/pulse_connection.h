@@ -44,6 +44,8 @@ class PulseConnection {
   bool ready();
   // Whether the server answers and has a real device to play on.
   bool hasLoudspeaker();
+  // `lost` is called on the library's thread whenever a connection, or an attempt at one, comes to its end.
+  void onLoss(std::function<void()> lost);
   // The live context, to be used under a Lock and only after ready().
   [[nodiscard]] pa_context* context() const { return context_.get(); }
 
@@ -67,6 +69,7 @@ class PulseConnection {
   };
 
   void connect();
+  static void stateChanged(pa_context* context, void* self);
   [[nodiscard]] bool alive() const;
 
   std::string applicationName_;
@@ -74,6 +77,7 @@ class PulseConnection {
   std::condition_variable changed_;
   unsigned changes_ = 0;
   std::chrono::steady_clock::time_point attemptedAt_{};
+  std::function<void()> lost_;  // under a Lock
   std::unique_ptr<pa_threaded_mainloop, FreeLoop> loop_;
   std::unique_ptr<pa_context, FreeContext> context_;
 };

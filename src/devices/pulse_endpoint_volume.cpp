@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string_view>
+#include <utility>
 
 namespace devices {
 
@@ -18,8 +19,25 @@ double fractionOf(const pa_cvolume& volume) {
 
 }  // namespace
 
+PulseEndpointVolume::PulseEndpointVolume(PulseConnection& connection, HandOver handOver)
+    : connection_(connection), handOver_(std::move(handOver)) {
+  connection_.onLoss([this] { tellOfChange(); });
+}
+
 PulseEndpointVolume::~PulseEndpointVolume() {
+  connection_.onLoss({});
   stopFollowing();
+}
+
+void PulseEndpointVolume::tellOfChange() {
+  handOver_([this] { changes_.wakeTimers(); });
+}
+
+platform::Observable* PulseEndpointVolume::changes() {
+  if (sink_.empty()) return &changes_;  // only open() can find another device
+  const PulseConnection::Lock lock(connection_);
+  const bool told = followed_ && PA_CONTEXT_IS_GOOD(pa_context_get_state(followed_));
+  return told ? &changes_ : nullptr;
 }
 
 void PulseEndpointVolume::stopFollowing() {
@@ -39,9 +57,11 @@ void PulseEndpointVolume::stopFollowing() {
 
 void PulseEndpointVolume::answered(pa_context*, const pa_sink_info* sink, int end, void* self) {
   auto& volume = *static_cast<PulseEndpointVolume*>(self);
+  const std::optional<Device> before = volume.device_;
   if (end < 0) volume.device_.reset();
-  if (!sink || volume.writes_ > 0) return;
-  volume.device_ = Device{sink->volume, sink->mute != 0, sink->description ? sink->description : ""};
+  if (sink && volume.writes_ == 0)
+    volume.device_ = Device{sink->volume, sink->mute != 0, sink->description ? sink->description : ""};
+  if (volume.device_ != before) volume.tellOfChange();
 }
 
 void PulseEndpointVolume::changed(pa_context*, pa_subscription_event_type_t, uint32_t, void* self) {
@@ -79,7 +99,10 @@ bool PulseEndpointVolume::follow() {
 }
 
 bool PulseEndpointVolume::open() {
-  if (!follow()) return false;
+  if (!follow()) {
+    sink_.clear();
+    return false;
+  }
   std::string found;
   pa_operation* request = nullptr;
   {

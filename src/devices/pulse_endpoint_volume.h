@@ -1,9 +1,10 @@
 // The volume of the sound server's default device. The server reports each change, also by other programs,
-// and the last report is kept, so that reading the volume sends no request.
+// and the last report is kept, so that reading the volume sends no request and nobody need look for changes.
 #pragma once
 
 #include <pulse/pulseaudio.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,7 +16,11 @@ namespace devices {
 
 class PulseEndpointVolume final : public platform::EndpointVolume {
  public:
-  explicit PulseEndpointVolume(PulseConnection& connection) : connection_(connection) {}
+  // Called on any thread with what is to be done soon on the program's own, and no more once this is
+  // destroyed.
+  using HandOver = std::function<void(std::function<void()>)>;
+
+  PulseEndpointVolume(PulseConnection& connection, HandOver handOver);
   ~PulseEndpointVolume() override;
 
   bool open() override;
@@ -26,14 +31,22 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
   void setLevel(double level) override;
   int channels() override;
   std::string deviceName() override;
+  // Null while no server answers that could tell: the next read looks for one.
+  [[nodiscard]] platform::Observable* changes() override;
 
  private:
   struct Device {
     pa_cvolume volume{};
     bool muted = false;
     std::string description;
+
+    bool operator==(const Device& other) const {
+      return pa_cvolume_equal(&volume, &other.volume) != 0 && muted == other.muted &&
+             description == other.description;
+    }
   };
 
+  void tellOfChange();
   // Subscribes to the server that answers now, which may have restarted. False if none answers.
   bool follow();
   void stopFollowing();
@@ -48,6 +61,8 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
   static void done(pa_context* context, int success, void* self);
 
   PulseConnection& connection_;
+  HandOver handOver_;
+  platform::Observable changes_;
   pa_context* followed_ = nullptr;  // referenced, so that no new context can get its address
   std::string sink_;
   std::optional<Device> device_;  // this and all below are used under the connection's lock

@@ -20,7 +20,7 @@ class EndpointVolume {
   virtual void setLevel(double level) = 0;
   virtual int channels() = 0;
   virtual std::string deviceName() = 0;
-  // What tells, on the loop's thread, that the reads may have changed; null where nothing does.
+  // What tells, on the loop's thread, that the reads may have changed; null while nothing does.
   [[nodiscard]] virtual Observable* changes() { return nullptr; }
 };
 

@@ -6,9 +6,11 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <string>
 
 #include "desktop/comes.h"
+#include "desktop/loudspeaker.h"
 #include "devices/pulse_endpoint_volume.h"
 
 namespace devices {
@@ -29,7 +31,7 @@ std::string answerOf(const std::string& words) {
 
 struct EndpointVolume : testing::Test {
   PulseConnection connection{"Ventoria"};
-  PulseEndpointVolume volume{connection};
+  PulseEndpointVolume volume{connection, [](const std::function<void()>&) {}};
 
   void SetUp() override {
     ASSERT_NE(std::getenv("SOUND_SERVER_PID_FILE"), nullptr) << "not under with-sound-server";
@@ -79,9 +81,10 @@ TEST_F(EndpointVolume, StaysWithItsDeviceUntilItIsOpenedAnew) {
 }
 
 TEST_F(EndpointVolume, OvercomesAServerThatDies) {
-  pid_t server = 0;
-  std::ifstream(std::getenv("SOUND_SERVER_PID_FILE")) >> server;
-  kill(server, SIGKILL);
+  EXPECT_NE(volume.changes(), nullptr);
+  kill(support::serverPid(), SIGKILL);
+  // Nobody would tell that it is back.
+  EXPECT_TRUE(comes([&] { return volume.changes() == nullptr; }));
   // Each level read is written back, as the volume bar does. What is read while the server is away must not
   // reach the next server, which begins at full volume.
   EXPECT_TRUE(comes([&] {
@@ -89,6 +92,7 @@ TEST_F(EndpointVolume, OvercomesAServerThatDies) {
     volume.setLevel(read);
     return read > 0.9;
   }));
+  EXPECT_NE(volume.changes(), nullptr);
 }
 
 }  // namespace

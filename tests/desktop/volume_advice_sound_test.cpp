@@ -22,8 +22,10 @@ using widgets::toQt;
 
 namespace {
 
-void pactl(const char* words) {
-  ASSERT_EQ(std::system((std::string("pactl ") + words).c_str()), 0) << words;
+const std::string killServer = "kill -KILL $(cat $SOUND_SERVER_PID_FILE)";
+
+void run(const std::string& words) {
+  ASSERT_EQ(std::system(words.c_str()), 0) << words;
 }
 
 template <class Widget>
@@ -44,29 +46,32 @@ TEST(VolumeAdvice, FollowsWhatOtherProgramsDoToTheMachine) {
   const QApplication application(count, words.data());
   QApplication::setQuitOnLastWindowClosed(false);
   const QTemporaryDir folder;
-  pactl("set-default-sink test_out");
-  pactl("set-sink-mute test_out 0");
-  pactl("set-sink-volume test_mic 20%");
+  run("pactl set-default-sink test_out");
+  run("pactl set-sink-mute test_out 0");
   DesktopProgram program(fromQt(folder.path()), ThemeMode::Dark);
   ASSERT_TRUE(program.start());
   widget<QAction>("MainForm", "mnVolume").trigger();
 
   struct Seen {
-    const char* elsewhere;  // what another program does
+    std::string elsewhere;  // what another program does
     const char* advice;
     const char* sound;
     int percent;
   };
   const char* on = "Le (Son) est Activé.";
   const auto& slider = widget<QSlider>("VolumeGeneral", "VScroll1");
-  for (const Seen& row : {Seen{"set-sink-volume test_out 80%", "satisfaisant", on, 80},
-                          {"set-sink-volume test_out 35%", "insuffisant", on, 35},
-                          {"set-sink-volume test_out 95%", "un peu fort", on, 95},
-                          {"set-sink-mute test_out 1", "un peu fort", "Mais le (Son) est Désactivé.", 95},
-                          {"set-sink-mute test_out 0", "un peu fort", on, 95},
-                          // The dialog keeps its device until it is opened again.
-                          {"set-default-sink test_mic", "un peu fort", on, 95}}) {
-    pactl(row.elsewhere);
+  for (const Seen& row :
+       {Seen{"pactl set-sink-volume test_out 80%", "satisfaisant", on, 80},
+        {"pactl set-sink-volume test_out 35%", "insuffisant", on, 35},
+        {"pactl set-sink-volume test_out 95%", "un peu fort", on, 95},
+        {"pactl set-sink-mute test_out 1", "un peu fort", "Mais le (Son) est Désactivé.", 95},
+        {"pactl set-sink-mute test_out 0", "un peu fort", on, 95},
+        // The dialog keeps its device until it is opened again.
+        {"pactl set-default-sink test_mic", "un peu fort", on, 95},
+        // Another server begins at full volume.
+        {killServer, "un peu fort", on, 100},
+        {"pactl set-sink-volume test_out 35%", "insuffisant", on, 35}}) {
+    run(row.elsewhere);
     const QString advice = toQt("Le Volume de votre (Son) semble " + std::string(row.advice) + "...");
     EXPECT_TRUE(QTest::qWaitFor([&] {
       return widget<QLabel>("MainForm", "Label36").text() == advice &&
@@ -75,11 +80,13 @@ TEST(VolumeAdvice, FollowsWhatOtherProgramsDoToTheMachine) {
     })) << row.elsewhere
         << ": " << fromQt(widget<QLabel>("MainForm", "Label36").text());
   }
+  run("pactl set-default-sink test_mic");
+  run("pactl set-sink-volume test_mic 20%");
   widget<QPushButton>("VolumeGeneral", "MyButton7").click();
   widget<QAction>("MainForm", "mnVolume").trigger();
   EXPECT_TRUE(QTest::qWaitFor([&] { return slider.value() == 20; }));
   EXPECT_EQ(fromQt(widget<QLabel>("VolumeGeneral", "Lbl_SoundCard1").text()), "Nombre de cartes : '1'");
-  pactl("set-default-sink test_out");
+  run("pactl set-default-sink test_out");
 }
 
 }  // namespace
