@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <numbers>
+#include <span>
 #include <utility>
+#include <vector>
 
 #include "devices/wav_decoder.h"
 
@@ -51,18 +54,6 @@ bool PulseSoundOutput::hasDevice() {
   return connection_.hasLoudspeaker();
 }
 
-std::size_t PulseSoundOutput::Prompt::read(std::size_t from, std::span<std::int16_t> piece) {
-  if (from == samples.size() && decoder) {
-    const std::size_t count = decoder->read(piece);
-    samples.insert(samples.end(), piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(count));
-    if (count == 0) decoder.reset();
-    return count;
-  }
-  const std::size_t count = std::min(piece.size(), samples.size() - from);
-  std::copy_n(samples.begin() + static_cast<std::ptrdiff_t>(from), count, piece.begin());
-  return count;
-}
-
 void PulseSoundOutput::beep() {
   std::vector<std::int16_t> samples = makeBeep();
   stream_.play([&samples](std::span<std::int16_t> piece) {
@@ -75,14 +66,10 @@ void PulseSoundOutput::beep() {
 
 void PulseSoundOutput::play(const platform::SoundClip& clip) {
   if (!hasDevice()) return;
-  Prompt& prompt = prompts_.try_emplace(clip.wav.data(), clip.wav).first->second;
-  if (prompt.decoder && !prompt.decoder->opened()) return;
+  WavDecoder decoder(clip.wav);
+  if (!decoder.opened()) return;
   if (hooks_.onSpeaking) hooks_.onSpeaking(&clip);
-  stream_.play([&prompt, at = std::size_t{0}](std::span<std::int16_t> piece) mutable {
-    const std::size_t count = prompt.read(at, piece);
-    at += count;
-    return count;
-  });
+  stream_.play([&decoder](std::span<std::int16_t> piece) { return decoder.read(piece); });
   if (hooks_.onSpeaking) hooks_.onSpeaking(nullptr);
 }
 

@@ -2,17 +2,11 @@
 #pragma once
 
 #include <chrono>
-#include <cstdint>
 #include <functional>
-#include <memory>
-#include <span>
 #include <string>
-#include <unordered_map>
-#include <vector>
 
 #include "devices/pulse_connection.h"
 #include "devices/pulse_voice_stream.h"
-#include "devices/wav_decoder.h"
 #include "platform/sound_output.h"
 
 namespace devices {
@@ -35,22 +29,12 @@ class PulseSoundOutput final : public platform::SoundOutput {
   void settle() { stream_.settle(); }
 
  private:
-  // A prompt, decoded only as far as it is played, so that a long one starts at once.
-  struct Prompt {
-    explicit Prompt(std::span<const unsigned char> wav) : decoder(std::make_unique<WavDecoder>(wav)) {}
-    std::size_t read(std::size_t from, std::span<std::int16_t> piece);
-
-    std::unique_ptr<WavDecoder> decoder;  // null once all is decoded
-    std::vector<std::int16_t> samples;
-  };
-
   void beep();
   bool goOn();
 
   PulseConnection& connection_;
   SoundHooks hooks_;
   std::chrono::steady_clock::time_point repaintedAt_{};
-  std::unordered_map<const unsigned char*, Prompt> prompts_;  // by the address of the clip's bytes
   PulseVoiceStream stream_;
 };
 
