@@ -14,8 +14,9 @@ using std::chrono::steady_clock;
 
 constexpr milliseconds attemptPatience{500};
 constexpr milliseconds attemptPause{1000};  // callers ask several times a second
-constexpr milliseconds pollInterval{10};
+constexpr milliseconds askInterval{20};     // for whether to go on, which lets the caller repaint
 constexpr milliseconds answerPatience{500};
+
 }  // namespace
 
 void PulseConnection::FreeLoop::operator()(pa_threaded_mainloop* loop) const {
@@ -118,7 +119,8 @@ bool PulseConnection::waitUntil(const std::function<bool()>& done, milliseconds 
     const auto now = steady_clock::now();
     if (now >= deadline || (goOn && !goOn())) return false;
     guard.lock();
-    changed_.wait_until(guard, std::min(deadline, now + pollInterval), [&] { return changes_ != seen; });
+    const auto until = goOn ? std::min(deadline, now + askInterval) : deadline;
+    changed_.wait_until(guard, until, [&] { return changes_ != seen; });
   }
 }
 

@@ -52,7 +52,7 @@ class PulseConnection {
   // Wakes a wait below; for the library's callbacks.
   void notify();
   // Waits until `done` is true, the time is over or `goOn` is false; true only if done. `done` is called
-  // under a Lock, `goOn` without one and at least every 10 ms.
+  // under a Lock, `goOn` without one and at least every 20 ms.
   bool waitUntil(const std::function<bool()>& done, std::chrono::milliseconds timeout,
                  const std::function<bool()>& goOn = {});
   // Waits for a request to end and frees it. False if it fails, was refused (null), or takes too long; it is

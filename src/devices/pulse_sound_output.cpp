@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto repaintInterval = 10ms;
+constexpr auto repaintInterval = 15ms;
 
 std::vector<std::int16_t> makeBeep() {
   constexpr double pitch = 880;

@@ -20,7 +20,8 @@ constexpr std::int64_t serverBuffer = 40 * bytesPerMs;
 constexpr std::int64_t leadBytes = 30 * bytesPerMs;
 constexpr std::int64_t aheadBytes = 1000 * bytesPerMs;  // a repaint may take this long before a file stutters
 constexpr std::size_t samplesAtOnce = WavDecoder::sampleRate / 4 * WavDecoder::channelCount;
-constexpr milliseconds pollInterval{10};
+constexpr milliseconds burst{50};         // of sound that the server may take at once
+constexpr milliseconds pollInterval{10};  // within a burst of the end
 constexpr milliseconds soundingTail{60};  // for the sound that the server and the card still hold at the end
 constexpr milliseconds patience{2000};    // for a server that takes no more sound
 
@@ -133,8 +134,9 @@ bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std
     if (at->read != lastRead) movedAt = now;
     if (now - movedAt > patience) return false;
     lastRead = at->read;
-    const milliseconds rest = ended ? milliseconds((queued - lead) / bytesPerMs + 1) : pollInterval;
-    connection_.waitUntil([this] { return broken(); }, std::min(rest, pollInterval), goOn);
+    const milliseconds left((queued - (ended ? lead : aheadBytes)) / bytesPerMs + 1);
+    const milliseconds untilNearEnd = left > burst ? left - burst : std::min(left, pollInterval);
+    connection_.waitUntil([this] { return broken(); }, ended ? untilNearEnd : left + burst, goOn);
   }
 }
 

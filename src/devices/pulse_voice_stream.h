@@ -19,7 +19,7 @@ class PulseVoiceStream {
   // Fills a piece with 44100 Hz stereo samples and returns how many; 0 at the end.
   using Source = std::function<std::size_t(std::span<std::int16_t>)>;
 
-  // `goOn` is asked about every 10 ms while a play waits; false ends the play and silences it.
+  // `goOn` is asked about every 20 ms while a play waits; false ends the play and silences it.
   PulseVoiceStream(PulseConnection& connection, const PulseOutputLevel& level, std::function<bool()> goOn);
   // Waits until the last sound has ended.
   ~PulseVoiceStream();
