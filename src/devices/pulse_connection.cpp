@@ -97,6 +97,12 @@ bool PulseConnection::hasLoudspeaker() {
   return finish(request, answerPatience) && found;
 }
 
+PulseConnection::Timer PulseConnection::callAfter(milliseconds time, pa_time_event_cb_t call, void* owner) {
+  const pa_usec_t when = pa_rtclock_now() + static_cast<pa_usec_t>(std::chrono::microseconds(time).count());
+  pa_time_event* timer = pa_context_rttime_new(context_.get(), when, call, owner);
+  return Timer(timer, FreeTimer{pa_threaded_mainloop_get_api(loop_.get())});
+}
+
 void PulseConnection::notify() {
   {
     const std::lock_guard guard(mutex_);

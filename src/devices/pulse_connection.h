@@ -49,6 +49,15 @@ class PulseConnection {
   // The live context, to be used under a Lock and only after ready().
   [[nodiscard]] pa_context* context() const { return context_.get(); }
 
+  // Frees a timer; needs a Lock.
+  struct FreeTimer {
+    pa_mainloop_api* api = nullptr;
+    void operator()(pa_time_event* timer) const { api->time_free(timer); }
+  };
+  using Timer = std::unique_ptr<pa_time_event, FreeTimer>;
+  // Calls once, on the library's thread and under its Lock, after a time. Needs a Lock.
+  [[nodiscard]] Timer callAfter(std::chrono::milliseconds time, pa_time_event_cb_t call, void* owner);
+
   // Wakes a wait below; for the library's callbacks.
   void notify();
   // Waits until `done` is true, the time is over or `goOn` is false; true only if done. `done` is called

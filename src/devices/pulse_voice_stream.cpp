@@ -23,7 +23,8 @@ constexpr std::size_t samplesAtOnce = WavDecoder::sampleRate / 4 * WavDecoder::c
 constexpr milliseconds burst{50};         // of sound that the server may take at once
 constexpr milliseconds pollInterval{10};  // within a burst of the end
 constexpr milliseconds soundingTail{60};  // for the sound that the server and the card still hold at the end
-constexpr milliseconds patience{2000};    // for a server that takes no more sound
+constexpr milliseconds longSilence{3000};
+constexpr milliseconds patience{2000};  // for a server that takes no more sound
 
 }  // namespace
 
@@ -45,7 +46,28 @@ PulseVoiceStream::~PulseVoiceStream() {
 void PulseVoiceStream::drop() {
   if (!stream_) return;
   const PulseConnection::Lock lock(connection_);
+  holding_.reset();
+  held_ = false;
   stream_.reset();
+}
+
+void PulseVoiceStream::holdLater() {
+  const PulseConnection::Lock lock(connection_);
+  const auto hold = [](pa_mainloop_api*, pa_time_event*, const timeval*, void* self) {
+    static_cast<PulseVoiceStream*>(self)->cork(true);
+  };
+  holding_ = connection_.callAfter(longSilence, hold, this);
+}
+
+void PulseVoiceStream::release() {
+  holding_.reset();
+  if (held_) cork(false);
+}
+
+void PulseVoiceStream::cork(bool held) {
+  held_ = held;
+  pa_operation* request = broken() ? nullptr : pa_stream_cork(stream_.get(), held ? 1 : 0, nullptr, nullptr);
+  if (request) pa_operation_unref(request);
 }
 
 bool PulseVoiceStream::broken() const {
@@ -59,7 +81,11 @@ bool PulseVoiceStream::open() {
   }
   {
     const PulseConnection::Lock lock(connection_);
-    if (stream_ && !broken()) return true;
+    if (stream_ && !broken()) {
+      release();
+      return true;
+    }
+    drop();
     const pa_sample_spec format{PA_SAMPLE_S16LE, WavDecoder::sampleRate, WavDecoder::channelCount};
     stream_.reset(pa_stream_new(connection_.context(), "Voix", &format, nullptr));
     if (!stream_) return false;
@@ -141,11 +167,18 @@ bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std
 }
 
 void PulseVoiceStream::play(const Source& source) {
-  if (open() && !playTo(source, leadBytes, goOn_)) drop();
+  if (!open()) return;
+  if (playTo(source, leadBytes, goOn_)) return holdLater();
+  drop();
 }
 
 void PulseVoiceStream::settle() {
   if (!stream_) return;
+  {
+    const PulseConnection::Lock lock(connection_);
+    if (held_) return;
+    release();
+  }
   std::size_t silence = 10 * bytesPerMs / 2;
   const auto source = [&silence](std::span<std::int16_t> samples) {
     const std::size_t count = std::exchange(silence, 0);
@@ -153,6 +186,7 @@ void PulseVoiceStream::settle() {
     return count;
   };
   if (playTo(source, 0, {})) std::this_thread::sleep_for(soundingTail);
+  holdLater();
 }
 
 }  // namespace devices

@@ -1,5 +1,6 @@
 // The playback stream of the voice. So that prompts follow each other without a gap, it stays open between
-// them, and play() returns 30 ms before the end of a sound.
+// them, and play() returns 30 ms before the end of a sound. After some seconds of silence the server holds
+// it, since it would ask for sound some 50 times a second.
 #pragma once
 
 #include <chrono>
@@ -43,6 +44,10 @@ class PulseVoiceStream {
 
   bool open();
   void drop();
+  void holdLater();
+  // Ends the hold, or its timer. Needs a Lock.
+  void release();
+  void cork(bool held);
   [[nodiscard]] bool broken() const;
   std::optional<Position> position(const std::function<bool()>& goOn);
   bool write(std::span<const std::int16_t> samples, const Position& at);
@@ -53,6 +58,8 @@ class PulseVoiceStream {
   const PulseOutputLevel& level_;
   std::function<bool()> goOn_;
   std::unique_ptr<pa_stream, FreeStream> stream_;
+  PulseConnection::Timer holding_;
+  bool held_ = false;  // this and holding_ are used under the connection's lock
 };
 
 }  // namespace devices

@@ -112,6 +112,23 @@ TEST_F(PulseSound, PromptsFollowEachOtherWholeAndWithoutAGap) {
   EXPECT_GT(repaints_, 100);  // of about 900 ticks
 }
 
+// The server holds the stream after a while of silence, which cuts neither end of a prompt, nor a long one.
+TEST_F(PulseSound, AfterALongSilencePromptsAreWhole) {
+  Recording recording;
+  std::ptrdiff_t from = 0;
+  for (const bool settles : {false, true}) {
+    play("196");
+    play("128");  // longer than that while
+    if (settles) output_.settle();
+    const Samples heard = recording.samples();
+    for (const char* number : {"196", "128"})
+      EXPECT_TRUE(holds({heard.begin() + from, heard.end()}, decodeWav(bank(number)))) << number;
+    EXPECT_TRUE(comes([] { return std::system("pactl list sink-inputs | grep -q 'Corked: yes'") == 0; }));
+    output_.settle();
+    from = static_cast<std::ptrdiff_t>(heard.size());
+  }
+}
+
 TEST_F(PulseSound, FilesPlayWholeAndAMissingOneBeeps) {
   Recording recording;
   output_.playFile(bankPath("195"));
