@@ -1,6 +1,6 @@
-// What the program costs while a rider does not touch it: the desktop program rests or rides by its own buttons,
-// and a plain player plays the same piece beside it. tools/measure-ride runs it at a sound server and on a screen
-// of its own, each way in a process of its own.
+// What the program costs while a rider does not touch it: the desktop program rests or rides by its own
+// buttons, and a plain player plays the same piece beside it. tools/measure-ride runs it at a sound server
+// and on a screen of its own, each way in a process of its own.
 //
 //     ventoria-ride-cost launch PROGRAM
 //     ventoria-ride-cost rest SECONDS
@@ -167,7 +167,9 @@ double launch(const QString& program) {
   const QTemporaryDir folder;
   prepare(folder);
   QScreen& screen = *QGuiApplication::primaryScreen();
-  const auto seen = [&] { return screen.grabWindow(0, 600, 60, 1, 1).toImage().pixelColor(0, 0) != QColor(Qt::black); };
+  const auto seen = [&] {
+    return screen.grabWindow(0, 600, 60, 1, 1).toImage().pixelColor(0, 0) != QColor(Qt::black);
+  };
   if (seen()) throw std::runtime_error("the screen is not empty");
   QProcess started;
   QElapsedTimer passed;
@@ -202,9 +204,10 @@ int main(int count, char** words) try {
                                             {QStringLiteral("music"), 6}};
   const auto way = needed.find(arguments.value(1));
   if (way == needed.end() || arguments.size() < way->second) {
-    std::fputs("ventoria-ride-cost launch PROGRAM | rest SECONDS | ride SECONDS SESSION.tq2 |\n"
-               "                   music SECONDS SESSION.tq2 MUSIC PLAYER [ARGUMENT...]\n",
-               stderr);
+    std::fputs(
+        "ventoria-ride-cost launch PROGRAM | rest SECONDS | ride SECONDS SESSION.tq2 |\n"
+        "                   music SECONDS SESSION.tq2 MUSIC PLAYER [ARGUMENT...]\n",
+        stderr);
     return 2;
   }
   if (arguments[1] != QLatin1String("launch")) return work(arguments);
