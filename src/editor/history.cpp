@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "editor/layout.h"
 #include "model/grid_rows.h"
@@ -49,20 +50,6 @@ History::History(const context::Context& context)
   editor_.mnRedo.click.handle([this] { redo(); });
 }
 
-History::Row History::rowOf(int row) const {
-  auto cells = std::make_shared<Cells>();
-  cells->reserve(static_cast<std::size_t>(grid_.columnCount()));
-  for (int c = 1; c <= grid_.columnCount(); ++c) cells->push_back(grid_.text(row, c));
-  return cells;
-}
-
-// The cells of a row of the shadow, which no recorded change holds any more.
-History::Cells& History::ownCells(int row) {
-  Row& cells = shadow_[static_cast<std::size_t>(row - 1)];
-  if (cells.use_count() > 1) cells = std::make_shared<Cells>(*cells);
-  return *cells;
-}
-
 History::Words History::words() const {
   Words all;
   for (std::size_t i = 0; i < captions_.size(); ++i) all.at(i) = captions_.at(i)->get();
@@ -97,7 +84,7 @@ void History::recordChange(const platform::GridChange& change) {
       recordText(change.row, change.column);
       break;
     case What::RowInserted:
-      shadow_.insert(shadow_.begin() + at, rowOf(change.row));
+      shadow_.insert(shadow_.begin() + at, grid_.cells(change.row));
       open_.push_back({Kind::Insert, change.row, 0, shadow_[static_cast<std::size_t>(at)]});
       break;
     case What::RowRemoved:
@@ -115,12 +102,12 @@ void History::recordChange(const platform::GridChange& change) {
 }
 
 void History::recordText(int row, int col) {
-  std::string& before = ownCells(row)[static_cast<std::size_t>(col - 1)];
-  const std::string& after = grid_.text(row, col);
+  Row& shadow = shadow_[static_cast<std::size_t>(row - 1)];
+  const Row before = std::exchange(shadow, grid_.cells(row));
   // The total is summed by a timer some time after a change, so it belongs to no step.
-  if (row != 1 || col != column::duration)
-    open_.push_back({Kind::Text, row, col, std::make_shared<Cells>(Cells{before, after})});
-  before = after;
+  if (row == 1 && col == column::duration) return;
+  const auto at = static_cast<std::size_t>(col - 1);
+  open_.push_back({Kind::Text, row, col, std::make_shared<Cells>(Cells{(*before)[at], (*shadow)[at]})});
 }
 
 void History::closeStep() {
@@ -162,8 +149,9 @@ bool History::rowsDiffer() const {
     const auto row = static_cast<std::size_t>(change.row - 1);
     const auto at = before.begin() + static_cast<std::ptrdiff_t>(row);
     if (change.kind == Kind::Text) {
-      before[row] = std::make_shared<Cells>(*before[row]);
-      (*before[row])[static_cast<std::size_t>(change.column - 1)] = change.cells->front();
+      Cells cells = *before[row];
+      cells[static_cast<std::size_t>(change.column - 1)] = change.cells->front();
+      before[row] = std::make_shared<Cells>(std::move(cells));
     }
     if (change.kind == Kind::Insert) before.erase(at);
     if (change.kind == Kind::Remove) before.insert(at, change.cells);

@@ -24,8 +24,8 @@ class History {
   void clear();
 
  private:
-  using Cells = std::vector<std::string>;
-  using Row = std::shared_ptr<Cells>;  // shared, since a long list that is loaded would be copied twice
+  using Cells = platform::Grid::Cells;
+  using Row = std::shared_ptr<const Cells>;  // the grid's own, so that a long list is not copied
   enum class Kind { Text, Insert, Remove };
   struct Change {
     Kind kind;
@@ -54,8 +54,6 @@ class History {
   void restoreWords(const Words& from, const Words& to);
   void replay(std::deque<Step>& from, std::deque<Step>& to, bool backwards);
   void enableMenuEntries();
-  [[nodiscard]] Row rowOf(int row) const;
-  Cells& ownCells(int row);
   [[nodiscard]] Words words() const;
 
   platform::EventLoop& loop_;

@@ -11,11 +11,11 @@ std::string Record::get(const Field& field) const {
 }
 
 std::string Record::trimmed(const Field& field) const {
-  constexpr std::string_view padding(" \0", 2);
+  const auto padding = [](char c) { return c == ' ' || c == '\0'; };
   std::string_view bytes = std::string_view(bytes_).substr(field.offset, field.width);
-  const std::size_t first = bytes.find_first_not_of(padding);
-  if (first == std::string_view::npos) return {};
-  return fromWindows1252(bytes.substr(first, bytes.find_last_not_of(padding) - first + 1));
+  while (!bytes.empty() && padding(bytes.front())) bytes.remove_prefix(1);
+  while (!bytes.empty() && padding(bytes.back())) bytes.remove_suffix(1);
+  return fromWindows1252(bytes);
 }
 
 void Record::set(const Field& field, std::string_view text) {

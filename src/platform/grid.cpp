@@ -19,7 +19,7 @@ void Grid::clearColumns() {
 void Grid::addColumn(GridColumn column) {
   columns_.push_back(std::move(column));
   for (Row& row : rows_) {
-    row.cells.resize(columns_.size());
+    ownCells(row).resize(columns_.size());
     row.styles.resize(columns_.size());
   }
   notifyWatchers({What::Columns});
@@ -37,14 +37,14 @@ int Grid::columnLeft(int column) const {
   return edge;
 }
 
-void Grid::addRow(std::vector<std::string> cells) {
+void Grid::addRow(Cells cells) {
   insertRow(rowCount() + 1, std::move(cells));
 }
 
-void Grid::insertRow(int row, std::vector<std::string> cells) {
+void Grid::insertRow(int row, Cells cells) {
   const int place = std::clamp(row, 1, rowCount() + 1);
   cells.resize(columns_.size());
-  Row fresh{std::move(cells), std::vector<CellStyle>(columns_.size()), false};
+  Row fresh{std::make_shared<Cells>(std::move(cells)), std::vector<CellStyle>(columns_.size()), false};
   rows_.insert(rows_.begin() + (place - 1), std::move(fresh));
   if (selected_ >= place) ++selected_;
   notifyWatchers({What::RowInserted, place, 0});
@@ -66,20 +66,24 @@ void Grid::clearRows() {
   notifyWatchers({What::Cleared});
 }
 
+Grid::Cells& Grid::ownCells(Row& row) {
+  if (row.cells.use_count() > 1) row.cells = std::make_shared<Cells>(*row.cells);
+  return *row.cells;
+}
+
 bool Grid::holds(int row, int column) const {
   return row >= 1 && row <= rowCount() && column >= 1 && column <= columnCount();
 }
 
 const std::string& Grid::text(int row, int column) const {
   static const std::string none;
-  return holds(row, column) ? rows_[at(row)].cells[at(column)] : none;
+  return holds(row, column) ? (*rows_[at(row)].cells)[at(column)] : none;
 }
 
 void Grid::setText(int row, int column, const std::string& text) {
   if (!holds(row, column)) return;
-  std::string& cell = rows_[at(row)].cells[at(column)];
-  if (cell == text) return;
-  cell = text;
+  if (Grid::text(row, column) == text) return;
+  ownCells(rows_[at(row)])[at(column)] = text;
   notifyWatchers({What::Text, row, column});
 }
 

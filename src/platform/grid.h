@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,7 @@ struct GridChange {
 class Grid final : public Control {
  public:
   using GridWatcher = std::function<void(const GridChange&)>;
+  using Cells = std::vector<std::string>;
 
   Grid(Form& form, std::string name, const Design& design = {})
       : Control(form, ControlKind::Grid, std::move(name), design) {}
@@ -61,14 +63,16 @@ class Grid final : public Control {
 
   // Rows.
   [[nodiscard]] int rowCount() const { return static_cast<int>(rows_.size()); }
-  void addRow(std::vector<std::string> cells);  // at the end; missing cells are empty
-  void insertRow(int row, std::vector<std::string> cells);
+  void addRow(Cells cells);  // at the end; missing cells are empty
+  void insertRow(int row, Cells cells);
   void removeRow(int row);
   void clearRows();
 
   // Cells. A place outside the grid reads as empty, and writing there does nothing.
   [[nodiscard]] const std::string& text(int row, int column) const;
   void setText(int row, int column, const std::string& text);
+  // The cells of a row as they are now: a later change leaves them as they are. The row must exist.
+  [[nodiscard]] std::shared_ptr<const Cells> cells(int row) const { return rows_[at(row)].cells; }
   [[nodiscard]] CellStyle style(int row, int column) const;
   void setStyle(int row, int firstColumn, int lastColumn, const CellStyle& style);
   // Check boxes, where the list has them. A tick by the rider is `tickRow`.
@@ -105,12 +109,13 @@ class Grid final : public Control {
 
  private:
   struct Row {
-    std::vector<std::string> cells;
+    std::shared_ptr<Cells> cells;  // copied before a change, where somebody else holds them
     std::vector<CellStyle> styles;
     bool checked = false;
   };
   [[nodiscard]] static std::size_t at(int number) { return static_cast<std::size_t>(number - 1); }
   [[nodiscard]] bool holds(int row, int column) const;
+  static Cells& ownCells(Row& row);
   void notifyWatchers(const GridChange& change);
 
   std::vector<GridColumn> columns_;
