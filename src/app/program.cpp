@@ -85,7 +85,7 @@ Program::Program(const platform::Outside& outside, const Setup& setup)
     form->attach(loop_);
     for (platform::Component* component : form->components()) {
       if (auto* list = dynamic_cast<platform::FileList*>(component)) {
-        list->readThrough([this](const std::string& folder) { return outside_.files.list(folder); });
+        list->readThrough([this](const std::string& folder) { return listed(folder); });
       }
     }
   }
@@ -97,6 +97,21 @@ Program::Program(const platform::Outside& outside, const Setup& setup)
 }
 
 Program::~Program() = default;
+
+// A folder that cannot be listed counts as empty. It is told once for whatever the rider did, although
+// several lists may show it.
+std::vector<std::string> Program::listed(const std::string& folder) {
+  std::vector<std::string> names;
+  const std::uint64_t action = loop_.action();
+  loop_.guard([&] {
+    try {
+      names = outside_.files.list(folder);
+    } catch (const platform::FileFault&) {
+      if (unlisted_.emplace(action, folder).second) throw;
+    }
+  });
+  return names;
+}
 
 bool Program::start() {
   try {

@@ -4,7 +4,10 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "forms/screens.h"
 #include "model/training_model.h"
@@ -38,11 +41,13 @@ class Program {
 
  private:
   struct Logic;
+  std::vector<std::string> listed(const std::string& folder);
 
   platform::Outside outside_;
   platform::EventLoop loop_;
   forms::Screens screens_;
   model::SharedState state_;
+  std::set<std::pair<std::uint64_t, std::string>> unlisted_;  // folders by the action that was told of them
   std::unique_ptr<Logic> logic_;
 };
 

@@ -16,8 +16,8 @@
 #include "console/simulated_screen_saver.h"
 #include "console/simulated_shell.h"
 #include "console/simulated_sound.h"
+#include "disk/disk_file_system.h"
 #include "forms/main_form_words.h"
-#include "platform/disk_file_system.h"
 #include "platform/media_parser.h"
 
 namespace console {
@@ -177,7 +177,7 @@ class Ride {
   RideClock clock_;
   Journal journal_;
   RideScreen screen_;
-  platform::DiskFileSystem files_;
+  disk::DiskFileSystem files_;
   SimulatedSound silence_;
   WrittenVoice voice_;
   RideDialogs dialogs_;

@@ -15,7 +15,7 @@
 #include "console/simulated_printer.h"
 #include "console/simulated_screen_saver.h"
 #include "console/simulated_shell.h"
-#include "platform/disk_file_system.h"
+#include "disk/disk_file_system.h"
 #include "platform/media_parser.h"
 
 namespace console {
@@ -38,7 +38,7 @@ class Session {
  private:
   std::unique_ptr<platform::Clock> clock_;
   Journal journal_;
-  platform::DiskFileSystem disk_;
+  disk::DiskFileSystem disk_;
   platform::FileSystem& files_;
   SimulatedSound sound_;
   ScriptedDialogs dialogs_;

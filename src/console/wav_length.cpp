@@ -20,6 +20,7 @@ class MemoryFile final : public platform::RandomFile {
     return count;
   }
   void writeAt(std::uint64_t, std::span<const char>) override {}
+  void sync() override {}
   [[nodiscard]] std::uint64_t size() const override { return bytes_.size(); }
 
  private:

@@ -17,7 +17,7 @@
 #include "devices/pulse_endpoint_volume.h"
 #include "devices/pulse_output_level.h"
 #include "devices/pulse_sound_output.h"
-#include "platform/disk_file_system.h"
+#include "disk/disk_file_system.h"
 #include "platform/media_parser.h"
 
 namespace desktop {
@@ -46,7 +46,7 @@ class DesktopProgram final : public QObject {
   devices::PulseOutputLevel level_;
   devices::PulseSoundOutput sound_;
   QtDialogs dialogs_;
-  platform::DiskFileSystem files_;
+  disk::DiskFileSystem files_;
   DbusScreenSaver screenSaver_;
   devices::MpvMedia mpv_{connection_, level_, files_};
   platform::ParsedMediaCommands media_{mpv_};

@@ -143,18 +143,14 @@ std::optional<std::string> SessionFiles::askPath() {
   }
 }
 
-// The records are overwritten in place, so a failure in between leaves some of them changed.
 void SessionFiles::write(const std::string& path) {
-  bool touched = false;
+  bool replaces = false;
   try {
-    const bool replacing = context_.outside.files.exists(path);
-    (void)context_.outside.files.open(path, platform::OpenMode::ReadWriteCreate);
-    touched = replacing;
+    replaces = context_.outside.files.exists(path);
     model::ecrireSeance(context_.outside.files, path, editor_.ListView1);
   } catch (const platform::FileFault& fault) {
-    const std::string lost =
-        touched ? " L'ancienne séance de ce fichier est peut-être en partie remplacée." : "";
-    throw platform::Fault(std::string(fault.what()) + lost +
+    throw platform::Fault(std::string(fault.what()) +
+                          (replaces ? " L'ancienne séance de ce nom est intacte." : "") +
                           " La liste est restée telle quelle : enregistrez-la sous un autre nom.");
   }
 }

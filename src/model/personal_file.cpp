@@ -37,11 +37,10 @@ PersonalFigures readPersonal(platform::FileSystem& files, const std::string& pat
 }
 
 void writePersonal(platform::FileSystem& files, const std::string& path, const PersonalFigures& figures) {
-  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
   Record record(personalWidth);
   for (const auto& [field, member] : figureFields) record.set(field, figures.*member);
   record.set(unused, "");
-  record.write(*file, 1);
+  record.store(files, path);
 }
 
 }  // namespace model

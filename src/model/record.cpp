@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/windows1252.h"
+#include "platform/whole_file.h"
 
 namespace model {
 
@@ -35,6 +36,17 @@ void Record::read(platform::RandomFile& file, std::uint64_t number) {
 
 void Record::write(platform::RandomFile& file, std::uint64_t number) const {
   file.writeAt((number - 1) * bytes_.size(), bytes_);
+}
+
+void Record::store(platform::FileSystem& files, const std::string& path) const {
+  if (!files.exists(path)) {
+    platform::WholeFile file(files, path, platform::WholeFile::Start::Empty);
+    write(file, 1);
+    return file.commit();
+  }
+  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
+  write(*file, 1);
+  file->sync();
 }
 
 }  // namespace model

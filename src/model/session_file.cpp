@@ -8,8 +8,10 @@
 #include "model/numbers.h"
 #include "model/record.h"
 #include "model/vocabulary.h"
+#include "platform/each_on_its_own.h"
 #include "platform/fault.h"
 #include "platform/text.h"
+#include "platform/whole_file.h"
 
 namespace model {
 namespace {
@@ -38,9 +40,8 @@ constexpr std::size_t oldRecordWidth = 84;
 constexpr std::string_view versionTag = "ver2";
 constexpr std::size_t extensionLength = 4;
 
-// A larger count means a damaged file: no list comes near it, and its rows would exhaust the memory.
-constexpr int mostRecords = 32767;
-constexpr int mostRows = 200000;
+// A whole day, which no total can express any more, of sequences of three seconds: no rider composes so many.
+constexpr int mostRows = 28800;
 
 // Which field holds the text of which column; the grid shows exactly what the file holds.
 struct CellField {
@@ -71,6 +72,18 @@ std::string withoutExtension(const std::string& path) {
   return platform::left(path, all > extensionLength ? all - extensionLength : 0);
 }
 
+// The name of the work file of a conversion, as long as that of the old one: three blanks in place of an
+// extension, so that withoutExtension() can cut them off again.
+std::string workName(const std::string& path) {
+  return withoutExtension(path) + ".   ";
+}
+
+// How often a session is ridden: a count of 1 gives two passes, too; only from 2 on it is the number of
+// passes.
+int passesOf(const SessionHeader& header) {
+  return header.fois > 1 ? header.fois : header.fois + 1;
+}
+
 SequenceTexts textsOf(const Record& record) {
   std::string announcement = record.get(field::annonce);
   if (announcement.find('\0') != std::string::npos) announcement = record.trimmed(field::annonce);
@@ -96,31 +109,52 @@ int appendPass(platform::RandomFile& file, int nbEnreg, const std::string& name,
   return found;
 }
 
-void refuseDamage(const SessionHeader& header, int passes, const std::string& path) {
-  const bool tooMany = header.nbEnreg > mostRecords || header.nbEnreg > mostRows / passes;
-  if (!tooMany) return;
+int sequencesOf(const SessionHeader& header) {
+  return std::max(1, header.nbEnreg) - 1;
+}
+
+int sequencesIn(const platform::Grid& grid) {
+  int count = 0;
+  for (int row = 2; row <= grid.rowCount(); ++row) count += isSequence(grid, row) ? 1 : 0;
+  return count;
+}
+
+void refuseDamage(const SessionHeader& header, const std::string& path) {
+  if (sequencesOf(header) <= mostRows / passesOf(header)) return;
   throw platform::Fault("Le fichier « " + path + " » est endommagé : il annonce " +
-                        std::to_string(header.nbEnreg) + " enregistrements.");
+                        std::to_string(header.nbEnreg) + " enregistrements, à parcourir " +
+                        std::to_string(passesOf(header)) + " fois.");
+}
+
+// What is written can be read again, so no list comes to hold, and no file to ask for, more than a reader
+// takes.
+void refuseTooLong(int sequences, int passes) {
+  if (sequences <= mostRows / passes) return;
+  throw platform::Fault("La liste serait trop longue : " + std::to_string(sequences) +
+                        " séquences, à parcourir " + std::to_string(passes) + " fois ; une liste en a " +
+                        std::to_string(mostRows) + " au plus.");
 }
 
 }  // namespace
 
 void ecrireSeance(platform::FileSystem& files, const std::string& chemin, const platform::Grid& grille) {
-  const auto file = files.open(chemin, platform::OpenMode::ReadWriteCreate);
+  Record header = blankRecord();
+  header.set(field::repeter, grille.text(1, column::repeat));
+  header.set(field::fois, grille.text(1, column::times));
+  header.set(field::annonce, versionTag);
+  refuseTooLong(sequencesIn(grille), passesOf(headerOf(header)));
+  platform::WholeFile file(files, chemin, platform::WholeFile::Start::OldBytes);
   int counter = 1;
   for (int row = 2; row <= grille.rowCount(); ++row) {
     if (!isSequence(grille, row)) continue;
     Record record = blankRecord();
     for (const CellField& cell : cellFields) record.set(cell.field, grille.text(row, cell.column));
     ++counter;
-    record.write(*file, static_cast<std::uint64_t>(counter));
+    record.write(file, static_cast<std::uint64_t>(counter));
   }
-  Record header = blankRecord();
   header.set(field::nbEnreg, std::to_string(counter));
-  header.set(field::repeter, grille.text(1, column::repeat));
-  header.set(field::fois, grille.text(1, column::times));
-  header.set(field::annonce, versionTag);
-  header.write(*file, 1);
+  header.write(file, 1);
+  file.commit();
 }
 
 SessionHeader lireEnTete(platform::FileSystem& files, const std::string& chemin) {
@@ -131,32 +165,41 @@ SessionHeader lireEnTete(platform::FileSystem& files, const std::string& chemin)
 }
 
 std::string convertirAncien(platform::FileSystem& files, const std::string& chemin) {
-  // Three blanks in place of an extension, so that withoutExtension() can cut them off again.
-  const std::string base = withoutExtension(chemin);
-  const std::string work = base + ".   ";
-  std::string target = withoutExtension(work) + ".tq2";
+  std::string target = withoutExtension(workName(chemin)) + ".tq2";
   if (target != chemin && files.exists(target)) {
     throw platform::FileFault("de convertir vers", target, "ce fichier existe déjà");
   }
+  const auto old = files.open(chemin, platform::OpenMode::Read);
+  Record before(oldRecordWidth);
+  before.read(*old, 1);
+  const SessionHeader header = headerOf(before);
+  refuseDamage(header, chemin);
+  const std::string work = workName(files.targetOf(target));
   if (files.exists(work)) files.remove(work);
-  {
-    const auto old = files.open(chemin, platform::OpenMode::Read);
-    Record before(oldRecordWidth);
-    before.read(*old, 1);
-    const int count = lenientInteger(before.get(field::nbEnreg));
-    if (count > mostRecords) refuseDamage({count, 0, {}}, 1, chemin);
-    const auto fresh = files.open(work, platform::OpenMode::ReadWriteCreate);
-    for (int number = 1; number <= count; ++number) {
-      before.read(*old, static_cast<std::uint64_t>(number));
-      Record after = blankRecord();
-      for (std::size_t i = 0; i < oldFieldCount; ++i) after.set(fields.at(i), before.get(fields.at(i)));
-      if (number == 1) after.set(field::annonce, versionTag);
-      after.write(*fresh, static_cast<std::uint64_t>(number));
-    }
+  platform::WholeFile fresh(files, target, platform::WholeFile::Start::Empty, work);
+  for (int number = 1; number <= header.nbEnreg; ++number) {
+    before.read(*old, static_cast<std::uint64_t>(number));
+    Record after = blankRecord();
+    for (std::size_t i = 0; i < oldFieldCount; ++i) after.set(fields.at(i), before.get(fields.at(i)));
+    if (number == 1) after.set(field::annonce, versionTag);
+    after.write(fresh, static_cast<std::uint64_t>(number));
   }
-  files.remove(chemin);
-  files.rename(work, target);
+  fresh.commit();
+  if (target != chemin) files.remove(chemin);
   return target;
+}
+
+void supprimerRestes(platform::FileSystem& files, const std::string& dossier) {
+  platform::removeLeftovers(files, dossier);
+  platform::eachOnItsOwn([&] {
+    const std::vector<std::string> names = files.list(dossier);
+    for (const std::string& name : names) {
+      const bool old = std::any_of(names.begin(), names.end(), [&](const std::string& other) {
+        return other != name && workName(other) == name;
+      });
+      if (old) platform::eachOnItsOwn([&] { files.remove(dossier + name); });
+    }
+  });
 }
 
 FoundSequences ajouterSeance(platform::FileSystem& files, const std::string& chemin, platform::Grid& grille) {
@@ -166,9 +209,9 @@ FoundSequences ajouterSeance(platform::FileSystem& files, const std::string& che
   Record record(recordWidth);
   record.read(*file, 1);
   const SessionHeader header = headerOf(record);
-  // A count of 1 gives two passes, too; only from 2 on is the header's count the number of passes.
-  const int repeats = header.fois > 1 ? header.fois - 1 : header.fois;
-  refuseDamage(header, repeats + 1, chemin);
+  const int repeats = passesOf(header) - 1;
+  refuseDamage(header, chemin);
+  refuseTooLong(sequencesIn(grille) + sequencesOf(header) * (repeats + 1), 1);
   // Never the first row, although its total can look like a duration not chosen yet.
   if (grille.rowCount() > 1 && lastRowUnfinished(grille)) grille.removeRow(grille.rowCount());
   FoundSequences sequences{std::max(0, header.nbEnreg - 1), 0};

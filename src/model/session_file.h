@@ -20,12 +20,16 @@ struct SessionHeader {
 
 // All of these throw platform::FileFault where the file cannot be read or written.
 
-// Writes every sequence row of the grid over what stands at `chemin`, the header last.
+// Writes every sequence row of the grid over what stands at `chemin`, the header last; all of it or nothing.
+// Throws platform::Fault for a list that would be too long to be read again.
 void ecrireSeance(platform::FileSystem& files, const std::string& chemin, const platform::Grid& grille);
 [[nodiscard]] SessionHeader lireEnTete(platform::FileSystem& files, const std::string& chemin);
 // Turns a file of the old records into a present one and removes the old; returns the path of the new one,
 // which always ends in ".tq2".
 [[nodiscard]] std::string convertirAncien(platform::FileSystem& files, const std::string& chemin);
+// Removes what a crash left of saves and conversions in a folder; the files themselves stand as they were.
+void supprimerRestes(platform::FileSystem& files, const std::string& dossier);
+
 struct FoundSequences {
   int announced = 0;  // by the header
   int found = 0;      // in the records behind it; the others are blank rows

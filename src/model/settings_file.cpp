@@ -37,14 +37,13 @@ std::optional<Settings> readSettings(platform::FileSystem& files, const std::str
 }
 
 void writeSettings(platform::FileSystem& files, const std::string& path, const Settings& settings) {
-  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
   Record record(settingsWidth);
   for (std::size_t i = 0; i < settingsBoxCount; ++i) {
     record.set(boxField(i), std::to_string(settings.boxes.at(i)));
   }
   record.set(countdownField, settings.countdown);
   record.set(filler, "");
-  record.write(*file, 1);
+  record.store(files, path);
 }
 
 }  // namespace model

@@ -16,11 +16,13 @@ class Fault : public std::runtime_error {
 class FileFault : public Fault {
  public:
   FileFault(const std::string& action, const std::string& path, const std::string& reason)
-      : Fault("Impossible " + action + " « " + path + " » : " + reason + "."), path_(path) {}
+      : Fault("Impossible " + action + " « " + path + " » : " + reason + "."), path_(path), reason_(reason) {}
   [[nodiscard]] const std::string& path() const { return path_; }
+  [[nodiscard]] const std::string& reason() const { return reason_; }
 
  private:
   std::string path_;
+  std::string reason_;
 };
 
 // What was asked for does not fit into memory.

@@ -2,23 +2,22 @@
 
 #include <vector>
 
-#include "platform/each_on_its_own.h"
+#include "platform/whole_file.h"
 
 namespace platform {
 namespace {
 
 constexpr std::size_t blockSize = 1024 * 1024;
+constexpr std::size_t syncSize = 16 * blockSize;  // so that no sync at the end keeps the rider waiting
 
-bool copyBlocks(FileSystem& files, const std::string& from, const std::string& to,
-                const CopyProgress& progress) {
-  const std::unique_ptr<RandomFile> source = files.open(from, OpenMode::Read);
-  const std::unique_ptr<RandomFile> target = files.open(to, OpenMode::ReadWriteCreate);
-  const std::uint64_t total = source->size();
+bool copyBlocks(RandomFile& source, RandomFile& target, const CopyProgress& progress) {
+  const std::uint64_t total = source.size();
   std::vector<char> block(blockSize);
   for (std::uint64_t done = 0;;) {
-    const std::size_t got = source->readAt(done, block);
-    if (got > 0) target->writeAt(done, {block.data(), got});
+    const std::size_t got = source.readAt(done, block);
+    if (got > 0) target.writeAt(done, {block.data(), got});
     done += got;
+    if (done % syncSize == 0) target.sync();
     if (progress && !progress(done, total)) return false;
     if (got < block.size()) return true;
   }
@@ -28,22 +27,11 @@ bool copyBlocks(FileSystem& files, const std::string& from, const std::string& t
 
 bool copyFile(FileSystem& files, const std::string& from, const std::string& to,
               const CopyProgress& progress) {
-  const std::string partial = to + ".partiel";
-  const auto discard = [&] {
-    if (files.exists(partial)) files.remove(partial);
-  };
-  discard();
-  try {
-    if (copyBlocks(files, from, partial, progress)) {
-      files.rename(partial, to);
-      return true;
-    }
-  } catch (...) {
-    eachOnItsOwn(discard);
-    throw;
-  }
-  discard();
-  return false;
+  const std::unique_ptr<RandomFile> source = files.open(from, OpenMode::Read);
+  WholeFile target(files, to, WholeFile::Start::Empty);
+  if (!copyBlocks(*source, target, progress)) return false;
+  target.commit();
+  return true;
 }
 
 }  // namespace platform

@@ -4,8 +4,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "platform/each_on_its_own.h"
-#include "platform/fault.h"
+#include "platform/whole_file.h"
 
 namespace platform {
 namespace {
@@ -70,15 +69,9 @@ std::vector<char> wavFile(const RecordingFormat& format, std::span<const unsigne
 }
 
 void saveWhole(FileSystem& files, const std::string& path, std::span<const char> bytes) {
-  const std::string temporary = path + ".tmp";
-  try {
-    if (files.exists(temporary)) files.remove(temporary);
-    files.open(temporary, OpenMode::ReadWriteCreate)->writeAt(0, bytes);
-    files.rename(temporary, path);
-  } catch (const Fault&) {
-    eachOnItsOwn([&] { files.remove(temporary); });
-    throw;
-  }
+  WholeFile file(files, path, WholeFile::Start::Empty);
+  file.writeAt(0, bytes);
+  file.commit();
 }
 
 }  // namespace platform

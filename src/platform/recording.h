@@ -29,8 +29,7 @@ struct RecordingFormat {
 [[nodiscard]] std::vector<char> wavFile(const RecordingFormat& format,
                                         std::span<const unsigned char> samples);
 
-// Writes the whole file under a temporary name, then renames it, so that on a full disk the old file stays.
-// Throws FileFault.
+// Replaces the file whole or not at all (WholeFile). Throws FileFault.
 void saveWhole(FileSystem& files, const std::string& path, std::span<const char> bytes);
 
 }  // namespace platform

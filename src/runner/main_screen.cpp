@@ -2,6 +2,7 @@
 
 #include "forms/main_form_words.h"
 #include "forms/sound_settings_words.h"
+#include "model/session_file.h"
 #include "model/training_model.h"
 
 namespace runner {
@@ -44,7 +45,8 @@ void MainScreen::makeFolders() {
   for (const std::string& folder :
        {folder_, state_.dossierProgramme + "chronodat", state_.dossierProgramme + "annonces",
         state_.dossierProgramme + "ambiances", state_.dossierProgramme + "Vid"}) {
-    if (!context_.outside.files.exists(folder)) context_.outside.files.makeFolder(folder);
+    context_.outside.files.makeFolder(folder);
+    model::supprimerRestes(context_.outside.files, folder + "/");
   }
 }
 

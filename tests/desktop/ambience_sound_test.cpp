@@ -356,7 +356,7 @@ TEST_F(Ambience, AnImportIsGivenUpByItsButton) {
   QTimer hand;
   QObject::connect(&hand, &QTimer::timeout, [&] {
     auto& givingUp = widget<QAbstractButton>("EnrUneAnnonce", "MyButton16");
-    if (!givingUp.isVisible() || !std::filesystem::exists(at("ambiances/long.mp3.partiel"))) return;
+    if (!givingUp.isVisible() || std::filesystem::is_empty(at("ambiances"))) return;
     copying = true;
     QTest::mouseClick(&givingUp, Qt::LeftButton);
   });

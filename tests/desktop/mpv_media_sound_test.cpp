@@ -11,7 +11,7 @@
 #include "desktop/comes.h"
 #include "desktop/loudspeaker.h"
 #include "devices/mpv_media.h"
-#include "platform/disk_file_system.h"
+#include "disk/disk_file_system.h"
 #include "platform/media_parser.h"
 
 namespace devices {
@@ -23,7 +23,7 @@ using support::comes;
 struct MpvMediaTest : testing::Test {
   const std::string folder = (fs::temp_directory_path() / ("médias & " + std::to_string(getpid()))).string();
   const std::string piece = folder + "/un \"air\" alias b parent 1 🎵.wav";
-  platform::DiskFileSystem files;
+  disk::DiskFileSystem files;
   PulseConnection connection{"Ventoria"};
   PulseOutputLevel level{connection};
   MpvMedia media{connection, level, files};

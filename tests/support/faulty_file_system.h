@@ -37,6 +37,8 @@ class FaultyFileSystem final : public platform::FileSystem {
   }
   void remove(const std::string& path) override { inner_.remove(path); }
   void rename(const std::string& from, const std::string& to) override { inner_.rename(from, to); }
+  [[nodiscard]] std::string targetOf(const std::string& path) const override { return inner_.targetOf(path); }
+  void copyRights(const std::string& from, const std::string& to) override { inner_.copyRights(from, to); }
 
  private:
   class File final : public platform::RandomFile {
@@ -50,6 +52,7 @@ class FaultyFileSystem final : public platform::FileSystem {
       beforeWrite_();
       inner_->writeAt(offset, bytes);
     }
+    void sync() override { inner_->sync(); }
     [[nodiscard]] std::uint64_t size() const override { return inner_->size(); }
 
    private:

@@ -34,6 +34,8 @@ class MemoryFileSystem final : public platform::FileSystem {
   }
   std::unique_ptr<RandomFile> open(const std::string& path, OpenMode mode) override {
     calls.push_back((mode == OpenMode::Read ? "read " : "write ") + path);
+    if (mode == OpenMode::CreateNew && files.contains(path))
+      throw platform::FileFault("d'ouvrir", path, "un fichier de ce nom existe déjà");
     if (!files.contains(path)) {
       if (mode == OpenMode::Read) throw platform::FileFault("d'ouvrir", path, "fichier introuvable");
       put(path, {});
@@ -69,6 +71,9 @@ class MemoryFileSystem final : public platform::FileSystem {
     files.insert(std::move(moved));
   }
 
+  [[nodiscard]] std::string targetOf(const std::string& path) const override { return path; }
+  void copyRights(const std::string&, const std::string&) override {}
+
  private:
   class File final : public RandomFile {
    public:
@@ -81,6 +86,7 @@ class MemoryFileSystem final : public platform::FileSystem {
       if (bytes_->size() < offset + bytes.size()) bytes_->resize(offset + bytes.size());
       std::copy(bytes.begin(), bytes.end(), bytes_->begin() + static_cast<std::ptrdiff_t>(offset));
     }
+    void sync() override {}
     [[nodiscard]] std::uint64_t size() const override { return bytes_->size(); }
 
    private:

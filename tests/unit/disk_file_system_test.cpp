@@ -1,4 +1,4 @@
-#include "platform/disk_file_system.h"
+#include "disk/disk_file_system.h"
 
 #include <gmock/gmock.h>
 #include <unistd.h>
@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "platform/fault.h"
+#include "platform/whole_file.h"
 #include "support/memory_file_system.h"
 
 namespace {
@@ -24,8 +25,14 @@ class DiskFileSystemTest : public testing::Test {
   ~DiskFileSystemTest() override { fs::remove_all(folder_); }
   [[nodiscard]] std::string in(const std::string& name) const { return (folder_ / name).string(); }
 
+  void save(const std::string& path) {
+    platform::WholeFile file(disk_, path, platform::WholeFile::Start::OldBytes);
+    file.writeAt(0, std::string("new"));
+    file.commit();
+  }
+
   fs::path folder_ = fs::temp_directory_path() / ("ventoria-disk-" + std::to_string(getpid()));
-  platform::DiskFileSystem disk_;
+  disk::DiskFileSystem disk_;
 };
 
 // The real disk and the one in memory must agree, or tests with the latter prove nothing.
@@ -65,9 +72,41 @@ TEST_F(DiskFileSystemTest, WritesAndReadsAnywhereAsInMemory) {
   writesAndReadsAnywhere(memory, "/deep/er");
 }
 
+TEST_F(DiskFileSystemTest, ReplacesAFileThroughItsLinksWithItsRights) {
+  disk_.makeFolder(in("far"));
+  std::ofstream(in("far/real")) << "old and longer";
+  fs::permissions(in("far/real"), fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_symlink("real", in("far/second"));
+  fs::create_symlink(in("far/second"), in("first"));
+  fs::create_symlink("far/not yet", in("fresh"));
+  save(in("first"));
+  save(in("fresh"));
+  std::string bytes(20, '?');
+  EXPECT_EQ(disk_.open(in("far/real"), OpenMode::Read)->readAt(0, bytes), 14U);
+  EXPECT_THAT(bytes, testing::StartsWith("new and longer?"));
+  EXPECT_EQ(fs::status(in("far/real")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_TRUE(fs::is_symlink(in("first")));
+  EXPECT_EQ(disk_.open(in("far/not yet"), OpenMode::Read)->size(), 3U);
+  // Without a commit nothing remains; what a crash left goes, also beside what a link leads to.
+  platform::WholeFile(disk_, in("far/real"), platform::WholeFile::Start::Empty).writeAt(0, std::string("x"));
+  EXPECT_THAT(disk_.list(in("far")), ElementsAre("not yet", "real", "second"));
+  for (const char* name : {".ventoria-7.partiel", "far/.ventoria-1.partiel", "far/.ventoria"})
+    std::ofstream(in(name)) << "x";
+  platform::removeLeftovers(disk_, folder_.string());
+  EXPECT_THAT(disk_.list(folder_.string()), ElementsAre("first", "fresh"));
+  EXPECT_THAT(disk_.list(in("far")), ElementsAre(".ventoria", "not yet", "real", "second"));
+}
+
+// A call that a signal interrupts without end is given up.
+TEST_F(DiskFileSystemTest, EndsWhereEachAttemptIsInterrupted) {
+  const disk::DiskFileSystem interrupted([](std::string_view, std::size_t&) { return EINTR; });
+  EXPECT_THROW(static_cast<void>(interrupted.list(folder_.string())), FileFault);
+}
+
 TEST_F(DiskFileSystemTest, TellsFaultsInFrench) {
   std::ofstream(in("plain")) << "x";
   disk_.makeFolder(in("empty"));
+  fs::create_symlink("round", in("round"));
   const std::pair<std::function<void()>, std::string> cases[]{
       {[&] { static_cast<void>(disk_.open(in("no"), OpenMode::Read)); },
        "d'ouvrir « " + in("no") + " » : fichier introuvable."},
@@ -83,6 +122,10 @@ TEST_F(DiskFileSystemTest, TellsFaultsInFrench) {
       {[&] { disk_.makeFolder(in("plain/sub")); }, "de créer le dossier"},
       {[&] { disk_.remove(in("no")); }, "de supprimer « " + in("no") + " » : fichier introuvable."},
       {[&] { disk_.rename(in("no"), in("yes")); }, "de renommer"},
+      {[&] { save("/dev/full"); }, "d'écrire dans « /dev/full » : ce n'est pas un fichier."},
+      {[&] { save(in("empty")); }, "c'est un dossier"},
+      {[&] { save(in("none/x")); }, "d'écrire dans « " + in("none/x") + " » : fichier introuvable."},
+      {[&] { save(in("round")); }, "ses liens tournent en rond"},
   };
   for (const auto& [act, told] : cases) {
     try {

@@ -9,7 +9,6 @@ namespace {
 
 namespace column = model::column;
 using support::session;
-using Call = support::FaultyFileSystem::Call;
 
 // Two finished rows, of five and of one seconds.
 struct Editor : testing::Test {
@@ -35,23 +34,6 @@ TEST_F(Editor, GoesWithItsRowAndEndsWhereAnotherIsSelected) {
     EXPECT_FALSE(box->visible) << col;
     EXPECT_EQ(form.ListView1.text(3, column::duration), "00:00:01");
   }
-}
-
-TEST_F(Editor, AFullDiskAtAnyWriteKeepsTheListAndTellsWhatIsLost) {
-  const std::string save = "answer a.tq2\nanswer ok\npress CreerCycle.Command6\njournal";
-  for (const bool replacing : {false, true}) {
-    if (replacing) program.memory.put("/d/chronodat/a.tq2", "9" + std::string(1349, ' '));
-    for (const int write : {1, 2, 3}) {
-      program.disk.failFrom(Call::Write, write);
-      EXPECT_THAT(program.run(save),
-                  testing::HasSubstr(replacing ? "en partie remplacée" : "disque insuffisant"));
-      EXPECT_EQ(program.list().rowCount(), 3);
-      EXPECT_EQ(model::lireEnTete(program.memory, "/d/chronodat/a.tq2").nbEnreg, replacing ? 9 : 0);
-    }
-  }
-  program.disk.heal();
-  program.run(save);
-  EXPECT_EQ(program.list().rowCount(), 2);
 }
 
 TEST_F(Editor, ADurationTakesEntriesOfItsListsAloneHoweverItsBoxIsLeft) {
