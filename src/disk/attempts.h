@@ -8,14 +8,16 @@
 
 namespace disk {
 
-// Stands before each call, for a test: it may fail the call by an error number, or lower the bytes to be moved.
+// Stands before each call, for a test: it may fail the call by an error number, or lower the bytes to be
+// moved.
 using BeforeCall = std::function<int(std::string_view call, std::size_t& bytes)>;
 
 class Attempts {
  public:
   explicit Attempts(BeforeCall before) : before_(std::move(before)) {}
 
-  // What a call returns that moves bytes: below 0 it failed, and errno tells why. `call` gets the bytes that it may move.
+  // What a call returns that moves bytes: below 0 it failed, and errno tells why. `call` gets the bytes that
+  // it may move.
   template <class Call>
   auto move(std::string_view name, std::size_t bytes, const Call& call) const {
     constexpr int most = 1000;  // a call that is always interrupted would else never end

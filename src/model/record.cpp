@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/windows1252.h"
+#include "platform/each_on_its_own.h"
 #include "platform/whole_file.h"
 
 namespace model {
@@ -39,14 +40,25 @@ void Record::write(platform::RandomFile& file, std::uint64_t number) const {
 }
 
 void Record::store(platform::FileSystem& files, const std::string& path) const {
-  if (!files.exists(path)) {
-    platform::WholeFile file(files, path, platform::WholeFile::Start::Empty);
-    write(file, 1);
-    return file.commit();
+  std::string old(bytes_.size(), '\0');
+  if (files.exists(path)) {
+    const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
+    if (file->readAt(0, old) == old.size()) return overwrite(*file, old);
   }
-  const auto file = files.open(path, platform::OpenMode::ReadWriteCreate);
-  write(*file, 1);
-  file->sync();
+  platform::WholeFile file(files, path, platform::WholeFile::Start::Empty);
+  write(file, 1);
+  file.commit();
+}
+
+// A write can be cut short, and the part that was written is then the only one that can be written back.
+void Record::overwrite(platform::RandomFile& file, const std::string& old) const {
+  try {
+    write(file, 1);
+  } catch (const platform::FileFault&) {
+    platform::eachOnItsOwn([&] { file.writeAt(0, old); });
+    throw;
+  }
+  file.sync();
 }
 
 }  // namespace model

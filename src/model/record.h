@@ -33,11 +33,13 @@ class Record {
   // Record `number`, from 1; what the file lacks stays character code 0.
   void read(platform::RandomFile& file, std::uint64_t number);
   void write(platform::RandomFile& file, std::uint64_t number) const;
-  // As the first record of a file: over the one there by one write that reaches the disk; a missing file is
-  // made whole, because an empty one would read as a record of nothing.
+  // As the first record of a file: over the one there by one write that reaches the disk; a file that has no
+  // whole one is replaced, because half a record would be read as one.
   void store(platform::FileSystem& files, const std::string& path) const;
 
  private:
+  void overwrite(platform::RandomFile& file, const std::string& old) const;
+
   std::string bytes_;
 };
 

@@ -101,7 +101,8 @@ void removeLeftovers(FileSystem& files, const std::string& folder) {
   const std::string inside = folder.ends_with('/') ? folder : folder + "/";
   std::set<std::string> folders{inside};
   eachOnItsOwn([&] {
-    for (const std::string& name : files.list(folder)) folders.insert(folderOf(files.targetOf(inside + name)));
+    for (const std::string& name : files.list(folder))
+      folders.insert(folderOf(files.targetOf(inside + name)));
   });
   for (const std::string& each : folders) {
     eachOnItsOwn([&] {

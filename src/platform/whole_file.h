@@ -1,4 +1,5 @@
-// A file that is replaced whole or not at all: written beside its place, and put there once it lies on the disk.
+// A file that is replaced whole or not at all: written beside its place, and put there once it lies on the
+// disk.
 #pragma once
 
 #include <memory>

@@ -1,5 +1,5 @@
-// Every write of the program on the real disk, each of its system calls failing once in each way: afterwards each
-// file is the old or the new one, the rider is told what is not done, and the program goes on.
+// Every write of the program on the real disk, each of its system calls failing once in each way: afterwards
+// each file is the old or the new one, the rider is told what is not done, and the program goes on.
 #include <gmock/gmock.h>
 #include <unistd.h>
 
@@ -38,7 +38,10 @@ class FaultyCalls {
     failed_ = call;
     if (fault_ == Fault::Short) bytes = bytes > 1 ? bytes / 2 : bytes;
     dead_ = fault_ == Fault::Dies;
-    return fault_ == Fault::NoSpace ? ENOSPC : fault_ == Fault::Interrupted ? EINTR : fault_ == Fault::Short ? 0 : EIO;
+    return fault_ == Fault::NoSpace       ? ENOSPC
+           : fault_ == Fault::Interrupted ? EINTR
+           : fault_ == Fault::Short       ? 0
+                                          : EIO;
   }
 
  private:
@@ -71,7 +74,8 @@ class EveryFault : public testing::TestWithParam<Write> {
     put("ailleurs/Lien.tq2", support::session(1, 1));
     put("ailleurs/m.mp3", std::string(3000, 'm'));
     if (!used) return;
-    for (const char* folder : {"chronodat", "annonces", "ambiances", "Vid"}) fs::create_directories(home_ / "d" / folder);
+    for (const char* folder : {"chronodat", "annonces", "ambiances", "Vid"})
+      fs::create_directories(home_ / "d" / folder);
     put("d/par.tq3", support::settingsOff + "more");
     put("d/ParPerso.tq1", "30 Masculin20006051" + std::string(21, ' '));
     put("d/chronodat/Longue.tq2", support::session(9, 9));
@@ -98,7 +102,8 @@ class EveryFault : public testing::TestWithParam<Write> {
 };
 
 struct RealProgram {
-  explicit RealProgram(const fs::path& folder) : home(folder.string()), session({}, (folder / "d").string(), out, nullptr, &disk) {}
+  explicit RealProgram(const fs::path& folder)
+      : home(folder.string()), session({}, (folder / "d").string(), out, nullptr, &disk) {}
   std::string run(const std::string& commands) {
     out.str({});
     std::istringstream lines(commands);
@@ -111,7 +116,8 @@ struct RealProgram {
     std::vector<std::string> messages;
     std::istringstream lines(run("journal dialog\nget EnrUneAnnonce.Label14.caption"));
     for (std::string line; std::getline(lines, line);) {
-      if (line.find("Erreur est Survenue") != std::string::npos || line.find("n'a pas pu") != std::string::npos)
+      if (line.find("Erreur est Survenue") != std::string::npos ||
+          line.find("n'a pas pu") != std::string::npos)
         messages.push_back(line);
     }
     return messages;
@@ -119,7 +125,8 @@ struct RealProgram {
 
   std::string home;
   FaultyCalls calls;
-  disk::DiskFileSystem disk{[this](std::string_view call, std::size_t& bytes) { return calls.before(call, bytes); }};
+  disk::DiskFileSystem disk{
+      [this](std::string_view call, std::size_t& bytes) { return calls.before(call, bytes); }};
   std::ostringstream out;
   console::Session session;
 };
@@ -151,10 +158,12 @@ TEST_P(EveryFault, LeavesOldOrNewAndIsTold) {
 
   const auto oldOrNew = [&](const Files& now) {
     for (const auto& [path, bytes] : now) {
-      const bool known = (old.contains(path) && old.at(path) == bytes) || (wanted.contains(path) && wanted.at(path) == bytes);
+      const bool known = (old.contains(path) && old.at(path) == bytes) ||
+                         (wanted.contains(path) && wanted.at(path) == bytes);
       EXPECT_TRUE(known || isLeftover(path)) << path << ", " << bytes.size() << " bytes";
     }
-    for (const auto& [path, bytes] : old) EXPECT_TRUE(now.contains(path) || !wanted.contains(path)) << path << " is gone";
+    for (const auto& [path, bytes] : old)
+      EXPECT_TRUE(now.contains(path) || !wanted.contains(path)) << path << " is gone";
   };
   for (int number = 1; number <= calls; ++number) {
     for (const Fault fault : faults) {
@@ -162,8 +171,8 @@ TEST_P(EveryFault, LeavesOldOrNewAndIsTold) {
       begin(run);
       run.calls.arm(fault, number);
       const bool started = write(run);
-      SCOPED_TRACE(run.calls.failed() + ", call " + std::to_string(number) + " of " + std::to_string(calls) + ", fault " +
-                   std::to_string(static_cast<int>(fault)));
+      SCOPED_TRACE(run.calls.failed() + ", call " + std::to_string(number) + " of " + std::to_string(calls) +
+                   ", fault " + std::to_string(static_cast<int>(fault)));
       oldOrNew(files());
       const bool dead = run.calls.dead();
       run.calls.heal();
@@ -201,11 +210,13 @@ INSTANTIATE_TEST_SUITE_P(
         Write{"NewSession", editor, "answer Neuve.tq2\npress CreerCycle.Command6"},
         Write{"SessionOverALonger", editor, "answer Longue.tq2\nanswer ok\npress CreerCycle.Command6"},
         Write{"SessionThroughALink", editor, "answer Lien.tq2\nanswer ok\npress CreerCycle.Command6"},
-        Write{"Conversion", "press MainForm.mnCreat", "answer Ancienne.tq2\nanswer ok\npress CreerCycle.MyButton4"},
+        Write{"Conversion", "press MainForm.mnCreat",
+              "answer Ancienne.tq2\nanswer ok\npress CreerCycle.MyButton4"},
         Write{"Settings", "press MainForm.mnsons\ntick MainForm.Check3 1", "press MainForm.MyButton7"},
         Write{"Figures", "set CreerCycle.Combo7.text 41", "call CreerCycle.MyButton40"},
         Write{"Announcement", take, "answer Bravo\nanswer ok\npress EnrUneAnnonce.Command1"},
-        Write{"Import", "press MainForm.mnEnrAnnVocale", "answer HOME/ailleurs/m.mp3\ncall EnrUneAnnonce.MyButton4"}),
+        Write{"Import", "press MainForm.mnEnrAnnVocale",
+              "answer HOME/ailleurs/m.mp3\ncall EnrUneAnnonce.MyButton4"}),
     [](const auto& tested) { return std::string(tested.param.what); });
 
 }  // namespace
