@@ -27,7 +27,7 @@ void Record::set(const Field& field, std::string_view text) {
 }
 
 void Record::blank(std::span<const Field> fields) {
-  for (const Field& field : fields) set(field, "");
+  for (const Field& field : fields) bytes_.replace(field.offset, field.width, field.width, ' ');
 }
 
 void Record::read(platform::RandomFile& file, std::uint64_t number) {

@@ -85,10 +85,16 @@ int passesOf(const SessionHeader& header) {
 }
 
 SequenceTexts textsOf(const Record& record) {
-  std::string announcement = record.get(field::annonce);
+  const std::string sequence = record.trimmed(field::sequence);
+  std::string announcement;  // of other rows nobody reads it
+  if (sequence == vocalAnnouncement) announcement = record.get(field::annonce);
   if (announcement.find('\0') != std::string::npos) announcement = record.trimmed(field::annonce);
-  return {record.trimmed(field::sequence), record.trimmed(field::cadence), record.trimmed(field::plateau),
-          record.trimmed(field::braquet),  record.trimmed(field::duree),   announcement,
+  return {sequence,
+          record.trimmed(field::cadence),
+          record.trimmed(field::plateau),
+          record.trimmed(field::braquet),
+          record.trimmed(field::duree),
+          announcement,
           record.trimmed(field::freqCard)};
 }
 

@@ -32,8 +32,8 @@ class Bytes {
     return static_cast<std::int16_t>(at(position) | at(position + 1) << 8);
   }
   [[nodiscard]] std::string text(std::uint64_t position, std::size_t size) {
-    std::string text;
-    for (std::size_t i = 0; i < size; ++i) text.push_back(static_cast<char>(at(position + i)));
+    std::string text(size, '\0');
+    file_.readAt(position - 1, text);
     return text;
   }
 
@@ -65,17 +65,15 @@ Found readAvi(Bytes& bytes) {
 
 // The sequence header: a mark, then twelve bits each of width and height.
 Found scanMpeg(Bytes& bytes) {
-  constexpr std::uint64_t bound = 30001;
-  Found found{"MPEG ", 0xFFF, 0xFFF};
-  for (std::uint64_t position = 1; position < bound; ++position) {
-    if (bytes.text(position, 4) != std::string_view("\x00\x00\x01\xB3", 4)) continue;
-    const int high = bytes.at(position + 4);
-    const int middle = bytes.at(position + 5);
-    found.width = high << 4 | middle >> 4;
-    found.height = (middle & 0xF) << 8 | bytes.at(position + 6);
-    break;
-  }
-  return found;
+  constexpr std::size_t bound = 30000;  // positions at which the mark may begin
+  constexpr std::string_view mark("\x00\x00\x01\xB3", 4);
+  const std::string start = bytes.text(1, bound + mark.size() - 1);
+  const std::size_t at = start.find(mark);
+  if (at == std::string::npos) return {"MPEG ", 0xFFF, 0xFFF};
+  const std::uint64_t size = at + 1 + mark.size();
+  const int high = bytes.at(size);
+  const int middle = bytes.at(size + 1);
+  return {"MPEG ", high << 4 | middle >> 4, (middle & 0xF) << 8 | bytes.at(size + 2)};
 }
 
 // The header names the codec ("WMV", "MP4" and the like) twelve bytes behind the picture's size. A match

@@ -121,6 +121,28 @@ TEST_F(SessionFile, ACountBeyondTheFileGivesEmptyRowsAndDamageIsRefused) {
   EXPECT_EQ(grid_.rowCount(), before);
 }
 
+TEST_F(SessionFile, TheLongestListIsReadAgainAndAnyLongerIsNotWritten) {
+  put(header(1441, "20"));
+  ajouterSeance(files_, path_, grid_);
+  EXPECT_EQ(grid_.rowCount(), 1 + 20 * 1441);
+  EXPECT_THROW(ajouterSeance(files_, path_, grid_), platform::Fault) << "a list is no longer by two files";
+  ecrireSeance(files_, path_, grid_);
+  const std::string written = *files_.files.at(path_);
+  grid_.setText(1, column::times, "2");
+  EXPECT_THROW(ecrireSeance(files_, path_, grid_), platform::Fault);
+  EXPECT_EQ(*files_.files.at(path_), written);
+  grid_.clearRows();
+  EXPECT_EQ(ajouterSeance(files_, path_, grid_).announced, 28800);
+  for (const auto& [count, times] : {std::pair{1442, "20"}, {28802, "0"}, {14402, "1"}}) {
+    grid_.clearRows();
+    put(header(count, times));
+    EXPECT_THROW(ajouterSeance(files_, path_, grid_), platform::Fault) << count;
+    put(header(count, times).substr(0, 84));
+    EXPECT_THROW((void)convertirAncien(files_, path_), platform::Fault) << count;
+    EXPECT_EQ(grid_.rowCount(), 0);
+  }
+}
+
 TEST_F(SessionFile, AnOldFileIsConvertedInPlace) {
   const auto old = [](const std::string& text) { return text.substr(0, 84); };
   std::string oldHeader = old(header(3, "2"));
