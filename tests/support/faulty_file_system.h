@@ -13,7 +13,7 @@ namespace support {
 
 class FaultyFileSystem final : public platform::FileSystem {
  public:
-  enum class Call { Open, Write, MakeFolder };
+  enum class Call { Open, Write, MakeFolder, List };
 
   explicit FaultyFileSystem(platform::FileSystem& inner) : inner_(inner) {}
 
@@ -33,6 +33,7 @@ class FaultyFileSystem final : public platform::FileSystem {
     inner_.makeFolder(path);
   }
   [[nodiscard]] std::vector<std::string> list(const std::string& folder) const override {
+    failIfDue(Call::List, "de lire le dossier", folder, "accès refusé");
     return inner_.list(folder);
   }
   void remove(const std::string& path) override { inner_.remove(path); }
@@ -60,7 +61,7 @@ class FaultyFileSystem final : public platform::FileSystem {
     std::function<void()> beforeWrite_;
   };
 
-  void failIfDue(Call call, const char* action, const std::string& path, const char* reason) {
+  void failIfDue(Call call, const char* action, const std::string& path, const char* reason) const {
     if (call != failing_ || left_ < 0) return;
     if (left_ > 0) --left_;
     if (left_ == 0) throw platform::FileFault(action, path, reason);
@@ -68,7 +69,7 @@ class FaultyFileSystem final : public platform::FileSystem {
 
   platform::FileSystem& inner_;
   Call failing_ = Call::Open;
-  int left_ = -1;
+  mutable int left_ = -1;
 };
 
 }  // namespace support

@@ -1,6 +1,7 @@
 #include "disk/disk_file_system.h"
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -107,6 +108,7 @@ TEST_F(DiskFileSystemTest, TellsFaultsInFrench) {
   std::ofstream(in("plain")) << "x";
   disk_.makeFolder(in("empty"));
   fs::create_symlink("round", in("round"));
+  ASSERT_EQ(mkfifo(in("pipe").c_str(), 0600), 0);
   const std::pair<std::function<void()>, std::string> cases[]{
       {[&] { static_cast<void>(disk_.open(in("no"), OpenMode::Read)); },
        "d'ouvrir « " + in("no") + " » : fichier introuvable."},
@@ -122,7 +124,7 @@ TEST_F(DiskFileSystemTest, TellsFaultsInFrench) {
       {[&] { disk_.makeFolder(in("plain/sub")); }, "de créer le dossier"},
       {[&] { disk_.remove(in("no")); }, "de supprimer « " + in("no") + " » : fichier introuvable."},
       {[&] { disk_.rename(in("no"), in("yes")); }, "de renommer"},
-      {[&] { save("/dev/full"); }, "d'écrire dans « /dev/full » : ce n'est pas un fichier."},
+      {[&] { save(in("pipe")); }, "d'écrire dans « " + in("pipe") + " » : ce n'est pas un fichier."},
       {[&] { save(in("empty")); }, "c'est un dossier"},
       {[&] { save(in("none/x")); }, "d'écrire dans « " + in("none/x") + " » : fichier introuvable."},
       {[&] { save(in("round")); }, "ses liens tournent en rond"},

@@ -35,6 +35,22 @@ TEST(Start, MakesItsFoldersAndTellsWhereOneCannotBeMade) {
               testing::UnorderedElementsAre("/d", "/d/chronodat", "/d/annonces", "/d/ambiances", "/d/Vid"));
 }
 
+TEST(Start, GoesOnWithoutAFolderThatCannotBeListedAndTellsOfItOnce) {
+  SimulatedProgram program;
+  program.disk.failFrom(FaultyFileSystem::Call::List, 1);
+  EXPECT_TRUE(program.start());
+  const std::string told = program.run("journal fault");
+  for (const char* folder : {"chronodat", "annonces", "ambiances", "Vid"}) {
+    const std::string text = std::string("Impossible de lire le dossier « /d/") + folder;
+    ASSERT_THAT(told, HasSubstr(text));
+    EXPECT_EQ(told.find(text), told.rfind(text)) << told;
+  }
+  program.disk.heal();
+  program.memory.put("/d/ambiances/a.mp3", "a");
+  program.screens().announcements.File1.refresh();
+  EXPECT_EQ(program.screens().announcements.File1.lines().size(), 1U);
+}
+
 TEST(Rides, PassesBeyondTheNumberedOnesHaveAPromptOfTheirOwn) {
   for (const auto& [pass, name] : {std::pair{1, "seance1.wav"}, {20, "seance20.wav"}, {21, "nvseance.wav"}}) {
     EXPECT_EQ(runner::passSound(pass), name);
