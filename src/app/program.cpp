@@ -113,6 +113,18 @@ std::vector<std::string> Program::listed(const std::string& folder) {
   return names;
 }
 
+void Program::end() {
+  loop_.guard([this] { logic_->editorPage.keepDraft(); });
+}
+
+void Program::endAtOnce() {
+  end();
+  loop_.guard([this] {
+    if (state_.ecranVeilleActif == "oui") outside_.screenSaver.setActive(true);
+  });
+  loop_.quit();
+}
+
 bool Program::start() {
   try {
     logic_->mainScreen.demarrerProgramme();

@@ -34,6 +34,11 @@ class Program {
   // The program's start, as the rider sees it: folders, settings, first prompt, the idle screen.
   // A folder that cannot be made is told to the rider and gives false: the front ends with status 1.
   [[nodiscard]] bool start();
+  // What every end of the program has to do once, however it came: keeps a list that is not saved.
+  void end();
+  // An end that the rider has not asked for: his session, or the machine, is being closed. Waits and sounds
+  // return at once, nothing is asked, and the desktop gets back what a ride had taken.
+  void endAtOnce();
 
   [[nodiscard]] forms::Screens& screens() { return screens_; }
   [[nodiscard]] platform::EventLoop& loop() { return loop_; }

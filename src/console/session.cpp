@@ -42,7 +42,11 @@ Session::Session(const Options& options, const std::string& folder, std::ostream
 }
 
 int Session::run(std::istream& in, std::ostream& errors) {
-  if (program_.start()) return interpreter_.run(in);
+  if (program_.start()) {
+    const int status = interpreter_.run(in);
+    program_.end();
+    return status;
+  }
   journal_.print(errors, {});
   return 1;
 }

@@ -1,7 +1,7 @@
 #include "desktop/desktop_program.h"
 
 #include <QAbstractEventDispatcher>
-#include <QCoreApplication>
+#include <QApplication>
 #include <functional>
 #include <utility>
 
@@ -19,7 +19,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
       level_(connection_),
       sound_(connection_, level_,
              {.whileBlocking = [this] { repaint(); },
-              .giveUp = [this] { return program_.loop().quitting(); },
+              .giveUp = [this] { return program_.loop().quitting() || EndSignals::raised(); },
               .onSpeaking =
                   [this](const platform::SoundClip* clip) {
                     windows_.speak(clip != nullptr ? toQt(clip->spoken) : QString());
@@ -41,6 +41,7 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           &DesktopProgram::endWhenQuitting);
   windows_.window().onClose([this] { askToClose(); });
+  obeyTheSystem();
   windows_.saveTakesBy([this](const std::string& path) { mpv_.save("capture", path); });
 }
 
@@ -59,6 +60,15 @@ void DesktopProgram::wake() {
   window.show();
   window.raise();
   window.activateWindow();
+}
+
+// A logout asks nothing of the rider: his list is kept, and he is asked about it at the next start.
+void DesktopProgram::obeyTheSystem() {
+  connect(&endSignals_, &EndSignals::asked, this, [this] {
+    program_.endAtOnce();
+    QCoreApplication::exit(0);
+  });
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { program_.end(); });
 }
 
 void DesktopProgram::endWhenQuitting() {

@@ -6,6 +6,7 @@
 
 #include "app/program.h"
 #include "desktop/dbus_screen_saver.h"
+#include "desktop/end_signals.h"
 #include "desktop/loop_alarm.h"
 #include "desktop/qt_clock.h"
 #include "desktop/qt_dialogs.h"
@@ -34,9 +35,12 @@ class DesktopProgram final : public QObject {
   // Brings the window to the front, after a second launch.
   void wake();
   void addSession(const std::string& path) { windows_.addSession(path); }
+  // To be called once Qt's loop has ended, for whatever reason.
+  void end() { program_.end(); }
 
  private:
   void endWhenQuitting();
+  void obeyTheSystem();
   void askToClose();
   void repaint();
   void repaintBlocking();
@@ -56,6 +60,7 @@ class DesktopProgram final : public QObject {
   app::Program program_;
   Windows windows_;
   LoopAlarm alarm_{program_.loop()};
+  EndSignals endSignals_;
   bool closing_ = false;
   bool inputHeld_ = false;
 };

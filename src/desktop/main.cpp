@@ -93,5 +93,7 @@ int main(int count, char** words) {
   follow(wishes, program.appearance());
   if (!program.start()) return 1;
   if (!session.isEmpty()) program.addSession(widgets::fromQt(session));
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  program.end();
+  return status;
 }

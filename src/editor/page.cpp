@@ -13,8 +13,9 @@ Page::Page(const context::Context& context, voice::Voice& voice)
       editor_(context.screens.editor),
       calculator_(context),
       lines_(context),
+      drafts_(context),
       cells_(context, calculator_),
-      files_(context, voice, lines_),
+      files_(context, voice, lines_, drafts_),
       listWatch_(context),
       history_(context) {
   editor_.onLoad.handle([this] { open(); });
@@ -37,6 +38,7 @@ void Page::open() {
   setTips();
   calculator_.load([this] { editor_.MyButton2.click(); });
   history_.clear();
+  drafts_.open();
 }
 
 void Page::listFiles() {

@@ -3,6 +3,7 @@
 
 #include "context/context.h"
 #include "editor/cell_editor.h"
+#include "editor/drafts.h"
 #include "editor/history.h"
 #include "editor/lines.h"
 #include "editor/list_watch.h"
@@ -16,6 +17,9 @@ class Page {
  public:
   Page(const context::Context& context, voice::Voice& voice);
 
+  // Writes a list that is not saved where the next start finds it.
+  void keepDraft() { drafts_.keepNow(); }
+
  private:
   void open();
   void listFiles();
@@ -28,6 +32,7 @@ class Page {
   forms::CreerCycle& editor_;
   heartrate::Calculator calculator_;
   Lines lines_;
+  Drafts drafts_;
   CellEditor cells_;
   SessionFiles files_;
   ListWatch listWatch_;

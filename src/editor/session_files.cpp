@@ -22,10 +22,11 @@ std::string timeOfDay(const platform::Clock& clock) {
 
 }  // namespace
 
-SessionFiles::SessionFiles(const context::Context& context, voice::Voice& voice, Lines& lines)
+SessionFiles::SessionFiles(const context::Context& context, voice::Voice& voice, Lines& lines, Drafts& drafts)
     : context_(context),
       voice_(voice),
       lines_(lines),
+      drafts_(drafts),
       editor_(context.screens.editor),
       main_(context.screens.main),
       state_(context.state) {
@@ -73,7 +74,10 @@ void SessionFiles::add(const std::string& chosen) {
       "Ventoria avec (" + *name + ") (Durée : " + model::formatTime(state_.dureeTotale) + ")";
   const std::optional<std::string> path = presentVersion(chosen);
   if (!path) return;
-  reportMissingRows(*path, model::ajouterSeance(context_.outside.files, *path, editor_.ListView1));
+  const bool alone = drafts_.listIsNew();
+  const model::FoundSequences found = model::ajouterSeance(context_.outside.files, *path, editor_.ListView1);
+  if (alone) drafts_.listIsSaved();
+  reportMissingRows(*path, found);
   editor_.Timer4.enabled = true;
   voice_.attendre(1);
   recalerColonnes(editor_);
@@ -119,6 +123,7 @@ void SessionFiles::enregistrerListe() {
   const std::optional<std::string> path = askPath();
   if (!path) return;
   write(*path);
+  drafts_.listIsSaved();
   editor_.File2.refresh();
   lines_.creerSeance();
 }

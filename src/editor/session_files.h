@@ -5,6 +5,7 @@
 #include <string>
 
 #include "context/context.h"
+#include "editor/drafts.h"
 #include "editor/lines.h"
 #include "model/session_file.h"
 #include "voice/voice.h"
@@ -13,7 +14,7 @@ namespace editor {
 
 class SessionFiles {
  public:
-  SessionFiles(const context::Context& context, voice::Voice& voice, Lines& lines);
+  SessionFiles(const context::Context& context, voice::Voice& voice, Lines& lines, Drafts& drafts);
 
  private:
   void ajouterUneSeance();
@@ -32,6 +33,7 @@ class SessionFiles {
   context::Context context_;
   voice::Voice& voice_;
   Lines& lines_;
+  Drafts& drafts_;
   forms::CreerCycle& editor_;
   forms::MainForm& main_;
   model::SharedState& state_;

@@ -39,6 +39,12 @@ struct CreerCycle : platform::Form {
                  "Paramétrages ou Calculs Intéractifs pour les Fréquences Cardiaques",
                  {.visible = false}};  // the heart-rate calculator
 
+  // What an earlier run left without saving it, and the way to take it up.
+  Frame DraftBar{*this, "DraftBar", "", {.visible = false}};
+  Label DraftText{*this, "DraftText", "", {.in = &DraftBar}};
+  Button DraftResume{*this, "DraftResume", "Reprendre", {.in = &DraftBar}};
+  Button DraftForget{*this, "DraftForget", "Oublier", {.in = &DraftBar}};
+
   // The grid and what lies over it.
   Grid ListView1{*this, "ListView1"};                          // the session being composed
   ComboBox Combo1{*this, "Combo1", "", {.visible = false}};    // the cell editor
@@ -201,6 +207,7 @@ struct CreerCycle : platform::Form {
   Timer Timer9{*this, "Timer9", 10, true};         // follows the pointer over the cells
   Timer TimerUndoStep{*this, "TimerUndoStep", 1};  // once: ends a step of the history
   Timer Timer10{*this, "Timer10", 500};            // watches the calculator
+  Timer TimerDraft{*this, "TimerDraft", 1000};     // once: keeps the list; in a ride, when that rests
 };
 
 }  // namespace forms

@@ -144,12 +144,17 @@ void refuseTooLong(int sequences, int passes) {
 }  // namespace
 
 void ecrireSeance(platform::FileSystem& files, const std::string& chemin, const platform::Grid& grille) {
+  platform::WholeFile file(files, chemin, platform::WholeFile::Start::OldBytes);
+  writeSession(file, grille);
+  file.commit();
+}
+
+void writeSession(platform::RandomFile& file, const platform::Grid& grille) {
   Record header = blankRecord();
   header.set(field::repeter, grille.text(1, column::repeat));
   header.set(field::fois, grille.text(1, column::times));
   header.set(field::annonce, versionTag);
   refuseTooLong(sequencesIn(grille), passesOf(headerOf(header)));
-  platform::WholeFile file(files, chemin, platform::WholeFile::Start::OldBytes);
   int counter = 1;
   for (int row = 2; row <= grille.rowCount(); ++row) {
     if (!isSequence(grille, row)) continue;
@@ -160,7 +165,10 @@ void ecrireSeance(platform::FileSystem& files, const std::string& chemin, const 
   }
   header.set(field::nbEnreg, std::to_string(counter));
   header.write(file, 1);
-  file.commit();
+}
+
+std::uint64_t sizeOfSession(const SessionHeader& header) {
+  return static_cast<std::uint64_t>(std::max(1, header.nbEnreg)) * recordWidth;
 }
 
 SessionHeader lireEnTete(platform::FileSystem& files, const std::string& chemin) {

@@ -23,6 +23,10 @@ struct SessionHeader {
 // Writes every sequence row of the grid over what stands at `chemin`, the header last; all of it or nothing.
 // Throws platform::Fault for a list that would be too long to be read again.
 void ecrireSeance(platform::FileSystem& files, const std::string& chemin, const platform::Grid& grille);
+// The same into a file that is open.
+void writeSession(platform::RandomFile& file, const platform::Grid& grille);
+// Bytes of the records that a session's header announces.
+[[nodiscard]] std::uint64_t sizeOfSession(const SessionHeader& header);
 [[nodiscard]] SessionHeader lireEnTete(platform::FileSystem& files, const std::string& chemin);
 // Turns a file of the old records into a present one and removes the old; returns the path of the new one,
 // which always ends in ".tq2".

@@ -50,7 +50,7 @@ class Repaint : public WindowsTestBase {
 };
 
 TEST_F(Repaint, DrawsASecondOfARideOnceAndNothingElse) {
-  program_.run(support::composeTwoRows("Plat", "30", "Endurance", "30"));
+  program_.run(support::composeTwoRows("Plat", "30", "Sprint", "30"));
   program_.run("press CreerCycle.MyButton5\nadvance 0.3\npress MainForm.MyButton3\nadvance 20");
   draw();
   // The seconds, the whole duration, the bar of the sequence and the place in the profile.
@@ -71,7 +71,7 @@ TEST_F(Repaint, DrawsASecondOfARideOnceAndNothingElse) {
 }
 
 TEST_F(Repaint, DrawsWhatChangesOutOfSightWhenItIsNextSeen) {
-  program_.run(support::composeTwoRows("Plat", "30", "Endurance", "30"));
+  program_.run(support::composeTwoRows("Plat", "30", "Sprint", "30"));
   settle();
   program_.run("press CreerCycle.MyButton5\nadvance 1");
   auto& total = widget<QLabel>(screens_.editor, "totalTime");

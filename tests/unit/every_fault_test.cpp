@@ -70,6 +70,11 @@ bool isLeftover(const std::string& path) {
   return path.find("/.ventoria-") != std::string::npos || path.ends_with(".   ");
 }
 
+// An unsaved list of a program that died, put aside at the next start.
+bool isKept(const std::string& path) {
+  return path.starts_with("d/brouillon ");
+}
+
 class EveryFault : public testing::TestWithParam<Write> {
  protected:
   EveryFault() { fs::create_directories(home_); }
@@ -122,7 +127,8 @@ struct RealProgram {
   // The messages about what failed.
   std::vector<std::string> told() {
     std::vector<std::string> messages;
-    std::istringstream lines(run("journal dialog\nget EnrUneAnnonce.Label14.caption"));
+    std::istringstream lines(
+        run("journal dialog\nget EnrUneAnnonce.Label14.caption\nget CreerCycle.DraftText"));
     for (std::string line; std::getline(lines, line);) {
       if (line.find("Erreur est Survenue") != std::string::npos ||
           line.find("n'a pas pu") != std::string::npos)
@@ -167,10 +173,11 @@ TEST_P(EveryFault, LeavesOldOrNewAndIsTold) {
     for (const auto& [path, bytes] : now) {
       const bool known = (old.contains(path) && old.at(path) == bytes) ||
                          (wanted.contains(path) && wanted.at(path) == bytes);
-      EXPECT_TRUE(known || isLeftover(path)) << path << ", " << bytes.size() << " bytes";
+      EXPECT_TRUE(known || isLeftover(path) || isKept(path)) << path << ", " << bytes.size() << " bytes";
     }
     for (const auto& [path, bytes] : old)
-      EXPECT_TRUE(now.contains(path) || !wanted.contains(path)) << path << " is gone";
+      EXPECT_TRUE(now.contains(path) || !wanted.contains(path) || path == "d/brouillon.tq2")
+          << path << " is gone";
   };
   for (int number = 1; number <= calls; ++number) {
     for (const Fault fault : faults) {
@@ -192,6 +199,7 @@ TEST_P(EveryFault, LeavesOldOrNewAndIsTold) {
           EXPECT_FALSE(std::regex_search(message, std::regex("erreur \\d|\\.ventoria-|errno")));
         }
         if (told.empty()) {
+          run.run("advance 31");  // what was kept of the list goes, if need be later
           EXPECT_EQ(files(), wanted) << "what is not told is done";
         } else if (!starts && files() != wanted) {
           write(run);
@@ -219,6 +227,7 @@ INSTANTIATE_TEST_SUITE_P(
         Write{"SessionThroughALink", true, editor, "answer Lien.tq2\nanswer ok\npress CreerCycle.Command6"},
         Write{"Conversion", true, "press MainForm.mnCreat",
               "answer Ancienne.tq2\nanswer ok\npress CreerCycle.MyButton4"},
+        Write{"Draft", true, support::composeTwoRows("Plat", "10", "Sprint", "20"), "advance 29"},
         Write{"Settings", true, "press MainForm.mnsons\ntick MainForm.Check3 1", "press MainForm.MyButton7"},
         Write{"Figures", true, "set CreerCycle.Combo7.text 41", "call CreerCycle.MyButton40"},
         Write{"Announcement", true, take, "answer Bravo\nanswer ok\npress EnrUneAnnonce.Command1"},

@@ -127,7 +127,7 @@ class Rider {
 
 // Where the random part begins: on the main screen, in the editor, in its calculator, in a ride over music.
 const std::vector<std::string>& beginnings() {
-  static const std::string list = support::composeTwoRows("Plat", "09", "Endurance", "07");
+  static const std::string list = support::composeTwoRows("Plat", "09", "Sprint", "07");
   // With figures of the rider's own, just saved.
   static const std::string calculator =
       "press CreerCycle.MyButton25\npick CreerCycle.Combo8 Astrand et Ryhming (1954)\n"
