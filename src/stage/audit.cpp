@@ -215,7 +215,10 @@ class Audit {
     const auto* label = qobject_cast<const QLabel*>(&widget);
     if (text.trimmed().isEmpty() || label == nullptr) return text.isEmpty() ? QRect() : widget.rect();
     const int flags = static_cast<int>(label->alignment()) | (label->wordWrap() ? Qt::TextWordWrap : 0);
-    return label->style()->itemTextRect(label->fontMetrics(), label->contentsRect(), flags, true, text);
+    // A text that is too long ends at the label's edge.
+    return label->style()
+        ->itemTextRect(label->fontMetrics(), label->contentsRect(), flags, true, text)
+        .intersected(label->contentsRect());
   }
   void checkPictures(const QWidget& widget) {
     const QRect text = inWindow(widget, textOf(widget));
