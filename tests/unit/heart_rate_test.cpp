@@ -351,13 +351,22 @@ TEST_F(HeartRate, OffersToSaveOnlyWhatDiffersOnTheLastMethod) {
     advance(600);
     return std::pair{form.MyButton40.visible.get(), form.MyButton38.visible.get()};
   };
-  form.Combo12.text = "51";
-  EXPECT_EQ(offered(), std::pair(true, true));
-  form.Combo12.text = " 050 ";
-  EXPECT_EQ(offered(), std::pair(false, false));
+  const std::tuple<platform::ComboBox*, const char*, const char*> boxes[] = {
+      {&form.Combo7, "41", "40"},
+      {&form.Combo10, "Masculin", "Féminin"},
+      {&form.Combo11, "191", "190"},
+      {&form.Combo12, "51", " 050 "}};
+  bool button38 = true;  // stays hidden once the screen has been like the file
+  for (const auto& [box, other, same] : boxes) {
+    box->text = other;
+    EXPECT_EQ(offered(), std::pair(true, button38)) << other;
+    box->text = same;
+    EXPECT_EQ(offered(), std::pair(false, false)) << same;
+    button38 = false;
+  }
   form.Combo10.text = "Masculin";
   form.Check1.value = 0;
-  EXPECT_EQ(offered(), std::pair(true, false));  // MyButton38 stays hidden
+  EXPECT_EQ(offered(), std::pair(true, false));
   EXPECT_EQ(form.Check1.value, 1);
   form.Combo8.index = 1;
   EXPECT_EQ(offered(), std::pair(false, false));
