@@ -74,7 +74,8 @@ long figure(const QString& path, const char* word) {
   long sum = 0;
   if (!file.open(QIODevice::ReadOnly)) return 0;
   for (const QByteArray& line : file.readAll().split('\n')) {
-    if (line.startsWith(word)) sum += line.mid(qstrlen(word)).simplified().split(' ').value(0).toLong();
+    if (line.startsWith(word))
+      sum += line.mid(static_cast<qsizetype>(qstrlen(word))).simplified().split(' ').value(0).toLong();
   }
   return sum;
 }
