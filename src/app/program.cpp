@@ -17,6 +17,7 @@
 #include "runner/main_screen.h"
 #include "runner/reset.h"
 #include "runner/settings_page.h"
+#include "runner/suspend.h"
 #include "volume/volume_general.h"
 
 namespace app {
@@ -28,7 +29,8 @@ struct Program::Logic {
         waits(voice, program.loop_),
         reset(context, voice, waits),
         advance(context, voice, waits),
-        chrono(context, advance, waits),
+        suspend(context),
+        chrono(context, advance, waits, suspend),
         countdown(context, voice, advance),
         handOver(context, waits),
         settings(context, voice),
@@ -55,6 +57,7 @@ struct Program::Logic {
   runner::RideWaits waits;
   runner::Reset reset;
   runner::Advance advance;
+  runner::Suspend suspend;
   runner::Chrono chrono;
   runner::Countdown countdown;
   runner::HandOver handOver;

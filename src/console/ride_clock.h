@@ -15,6 +15,7 @@ class RideClock final : public platform::Clock {
     return platform::Instant(static_cast<long>(static_cast<double>(real_.now().count()) * speed_));
   }
   [[nodiscard]] platform::LocalTime localTime() const override { return wallAtStart_ + now(); }
+  [[nodiscard]] platform::Instant suspended() const override { return real_.suspended(); }
   void sleepUntil(platform::Instant when) override {
     const platform::Instant left = when - now();
     if (left.count() <= 0) return;

@@ -1,8 +1,9 @@
 #include "console/ride_mode.h"
 
+#include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
-#include <random>
 #include <system_error>
 
 #include "app/program.h"
@@ -30,9 +31,11 @@ using namespace std::chrono_literals;
 class ScratchFolder {
  public:
   explicit ScratchFolder(const fs::path& sessionFile) {
-    std::random_device random;
-    path_ = fs::temp_directory_path() / ("ventoria-" + std::to_string(random()));
-    fs::create_directories(path_ / "chronodat");
+    std::string made = fs::temp_directory_path() / "ventoria-XXXXXX";  // for this user alone
+    if (::mkdtemp(made.data()) == nullptr)
+      throw fs::filesystem_error("mkdtemp", made, std::error_code(errno, std::generic_category()));
+    path_ = made;
+    fs::create_directory(path_ / "chronodat");
     session_ = path_ / "chronodat" / sessionFile.filename();
     fs::copy_file(sessionFile, session_);
     // The announcements that a session names lie beside the folder of sessions.

@@ -40,6 +40,7 @@ std::string presentLine(const forms::MainForm& form, const model::SharedState& s
   }
   std::string line = forms::timeInDigits(form);
   if (forms::ridePaused(form)) append(line, "PAUSE");
+  append(line, form.Label43.caption.get());
   append(line, oneLine(form.Label11.caption));
   append(line, "cadence", form.Label10.caption);
   append(line, oneLine(form.Label39.caption));

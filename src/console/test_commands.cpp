@@ -16,15 +16,26 @@ std::string valueAt(const PropertyAddress& address) {
   return address.property != nullptr ? address.property->asText() : shownBy(*address.component);
 }
 
+constexpr double mostSeconds = 1e9;
+
+platform::Instant timeToCome(Arguments& arguments) {
+  const double seconds = arguments.decimal("number of seconds");
+  arguments.end();
+  if (!(seconds >= 0) || seconds > mostSeconds) throw CommandError("time only goes forward");
+  return platform::Instant{std::llround(seconds * 1000)};
+}
+
 }  // namespace
 
 void TestCommands::enrol(CommandTable& table) {
   using Member = void (TestCommands::*)(Arguments&);
-  static constexpr std::array<std::pair<const char*, Member>, 19> commands{{
+  static constexpr std::array<std::pair<const char*, Member>, 21> commands{{
       {"answer", &TestCommands::answer},
       {"call", &TestCommands::call},
       {"set", &TestCommands::set},
       {"advance", &TestCommands::advance},
+      {"suspend", &TestCommands::suspend},
+      {"wall", &TestCommands::wall},
       {"volume", &TestCommands::volume},
       {"mute", &TestCommands::mute},
       {"microphone", &TestCommands::microphone},
@@ -82,10 +93,20 @@ void TestCommands::set(Arguments& arguments) {
 }
 
 void TestCommands::advance(Arguments& arguments) {
+  const platform::Instant time = timeToCome(arguments);
+  world_.loop.runUntil(world_.loop.clock().now() + time);
+}
+
+void TestCommands::suspend(Arguments& arguments) {
+  const platform::Instant length = timeToCome(arguments);
+  simulatedClock().suspend(length);
+}
+
+void TestCommands::wall(Arguments& arguments) {
   const double seconds = arguments.decimal("number of seconds");
   arguments.end();
-  if (!(seconds >= 0) || seconds > 1e9) throw CommandError("time only goes forward");
-  world_.loop.runUntil(world_.loop.clock().now() + platform::Instant{std::llround(seconds * 1000)});
+  if (!(std::abs(seconds) <= mostSeconds)) throw CommandError("no calendar reaches that far");
+  simulatedClock().changeWall(platform::Instant{std::llround(seconds * 1000)});
 }
 
 void TestCommands::volume(Arguments& arguments) {
@@ -169,6 +190,12 @@ void TestCommands::journal(Arguments& arguments) {
     throw CommandError("no kind " + kind + platform::nearNames(kind, kinds));
   }
   world_.journal.print(out_, kind);
+}
+
+platform::SimulatedClock& TestCommands::simulatedClock() {
+  auto* clock = dynamic_cast<platform::SimulatedClock*>(&world_.loop.clock());
+  if (clock == nullptr) throw CommandError("the machine's own clock goes as it goes");
+  return *clock;
 }
 
 void TestCommands::compare(const std::string& what, const std::string& is, const std::string& wanted) {

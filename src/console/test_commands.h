@@ -35,6 +35,8 @@ class TestCommands {
   void call(Arguments& arguments);
   void set(Arguments& arguments);
   void advance(Arguments& arguments);
+  void suspend(Arguments& arguments);
+  void wall(Arguments& arguments);
   void volume(Arguments& arguments);
   void mute(Arguments& arguments);
   void microphone(Arguments& arguments);
@@ -51,6 +53,7 @@ class TestCommands {
   void expectVar(Arguments& arguments);
   void echo(Arguments& arguments);
 
+  [[nodiscard]] platform::SimulatedClock& simulatedClock();
   void compare(const std::string& what, const std::string& is, const std::string& wanted);
 
   World world_;

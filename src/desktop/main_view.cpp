@@ -159,11 +159,15 @@ void MainView::refreshProfile() {
   ui_->rideProfile->setVisible(planned);
   ui_->countdownProfile->setVisible(planned);
 
-  const int next = planned && riding() ? nextRow() : 0;
+  // The sentence about a suspend takes the place of what comes next.
+  const bool told = !main_.Label43.caption.get().empty();
+  const int next = planned && riding() && !told ? nextRow() : 0;
   ui_->nextWord->setVisible(next > 0);
   ui_->nextWord->setText(next > 0 ? QStringLiteral("Ensuite :") : QString());
   ui_->nextChip->setVisible(next > 0);
   if (next > 0) ui_->nextChip->show(model::effortFamily(state_.plan.rows[at(next)].planSequence));
+  ui_->nextText->setVisible(!told);
+  ui_->Label43->setSizePolicy(told ? QSizePolicy::Expanding : QSizePolicy::Preferred, QSizePolicy::Preferred);
   ui_->nextText->setText(next > 0 ? describe(next) : QString());
 }
 

@@ -54,6 +54,20 @@ int readNames(const std::string& folder, Names& names) {
   return told(error);
 }
 
+// With the folders above it, each for the rider alone.
+int makeFolders(const fs::path& path) {
+  if (::mkdir(path.c_str(), S_IRWXU) == 0) return 0;
+  if (errno == ENOENT && path.has_relative_path()) {
+    if (makeFolders(path.parent_path()) < 0) return -1;
+    if (::mkdir(path.c_str(), S_IRWXU) == 0) return 0;
+  }
+  const int reason = errno;
+  std::error_code unknown;
+  if (reason == EEXIST && fs::is_directory(path, unknown)) return 0;
+  errno = unknown ? unknown.value() : reason;
+  return -1;
+}
+
 // Owners and rights can only be given by who has the right to, and not on every disk.
 bool refusedByRights(int result) {
   return result < 0 && (errno == EPERM || errno == EINVAL || errno == ENOTSUP);
@@ -71,7 +85,7 @@ bool DiskFileSystem::exists(const std::string& path) const {
 }
 
 std::unique_ptr<platform::RandomFile> DiskFileSystem::open(const std::string& path, OpenMode mode) {
-  constexpr int rights = 0666;  // less what the rider's own settings take away
+  constexpr int rights = S_IRUSR | S_IWUSR;  // what a rider composes and records is nobody else's
   const int descriptor =
       attempt_.make("open", [&] { return ::open(path.c_str(), flagsOf(mode), rights); });  // NOLINT(*-vararg)
   if (descriptor < 0) fail("d'ouvrir", path);
@@ -83,14 +97,7 @@ std::unique_ptr<platform::RandomFile> DiskFileSystem::open(const std::string& pa
 }
 
 void DiskFileSystem::makeFolder(const std::string& path) {
-  const auto make = [&] {
-    std::error_code error;
-    fs::create_directories(path, error);
-    if (!error && !fs::is_directory(path, error) && !error)
-      error = std::make_error_code(std::errc::file_exists);
-    return told(error);
-  };
-  if (attempt_.make("mkdir", make) < 0) fail("de créer le dossier", path);
+  if (attempt_.make("mkdir", [&] { return makeFolders(path); }) < 0) fail("de créer le dossier", path);
 }
 
 std::vector<std::string> DiskFileSystem::list(const std::string& folder) const {

@@ -31,10 +31,17 @@ namespace forms {
 
 inline void offerPause(MainForm& main) {
   main.Command7.caption = "Pause";
+  main.Label43.caption = "";  // why the ride was paused
 }
 
 inline void offerResume(MainForm& main) {
   main.Command7.caption = "REPRENDRE";
+}
+
+// Says on the ride's panel why a pause begins that the rider has not asked for.
+inline void tellOfSuspend(MainForm& main) {
+  main.Label43.caption = "L'ordinateur s'est mis en veille : la séance est en pause.";
+  main.Picture6.visible = true;
 }
 
 // The countdown or the chrono runs, or would if the rider resumed. False between two sequences, and after a

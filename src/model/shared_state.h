@@ -37,6 +37,7 @@ struct SharedState {
   int modeAffichageFC = 1;       // how the target is shown: 1 beats, 2 percentage, 3 both in turn
   int alternanceFC = 0;          // in mode 3, which of the two comes next: 1 or 2
   std::string ecranVeilleActif;  // "oui" if the screen saver was active at the last check
+  bool pauseDue = false;         // the machine was suspended in this ride, which is not paused yet
 
   // The voice: the sound to be played, first as a name, then as its number; and the sound names of the row
   // that is announced.

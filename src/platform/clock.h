@@ -13,6 +13,8 @@ class Clock {
   virtual ~Clock() = default;
   [[nodiscard]] virtual Instant now() const = 0;
   [[nodiscard]] virtual LocalTime localTime() const = 0;
+  // How long the machine has been suspended in all. That time is on the wall, but not in now().
+  [[nodiscard]] virtual Instant suspended() const = 0;
   // Lets time pass until `when`, or less if input or a device needs attention. Returns at once if `when` has
   // passed already. Fires no timer.
   virtual void sleepUntil(Instant when) = 0;
@@ -21,16 +23,24 @@ class Clock {
 // Time passes only when somebody sleeps or moves it.
 class SimulatedClock final : public Clock {
  public:
-  explicit SimulatedClock(LocalTime start) : start_(start) {}
+  explicit SimulatedClock(LocalTime start) : wallAtStart_(start) {}
   [[nodiscard]] Instant now() const override { return now_; }
-  [[nodiscard]] LocalTime localTime() const override { return start_ + now_; }
+  [[nodiscard]] LocalTime localTime() const override { return wallAtStart_ + now_; }
+  [[nodiscard]] Instant suspended() const override { return suspended_; }
   void sleepUntil(Instant when) override {
     if (when > now_) now_ = when;
   }
+  // Somebody puts the clock on the wall forward, or back.
+  void changeWall(Instant by) { wallAtStart_ += by; }
+  void suspend(Instant length) {
+    suspended_ += length;
+    changeWall(length);
+  }
 
  private:
-  LocalTime start_;
+  LocalTime wallAtStart_;
   Instant now_{0};
+  Instant suspended_{0};
 };
 
 // The machine's clock. Sleeps the thread; a front with an event loop of its own overrides sleepUntil.
@@ -39,6 +49,7 @@ class RealClock : public Clock {
   RealClock();
   [[nodiscard]] Instant now() const override;
   [[nodiscard]] LocalTime localTime() const override;
+  [[nodiscard]] Instant suspended() const override;
   void sleepUntil(Instant when) override;
 
  private:

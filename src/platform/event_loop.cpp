@@ -40,7 +40,8 @@ class EventLoop::Acting {
   EventLoop& loop_;
 };
 
-EventLoop::EventLoop(Clock& clock, Ticks ticks) : clock_(clock), ticks_(ticks) {}
+EventLoop::EventLoop(Clock& clock, Ticks ticks)
+    : clock_(clock), ticks_(ticks), suspendedBefore_(clock.suspended()) {}
 
 EventLoop::~EventLoop() {
   for (const auto& entry : entries_) {
@@ -170,10 +171,20 @@ void EventLoop::serveEvents() {
   fireDue();
   runHeld();
   if (pump_ && !blocked()) pump_();
+  noticeSuspend();  // what waits goes on only after it
+}
+
+void EventLoop::noticeSuspend() {
+  constexpr Instant shortest{1000};
+  const Instant suspended = clock_.suspended();
+  if (suspended - suspendedBefore_ < shortest) return;
+  suspendedBefore_ = suspended;
+  if (suspended_) whenFree(suspended_);
 }
 
 void EventLoop::fireDue() {
   if (blocked()) return;
+  noticeSuspend();
   // Only what is due now: handlers that take longer than their own period must not keep the caller here.
   const Instant horizon = clock_.now();
   while (!quitting_ && !blocked()) {

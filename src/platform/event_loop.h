@@ -64,6 +64,10 @@ class EventLoop final : public TimerScheduler {
   // that sleeps on a timer of its own.
   void onReschedule(std::function<void()> handler) { rescheduled_ = std::move(handler); }
 
+  // Called as an action of its own when events are next served after the machine was suspended, before any
+  // timer fires.
+  void onSuspend(std::function<void()> handler) { suspended_ = std::move(handler); }
+
   // Ends the program: waits and sounds return at once, no timer fires and nothing held back runs any more.
   void quit() { quitting_ = true; }
   [[nodiscard]] bool quitting() const { return quitting_; }
@@ -99,6 +103,7 @@ class EventLoop final : public TimerScheduler {
   void sleptUntil(Instant when);
   void passTicks(Instant horizon, const Entry* before);
   void unblock();
+  void noticeSuspend();
   [[nodiscard]] Entry* firstDue(Instant horizon) const;
 
   Clock& clock_;
@@ -114,6 +119,8 @@ class EventLoop final : public TimerScheduler {
   std::function<std::optional<Instant>()> nextInput_;
   std::function<void(const std::string&)> faultHandler_;
   std::function<void()> rescheduled_;
+  std::function<void()> suspended_;
+  Instant suspendedBefore_;
   int blocked_ = 0;
   bool quitting_ = false;
 };

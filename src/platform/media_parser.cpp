@@ -156,6 +156,8 @@ std::optional<Call> matchOpenFile(std::string_view command) {
   if (end == std::string_view::npos || end < start.size()) return std::nullopt;
   std::optional<Call> call = match("A parent N Style N", command.substr(end + middle.size()));
   if (call) call->path = command.substr(start.size(), end - start.size());
+  // No path is taken for an address or an option.
+  if (call && !call->path.starts_with('/')) call->path.insert(0, "./");
   return call;
 }
 

@@ -22,10 +22,11 @@ std::string percentPart(const std::string& target) {
 
 }  // namespace
 
-Chrono::Chrono(const context::Context& context, Advance& advance, RideWaits& waits)
+Chrono::Chrono(const context::Context& context, Advance& advance, RideWaits& waits, Suspend& suspend)
     : context_(context),
       advance_(advance),
       waits_(waits),
+      suspend_(suspend),
       main_(context.screens.main),
       state_(context.state) {
   main_.Timer1.tick.handle([this] { tickChrono(); });
@@ -98,6 +99,7 @@ Chrono::Sequence Chrono::countSecond() {
 void Chrono::tickSurveillance() {
   // What is paused can always be resumed, whatever the row.
   forms::enableRideButtons(main_, state_.dureeSequence != 0 || forms::ridePaused(main_));
+  suspend_.pauseIfDue();
   if (forms::saysNothing(main_)) forms::turnVoice(main_, false);
   main_.Timer3.rest({&state_.dureeSequence, &main_.Command7.caption, &main_.Command7.enabled,
                      &main_.MyButton1.enabled, &main_.MyButton4.enabled, &main_.Check2.value,

@@ -4,12 +4,13 @@
 #include "context/context.h"
 #include "runner/advance.h"
 #include "runner/ride_waits.h"
+#include "runner/suspend.h"
 
 namespace runner {
 
 class Chrono {
  public:
-  Chrono(const context::Context& context, Advance& advance, RideWaits& waits);
+  Chrono(const context::Context& context, Advance& advance, RideWaits& waits, Suspend& suspend);
 
  private:
   void tickChrono();
@@ -27,6 +28,7 @@ class Chrono {
   context::Context context_;
   Advance& advance_;
   RideWaits& waits_;
+  Suspend& suspend_;
   forms::MainForm& main_;
   model::SharedState& state_;
 };

@@ -30,6 +30,7 @@ void Reset::annulerSeance() {
   forms::hideRideFields(main_);
   main_.Timer1.enabled = false;
   main_.Timer2.enabled = false;
+  state_.pauseDue = false;
   state_.ecouleSequence = 0;
   state_.plan.sequenceCourante = 0;
   state_.dureeSequence = model::timeValue("00:00:00");

@@ -29,13 +29,13 @@ void Voice::jouerAnnonce(const std::string& fileName) {
 }
 
 void Voice::attendre(int seconds) {
-  const std::chrono::duration<double> timeOfDay =
-      loop_.clock().localTime() - std::chrono::floor<std::chrono::days>(loop_.clock().localTime());
+  const platform::LocalTime wall = loop_.clock().localTime();
+  const std::chrono::duration<double> timeOfDay = wall - std::chrono::floor<std::chrono::days>(wall);
   const double rounded = std::nearbyint(timeOfDay.count());
   const auto shift = std::chrono::duration<double>(rounded + seconds - timeOfDay.count());
   const auto rest = std::chrono::round<platform::Instant>(shift);
   if (rest <= platform::Instant::zero()) return;
-  // Counted on the loop's clock, which never goes back, so that midnight changes nothing.
+  // Counted on the loop's clock, so that midnight, summer time and a suspend change nothing.
   loop_.runUntil(loop_.clock().now() + rest);
 }
 

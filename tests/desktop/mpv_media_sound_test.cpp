@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QTcpServer>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -103,6 +104,24 @@ TEST_F(MpvMediaTest, OpensNothingThatDoesNotSound) {
   EXPECT_EQ(send("status m mode"), "");
   send("open MPEGVideo!" + folder + "/absent.mp3 alias m parent 0 Style 1073741824");
   EXPECT_EQ(send("status m mode"), "");
+}
+
+// A piece may be a list of addresses under a false name; none of them is asked.
+TEST_F(MpvMediaTest, FollowsNoAddressThatAFileHolds) {
+  QTcpServer elsewhere;
+  ASSERT_TRUE(elsewhere.listen(QHostAddress::LocalHost));
+  const std::string address = "http://127.0.0.1:" + std::to_string(elsewhere.serverPort()) + "/a";
+  for (const std::string& text :
+       {"#EXTM3U\n" + address + ".mp3\n",
+        "#EXTM3U\n#EXT-X-TARGETDURATION:9\n#EXTINF:9,\n" + address + ".ts\n#EXT-X-ENDLIST\n",
+        "ffconcat version 1.0\nfile '" + address + ".mp3'\n", "# mpv EDL v0\n" + address + ".mp3\n",
+        "[playlist]\nFile1=" + address + ".mp3\n"}) {
+    platform::saveWhole(files, folder + "/liste.mp3", text);
+    send("open MPEGVideo!" + folder + "/liste.mp3 alias m parent 0 Style 1073741824");
+    send("play m from 0");
+    EXPECT_FALSE(elsewhere.waitForNewConnection(100)) << text;
+    send("close m");
+  }
 }
 
 TEST_F(MpvMediaTest, RecordsListensAndSaves) {

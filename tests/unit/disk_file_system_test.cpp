@@ -76,7 +76,7 @@ TEST_F(DiskFileSystemTest, WritesAndReadsAnywhereAsInMemory) {
 TEST_F(DiskFileSystemTest, ReplacesAFileThroughItsLinksWithItsRights) {
   disk_.makeFolder(in("far"));
   std::ofstream(in("far/real")) << "old and longer";
-  fs::permissions(in("far/real"), fs::perms::owner_read | fs::perms::owner_write);
+  fs::permissions(in("far/real"), fs::perms{0640});
   fs::create_symlink("real", in("far/second"));
   fs::create_symlink(in("far/second"), in("first"));
   fs::create_symlink("far/not yet", in("fresh"));
@@ -85,7 +85,7 @@ TEST_F(DiskFileSystemTest, ReplacesAFileThroughItsLinksWithItsRights) {
   std::string bytes(20, '?');
   EXPECT_EQ(disk_.open(in("far/real"), OpenMode::Read)->readAt(0, bytes), 14U);
   EXPECT_THAT(bytes, testing::StartsWith("new and longer?"));
-  EXPECT_EQ(fs::status(in("far/real")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(fs::status(in("far/real")).permissions(), fs::perms{0640});
   EXPECT_TRUE(fs::is_symlink(in("first")));
   EXPECT_EQ(disk_.open(in("far/not yet"), OpenMode::Read)->size(), 3U);
   // Without a commit nothing remains; what a crash left goes, also beside what a link leads to.
@@ -96,6 +96,18 @@ TEST_F(DiskFileSystemTest, ReplacesAFileThroughItsLinksWithItsRights) {
   platform::removeLeftovers(disk_, folder_.string());
   EXPECT_THAT(disk_.list(folder_.string()), ElementsAre("first", "fresh"));
   EXPECT_THAT(disk_.list(in("far")), ElementsAre(".ventoria", "not yet", "real", "second"));
+}
+
+TEST_F(DiskFileSystemTest, MakesFilesAndFoldersForTheRiderAlone) {
+  const mode_t before = umask(0);
+  disk_.makeFolder(in("new/er/"));
+  save(in("new/saved"));
+  static_cast<void>(disk_.open(in("new/opened"), OpenMode::ReadWriteCreate));
+  umask(before);
+  const std::pair<const char*, unsigned> made[]{
+      {"new", 0700}, {"new/er", 0700}, {"new/saved", 0600}, {"new/opened", 0600}};
+  for (const auto& [name, rights] : made)
+    EXPECT_EQ(fs::status(in(name)).permissions(), fs::perms{rights}) << name;
 }
 
 // A call that a signal interrupts without end is given up.

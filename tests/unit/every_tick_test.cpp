@@ -77,8 +77,11 @@ class Rider {
 
   std::string next(support::SimulatedProgram& program) {
     const int what = roll(0, 9);
-    if (what == 9 && roll(0, 2) == 0)
-      return roll(0, 1) == 0 ? "volume " + std::to_string(roll(0, 100)) : "mute 1";
+    if (what == 9 && roll(0, 2) == 0) {
+      const int event = roll(0, 2);
+      if (event == 2) return "suspend 60";
+      return event == 0 ? "volume " + std::to_string(roll(0, 100)) : "mute 1";
+    }
     if (what < 3) return "advance " + seconds(what == 0 ? 9000 : 900);
     const std::string act = actOn(program);
     return what == 3 ? "at " + seconds(4000) + " " + act : act;

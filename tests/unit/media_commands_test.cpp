@@ -64,6 +64,8 @@ TEST(MediaCommands, AreReadIntoCalls) {
     EXPECT_EQ(sent(command + end), "open " + name);
     EXPECT_EQ(sent(command), "");
   }
+  for (const std::string name : {"https://example.org/a.mp3", "--script=a.mp3"})
+    EXPECT_EQ(sent("open MPEGVideo!" + name + " alias A" + end), "open A|./" + name);
   const std::pair<const char*, const char*> rows[]{
       {"close video001", "close video001"},
       {"seek capture to start", "seek capture 0"},
