@@ -12,10 +12,8 @@ using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr milliseconds attemptPatience{500};
 constexpr milliseconds attemptPause{1000};  // callers ask several times a second
 constexpr milliseconds askInterval{20};     // for whether to go on, which lets the caller repaint
-constexpr milliseconds answerPatience{500};
 
 }  // namespace
 
@@ -53,8 +51,12 @@ void PulseConnection::onLoss(std::function<void()> lost) {
 
 void PulseConnection::stateChanged(pa_context* context, void* self) {
   auto& connection = *static_cast<PulseConnection*>(self);
+  const pa_context_state_t state = pa_context_get_state(context);
+  // A server that is gone does not hang; a request that timed out tells nothing new.
+  const bool gone = !PA_CONTEXT_IS_GOOD(state) && pa_context_errno(context) != PA_ERR_TIMEOUT;
+  if (state == PA_CONTEXT_READY || gone) connection.hanging_ = false;
   connection.notify();
-  if (connection.lost_ && !PA_CONTEXT_IS_GOOD(pa_context_get_state(context))) connection.lost_();
+  if (connection.lost_ && !PA_CONTEXT_IS_GOOD(state)) connection.lost_();
 }
 
 void PulseConnection::connect() {
@@ -71,18 +73,38 @@ bool PulseConnection::ready() {
     const Lock lock(*this);
     if (!alive() && (!context_ || steady_clock::now() - attemptedAt_ >= attemptPause)) connect();
   }
-  const auto isReady = [this] {
-    return context_ && pa_context_get_state(context_.get()) == PA_CONTEXT_READY;
-  };
-  const auto left =
-      std::chrono::duration_cast<milliseconds>(attemptedAt_ + attemptPatience - steady_clock::now());
-  waitUntil([&] { return isReady() || !alive(); }, std::max(left, 0ms));
+  if (!hanging_) waitForAttempt();
   const Lock lock(*this);
-  return isReady();
+  return !hanging_ && context_ && pa_context_get_state(context_.get()) == PA_CONTEXT_READY;
+}
+
+void PulseConnection::waitForAttempt() {
+  const auto decided = [this] {
+    return !alive() || pa_context_get_state(context_.get()) == PA_CONTEXT_READY;
+  };
+  if (!waitUntil(decided, patience)) suspect();
+}
+
+void PulseConnection::suspect() {
+  const Lock lock(*this);
+  if (alive() && !hanging_.exchange(true)) probe();
+}
+
+// Whatever comes back, the server runs again, unless the library gave up waiting for it. Until the connection
+// is ready, becoming so is the answer.
+void PulseConnection::probe() {
+  if (pa_context_get_state(context_.get()) != PA_CONTEXT_READY) return;
+  const auto answered = [](pa_context* context, const pa_server_info* server, void* self) {
+    auto& connection = *static_cast<PulseConnection*>(self);
+    if (server == nullptr && pa_context_errno(context) == PA_ERR_TIMEOUT) return connection.probe();
+    connection.hanging_ = false;
+  };
+  pa_operation* request = pa_context_get_server_info(context_.get(), answered, this);
+  if (request != nullptr) pa_operation_unref(request);
 }
 
 bool PulseConnection::hasLoudspeaker() {
-  if (!ready()) return false;
+  if (!ready()) return hanging_ && loudspeakerSeen_;
   bool found = false;
   pa_operation* request = nullptr;
   {
@@ -94,7 +116,11 @@ bool PulseConnection::hasLoudspeaker() {
         },
         &found);
   }
-  return finish(request, answerPatience) && found;
+  if (finish(request))
+    loudspeakerSeen_ = found;
+  else if (!hanging_)
+    loudspeakerSeen_ = false;
+  return loudspeakerSeen_;
 }
 
 PulseConnection::Timer PulseConnection::callAfter(milliseconds time, pa_time_event_cb_t call, void* owner) {
@@ -138,7 +164,9 @@ bool PulseConnection::finish(pa_operation* operation, milliseconds timeout,
     pa_operation_set_state_callback(
         operation, [](pa_operation*, void* self) { static_cast<PulseConnection*>(self)->notify(); }, this);
   }
-  waitUntil([&] { return pa_operation_get_state(operation) != PA_OPERATION_RUNNING; }, timeout, goOn);
+  const auto ended = [&] { return pa_operation_get_state(operation) != PA_OPERATION_RUNNING; };
+  const auto deadline = steady_clock::now() + timeout;
+  if (!waitUntil(ended, hanging_ ? 0ms : timeout, goOn) && steady_clock::now() >= deadline) suspect();
   const Lock lock(*this);
   const bool done = pa_operation_get_state(operation) == PA_OPERATION_DONE;
   pa_operation_set_state_callback(operation, nullptr, nullptr);

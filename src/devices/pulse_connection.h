@@ -4,6 +4,7 @@
 
 #include <pulse/pulseaudio.h>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -39,10 +40,17 @@ class PulseConnection {
   PulseConnection(const PulseConnection&) = delete;
   PulseConnection& operator=(const PulseConnection&) = delete;
 
-  // Whether the server answers. If not, connects again, at most once a second; an attempt that hangs is
-  // waited for once, for 500 ms.
+  // How long a request may take. A server that takes longer counts as hanging, and nobody waits for it again
+  // until it has answered.
+  static constexpr std::chrono::milliseconds patience{300};
+
+  // Whether the server answers. If not, connects again, at most once a second.
   bool ready();
-  // Whether the server answers and has a real device to play on.
+  // Whether the server owes an answer.
+  [[nodiscard]] bool hanging() const { return hanging_; }
+  // To be called where the server did not do in time what it was asked for; any answer clears it.
+  void suspect();
+  // Whether the server has a real device to play on. Of a server that hangs: whether it had one before.
   bool hasLoudspeaker();
   // `lost` is called on the library's thread whenever a connection, or an attempt at one, comes to its end.
   void onLoss(std::function<void()> lost);
@@ -65,8 +73,8 @@ class PulseConnection {
   bool waitUntil(const std::function<bool()>& done, std::chrono::milliseconds timeout,
                  const std::function<bool()>& goOn = {});
   // Waits for a request to end and frees it. False if it fails, was refused (null), or takes too long; it is
-  // then cancelled, so that its callback is never called.
-  bool finish(pa_operation* operation, std::chrono::milliseconds timeout,
+  // then cancelled, so that its callback is never called. Does not wait for a server that hangs.
+  bool finish(pa_operation* operation, std::chrono::milliseconds timeout = patience,
               const std::function<bool()>& goOn = {});
 
  private:
@@ -78,6 +86,8 @@ class PulseConnection {
   };
 
   void connect();
+  void waitForAttempt();
+  void probe();
   static void stateChanged(pa_context* context, void* self);
   [[nodiscard]] bool alive() const;
 
@@ -87,6 +97,8 @@ class PulseConnection {
   unsigned changes_ = 0;
   std::chrono::steady_clock::time_point attemptedAt_{};
   std::function<void()> lost_;  // under a Lock
+  std::atomic<bool> hanging_ = false;
+  bool loudspeakerSeen_ = false;
   std::unique_ptr<pa_threaded_mainloop, FreeLoop> loop_;
   std::unique_ptr<pa_context, FreeContext> context_;
 };

@@ -11,7 +11,6 @@ namespace {
 
 // How often to look for streams that were opened after the level was chosen.
 constexpr std::chrono::milliseconds askInterval{1000};
-constexpr std::chrono::milliseconds patience{500};
 
 constexpr pa_channel_position_mask_t leftSide =
     PA_CHANNEL_POSITION_MASK(PA_CHANNEL_POSITION_FRONT_LEFT) |
@@ -78,12 +77,12 @@ void PulseOutputLevel::applyToAll() {
     const PulseConnection::Lock lock(connection_);
     request = askForStreams();
   }
-  connection_.finish(request, patience);
+  connection_.finish(request);
   {
     const PulseConnection::Lock lock(connection_);
     request = std::exchange(setting_, nullptr);
   }
-  connection_.finish(request, patience);
+  connection_.finish(request);
 }
 
 pa_cvolume PulseOutputLevel::volumeOf(const pa_channel_map& channels) const {

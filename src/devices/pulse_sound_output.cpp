@@ -17,11 +17,12 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto repaintInterval = 15ms;
+constexpr auto beepLength = 200ms;
 
 std::vector<std::int16_t> makeBeep() {
   constexpr double pitch = 880;
   constexpr double level = 8000;
-  constexpr int frames = WavDecoder::sampleRate / 5;
+  constexpr int frames = WavDecoder::sampleRate * beepLength / 1s;
   constexpr int ramp = WavDecoder::sampleRate / 200;  // fades in and out, else both ends click
   std::vector<std::int16_t> samples;
   samples.reserve(frames * 2);
@@ -56,20 +57,35 @@ bool PulseSoundOutput::hasDevice() {
 
 void PulseSoundOutput::beep() {
   std::vector<std::int16_t> samples = makeBeep();
-  stream_.play([&samples](std::span<std::int16_t> piece) {
-    const std::size_t count = std::min(piece.size(), samples.size());
-    std::copy_n(samples.begin(), count, piece.begin());
-    samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(count));
-    return count;
-  });
+  stream_.play(
+      [&samples](std::span<std::int16_t> piece) {
+        const std::size_t count = std::min(piece.size(), samples.size());
+        std::copy_n(samples.begin(), count, piece.begin());
+        samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(count));
+        return count;
+      },
+      beepLength);
+}
+
+bool PulseSoundOutput::playFrom(WavDecoder& decoder) {
+  return stream_.play([&decoder](std::span<std::int16_t> piece) { return decoder.read(piece); },
+                      decoder.length());
+}
+
+// Who cannot hear a prompt reads it: it stays for as long as it would have sounded, and the ride keeps its
+// pace.
+void PulseSoundOutput::readInSilence(std::chrono::steady_clock::time_point until) {
+  const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - std::chrono::steady_clock::now());
+  connection_.waitUntil([] { return false; }, std::max(left, 0ms), [this] { return goOn(); });
 }
 
 void PulseSoundOutput::play(const platform::SoundClip& clip) {
   if (!hasDevice()) return;
   WavDecoder decoder(clip.wav);
   if (!decoder.opened()) return;
+  const auto begun = std::chrono::steady_clock::now();
   if (hooks_.onSpeaking) hooks_.onSpeaking(&clip);
-  stream_.play([&decoder](std::span<std::int16_t> piece) { return decoder.read(piece); });
+  if (!playFrom(decoder)) readInSilence(begun + decoder.length());
   if (hooks_.onSpeaking) hooks_.onSpeaking(nullptr);
 }
 
@@ -77,7 +93,7 @@ void PulseSoundOutput::playFile(const std::string& path) {
   if (!hasDevice()) return;
   WavDecoder decoder(path);
   if (decoder.opened()) {
-    stream_.play([&decoder](std::span<std::int16_t> piece) { return decoder.read(piece); });
+    playFrom(decoder);
   } else {
     beep();
   }

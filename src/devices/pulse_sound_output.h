@@ -7,6 +7,7 @@
 
 #include "devices/pulse_connection.h"
 #include "devices/pulse_voice_stream.h"
+#include "devices/wav_decoder.h"
 #include "platform/sound_output.h"
 
 namespace devices {
@@ -31,6 +32,8 @@ class PulseSoundOutput final : public platform::SoundOutput {
  private:
   void beep();
   bool goOn();
+  bool playFrom(WavDecoder& decoder);
+  void readInSilence(std::chrono::steady_clock::time_point until);
 
   PulseConnection& connection_;
   SoundHooks hooks_;

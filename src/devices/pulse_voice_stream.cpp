@@ -18,13 +18,15 @@ using std::chrono::steady_clock;
 constexpr std::int64_t bytesPerMs = WavDecoder::sampleRate * WavDecoder::channelCount * 2 / 1000;
 constexpr std::int64_t serverBuffer = 40 * bytesPerMs;
 constexpr std::int64_t leadBytes = 30 * bytesPerMs;
-constexpr std::int64_t aheadBytes = 1000 * bytesPerMs;  // a repaint may take this long before a file stutters
+constexpr milliseconds aheadTime{1000};  // a repaint may take this long before a file stutters
+constexpr std::int64_t aheadBytes = aheadTime.count() * bytesPerMs;
 constexpr std::size_t samplesAtOnce = WavDecoder::sampleRate / 4 * WavDecoder::channelCount;
 constexpr milliseconds burst{50};         // of sound that the server may take at once
 constexpr milliseconds pollInterval{10};  // within a burst of the end
 constexpr milliseconds soundingTail{60};  // for the sound that the server and the card still hold at the end
 constexpr milliseconds longSilence{3000};
-constexpr milliseconds patience{2000};  // for a server that takes no more sound
+constexpr milliseconds longestStandstill{2000};  // of a server that takes no more sound
+constexpr milliseconds longestDelay{500};        // of a sound, before it is given up
 
 }  // namespace
 
@@ -99,7 +101,8 @@ bool PulseVoiceStream::open() {
   }
   const auto isOpen = [this] { return pa_stream_get_state(stream_.get()) == PA_STREAM_READY; };
   bool opened = false;
-  connection_.waitUntil([&] { return (opened = isOpen()) || broken(); }, patience, goOn_);
+  if (!connection_.waitUntil([&] { return (opened = isOpen()) || broken(); }, longestDelay, goOn_))
+    connection_.suspect();
   if (!opened) drop();
   return opened;
 }
@@ -111,7 +114,7 @@ std::optional<PulseVoiceStream::Position> PulseVoiceStream::position(const std::
     const PulseConnection::Lock lock(connection_);
     if (!broken()) request = pa_stream_update_timing_info(stream_.get(), nullptr, nullptr);
   }
-  if (!connection_.finish(request, patience, goOn)) return {};
+  if (!connection_.finish(request, longestDelay, goOn)) return {};
   const PulseConnection::Lock lock(connection_);
   const pa_timing_info* timing = pa_stream_get_timing_info(stream_.get());
   if (!timing || timing->read_index_corrupt != 0 || timing->write_index_corrupt != 0) return {};
@@ -132,14 +135,17 @@ void PulseVoiceStream::flush() {
     const PulseConnection::Lock lock(connection_);
     if (!broken()) request = pa_stream_flush(stream_.get(), nullptr, nullptr);
   }
-  connection_.finish(request, patience);
+  connection_.finish(request);
 }
 
-// Plays until `lead` bytes are left or `goOn` is false. False if the stream breaks.
-bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std::function<bool()>& goOn) {
+// Plays until `lead` bytes are left or `goOn` is false. False if the stream breaks, or if it is not done when
+// it is given up: but a sound that only began late may then end on its own.
+bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, steady_clock::time_point givenUp,
+                              const std::function<bool()>& goOn) {
   std::vector<std::int16_t> piece(samplesAtOnce);
   bool ended = false;
   std::int64_t lastRead = -1;
+  bool moved = false;
   auto movedAt = steady_clock::now();
   for (;;) {
     const auto at = position(goOn);
@@ -157,23 +163,34 @@ bool PulseVoiceStream::playTo(const Source& source, std::int64_t lead, const std
     }
     if (ended && queued <= lead) return true;
     const auto now = steady_clock::now();
-    if (at->read != lastRead) movedAt = now;
-    if (now - movedAt > patience) return false;
+    if (at->read != lastRead) {
+      moved = lastRead >= 0;
+      movedAt = now;
+    }
     lastRead = at->read;
+    if (now >= givenUp) return ended && moved;
+    if (now - movedAt > longestStandstill) return false;
     const milliseconds left((queued - (ended ? lead : aheadBytes)) / bytesPerMs + 1);
     const milliseconds untilNearEnd = left > burst ? left - burst : std::min(left, pollInterval);
-    connection_.waitUntil([this] { return broken(); }, ended ? untilNearEnd : left + burst, goOn);
+    const milliseconds pause = ended ? untilNearEnd : left + burst;
+    const auto rest = std::chrono::ceil<milliseconds>(givenUp - now);
+    connection_.waitUntil([this] { return broken(); }, std::min(pause, rest), goOn);
   }
 }
 
-void PulseVoiceStream::play(const Source& source) {
-  if (!open()) return;
-  if (playTo(source, leadBytes, goOn_)) return holdLater();
+bool PulseVoiceStream::play(const Source& source, milliseconds length) {
+  const auto givenUp = steady_clock::now() + length + longestDelay;
+  if (!open()) return false;
+  if (playTo(source, leadBytes, givenUp, goOn_)) {
+    holdLater();
+    return true;
+  }
   drop();
+  return false;
 }
 
 void PulseVoiceStream::settle() {
-  if (!stream_) return;
+  if (!stream_ || connection_.hanging()) return;
   {
     const PulseConnection::Lock lock(connection_);
     if (held_) return;
@@ -185,7 +202,8 @@ void PulseVoiceStream::settle() {
     std::fill_n(samples.begin(), count, std::int16_t{0});
     return count;
   };
-  if (playTo(source, 0, {})) std::this_thread::sleep_for(soundingTail);
+  if (playTo(source, 0, steady_clock::now() + aheadTime + longestDelay, {}))
+    std::this_thread::sleep_for(soundingTail);
   holdLater();
 }
 

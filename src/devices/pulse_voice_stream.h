@@ -27,9 +27,9 @@ class PulseVoiceStream {
   PulseVoiceStream(const PulseVoiceStream&) = delete;
   PulseVoiceStream& operator=(const PulseVoiceStream&) = delete;
 
-  // Returns 30 ms before the end of the sound, or at once if the stream cannot be opened or breaks; the next
-  // call then opens another.
-  void play(const Source& source);
+  // Returns 30 ms before the end of a sound of this length. False if it could not be heard to its end within
+  // half a second more, or the stream cannot be opened or breaks; the next call then opens another.
+  bool play(const Source& source, std::chrono::milliseconds length);
   // Waits until the last sound has been heard to its end.
   void settle();
 
@@ -52,7 +52,8 @@ class PulseVoiceStream {
   std::optional<Position> position(const std::function<bool()>& goOn);
   bool write(std::span<const std::int16_t> samples, const Position& at);
   void flush();
-  bool playTo(const Source& source, std::int64_t lead, const std::function<bool()>& goOn);
+  bool playTo(const Source& source, std::int64_t lead, std::chrono::steady_clock::time_point givenUp,
+              const std::function<bool()>& goOn);
 
   PulseConnection& connection_;
   const PulseOutputLevel& level_;

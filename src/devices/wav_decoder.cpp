@@ -84,6 +84,10 @@ long WavDecoder::fill(float** data, std::size_t wanted) {
   return static_cast<long>(frames);
 }
 
+std::chrono::milliseconds WavDecoder::length() const {
+  return std::chrono::milliseconds(opened() ? info_.frames * 1000 / info_.samplerate : 0);
+}
+
 std::size_t WavDecoder::read(std::span<std::int16_t> samples) {
   if (!opened()) return 0;
   const std::size_t wanted = std::min(samples.size() / channelCount, framesAtOnce);

@@ -4,6 +4,7 @@
 #include <samplerate.h>
 #include <sndfile.h>
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -26,6 +27,8 @@ class WavDecoder {
 
   // False if the file cannot be played.
   [[nodiscard]] bool opened() const { return file_ != nullptr; }
+  // How long the whole file sounds.
+  [[nodiscard]] std::chrono::milliseconds length() const;
   // The next samples, left and right in turn. Returns how many; 0 at the end.
   std::size_t read(std::span<std::int16_t> samples);
 
