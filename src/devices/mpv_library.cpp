@@ -2,6 +2,9 @@
 
 #include <dlfcn.h>
 
+#include <chrono>
+#include <thread>
+
 namespace devices {
 namespace {
 
@@ -12,6 +15,26 @@ bool find(void* library, const char* name, Function& function) {
 }
 
 }  // namespace
+
+MpvEnds::~MpvEnds() {
+  std::unique_lock guard(pending_->mutex);
+  pending_->fewer.wait_for(guard, std::chrono::seconds(1), [this] { return pending_->count == 0; });
+}
+
+void MpvEnds::end(const MpvFunctions& mpv, mpv_handle* handle) {
+  {
+    const std::lock_guard guard(pending_->mutex);
+    ++pending_->count;
+  }
+  std::thread([destroy = mpv.destroy, handle, pending = pending_] {
+    destroy(handle);
+    {
+      const std::lock_guard guard(pending->mutex);
+      --pending->count;
+    }
+    pending->fewer.notify_all();
+  }).detach();
+}
 
 const MpvFunctions* MpvLibrary::functions() {
   if (functions_) return &*functions_;
@@ -24,11 +47,9 @@ const MpvFunctions* MpvLibrary::functions() {
       find(library, "mpv_create", found.create) && find(library, "mpv_initialize", found.initialize) &&
       find(library, "mpv_terminate_destroy", found.destroy) &&
       find(library, "mpv_set_option_string", found.setOption) &&
-      find(library, "mpv_get_property", found.getProperty) &&
-      find(library, "mpv_set_property", found.setProperty) &&
-      find(library, "mpv_get_property_string", found.getText) &&
-      find(library, "mpv_set_property_string", found.setText) && find(library, "mpv_free", found.free) &&
-      find(library, "mpv_command", found.command) && find(library, "mpv_wait_event", found.waitEvent);
+      find(library, "mpv_get_property_async", found.askProperty) &&
+      find(library, "mpv_set_property_async", found.setProperty) &&
+      find(library, "mpv_command_async", found.command) && find(library, "mpv_wait_event", found.waitEvent);
   if (whole) functions_ = found;
   return whole ? &*functions_ : nullptr;
 }

@@ -1,5 +1,6 @@
 #include "devices/mpv_media.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -45,7 +46,7 @@ MpvMedia::Device* MpvMedia::find(const std::string& alias) {
 std::unique_ptr<MpvPlayer> MpvMedia::open(std::string address) {
   const MpvFunctions* mpv = library_.functions();
   if (mpv == nullptr) return nullptr;
-  auto player = std::make_unique<MpvPlayer>(*mpv, std::move(address));
+  auto player = std::make_unique<MpvPlayer>(*mpv, ends_, std::move(address));
   return player->opened() ? std::move(player) : nullptr;
 }
 
@@ -64,7 +65,7 @@ void MpvMedia::restoreOutput(MpvPlayer& player) {
   const auto now = std::chrono::steady_clock::now();
   if (now - checkedAt_ < checkInterval || player.mode() != MpvPlayer::Mode::Playing) return;
   checkedAt_ = now;
-  if (!player.unheard() || !connection_.hasLoudspeaker()) return level_.reapply();
+  if (!player.unheard() || !connection_.hasLoudspeaker() || connection_.hanging()) return level_.reapply();
   player.stop();
   player.reopenOutput();
   playAtLevel(player);
@@ -76,8 +77,16 @@ void MpvMedia::playAtLevel(MpvPlayer& player) {
   player.play();
 }
 
+void MpvMedia::readEnds(const std::string& path) const {
+  const auto file = files_.open(path, platform::OpenMode::Read);
+  std::array<char, 4096> block{};
+  file->readAt(0, block);
+  file->readAt(file->size() - std::min<std::uint64_t>(file->size(), block.size()), block);
+}
+
 void MpvMedia::openFile(const std::string& alias, const std::string& path) {
   if (devices_.contains(alias)) return;
+  readEnds(path);
   Device device;
   device.player = open(path);
   if (!device.player) return;

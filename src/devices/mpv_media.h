@@ -53,6 +53,8 @@ class MpvMedia final : public platform::MediaBackend {
   };
 
   Device* find(const std::string& alias);
+  // Waits for the disk, which may have to spin up first.
+  void readEnds(const std::string& path) const;
   // A player of what libmpv finds there; null if it cannot be played.
   std::unique_ptr<MpvPlayer> open(std::string address);
   // The player of the opened file or of the recorder's take; null if there is nothing to play.
@@ -65,6 +67,7 @@ class MpvMedia final : public platform::MediaBackend {
   PulseOutputLevel& level_;
   platform::FileSystem& files_;
   MpvLibrary library_;
+  MpvEnds ends_;
   std::map<std::string, Device> devices_;
   std::map<std::string, int> volumes_;  // in thousandths, kept for later files of the same alias
   std::chrono::steady_clock::time_point checkedAt_{};  // when restoreOutput last looked

@@ -1,10 +1,9 @@
 #include "devices/mpv_player.h"
 
 #include <algorithm>
-#include <array>
-#include <chrono>
 #include <clocale>
 #include <cmath>
+#include <initializer_list>
 #include <string_view>
 #include <utility>
 
@@ -13,7 +12,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto patience = 3s;                 // for a disk that must spin up first
+constexpr auto openingPatience = 500ms;
+constexpr auto outputPatience = 300ms;
+constexpr auto answerPatience = 150ms;
+constexpr std::uint64_t anyOrder = 0;
+constexpr std::uint64_t seekOrder = 1;
 constexpr std::string_view nowhere = "null";  // libmpv's output that drops all sound
 
 constexpr std::array<std::pair<const char*, const char*>, 14> startOptions{{
@@ -43,6 +46,16 @@ mpv_handle* newHandle(const MpvFunctions& mpv) {
   return nullptr;
 }
 
+struct Asked {
+  const char* property;
+  mpv_format format;
+};
+constexpr std::array<Asked, 3> questions{{
+    {"duration", MPV_FORMAT_DOUBLE},
+    {"time-pos", MPV_FORMAT_DOUBLE},
+    {"current-ao", MPV_FORMAT_STRING},
+}};
+
 std::string seconds(std::int64_t milliseconds) {
   const std::string rest = std::to_string(milliseconds % 1000);
   return std::to_string(milliseconds / 1000) + "." + std::string(3 - rest.size(), '0') + rest;
@@ -50,27 +63,52 @@ std::string seconds(std::int64_t milliseconds) {
 
 }  // namespace
 
-MpvPlayer::MpvPlayer(const MpvFunctions& mpv, std::string address)
-    : mpv_(mpv), address_(std::move(address)), handle_(newHandle(mpv), mpv.destroy) {
+MpvPlayer::MpvPlayer(const MpvFunctions& mpv, MpvEnds& ends, std::string address)
+    : mpv_(mpv), address_(std::move(address)), handle_(newHandle(mpv), End{&mpv, &ends}) {
   if (!handle_ || !load(0)) return;
-  double duration = 0;
-  mpv_.getProperty(handle_.get(), "duration", MPV_FORMAT_DOUBLE, &duration);
-  length_ = std::llround(std::max(duration, 0.0) * 1000);
-  opened_ = true;
+  length_ = std::llround(std::max(ask(Length).number, 0.0) * 1000);
+  opened_ = !owesAnswer();
 }
 
 // Waits until the piece is ready at `from`, in ms. False if it cannot be read.
 bool MpvPlayer::load(std::int64_t from) {
-  mpv_.setText(handle_.get(), "start", seconds(from).c_str());
-  std::array<const char*, 3> command{"loadfile", address_.c_str(), nullptr};
+  const std::string place = seconds(from);
+  const char* start = place.c_str();
+  mpv_.setProperty(handle_.get(), anyOrder, "start", MPV_FORMAT_STRING, &start);
   loaded_ = ended_ = false;
   expectPosition(from);
-  if (mpv_.command(handle_.get(), command.data()) < 0) return false;
-  const auto patienceEnds = std::chrono::steady_clock::now() + patience;
-  while (!loaded_ && !ended_ && std::chrono::steady_clock::now() < patienceEnds) {
-    handle(*mpv_.waitEvent(handle_.get(), 0.1));
-  }
+  order(anyOrder, {"loadfile", address_.c_str()});
+  await(openingPatience, [this] { return loaded_ || ended_; });
   return loaded_;
+}
+
+void MpvPlayer::order(std::uint64_t number, std::initializer_list<const char*> words) {
+  std::array<const char*, 4> command{};
+  std::copy(words.begin(), words.end(), command.begin());
+  if (mpv_.command(handle_.get(), number, command.data()) >= 0 && number == seekOrder) ++seeking_;
+}
+
+bool MpvPlayer::owesAnswer() const {
+  return std::any_of(answers_.begin(), answers_.end(), [](const Answer& answer) { return answer.awaited; });
+}
+
+const MpvPlayer::Answer& MpvPlayer::ask(Question question) {
+  handleEvents();
+  Answer& answer = answers_.at(question);
+  if (owesAnswer()) return answer;
+  const Asked& asked = questions.at(question);
+  answer.awaited = mpv_.askProperty(handle_.get(), question, asked.property, asked.format) >= 0;
+  await(answerPatience, [&] { return !answer.awaited; });
+  return answer;
+}
+
+void MpvPlayer::await(std::chrono::milliseconds patience, const std::function<bool()>& done) {
+  const auto end = std::chrono::steady_clock::now() + patience;
+  while (!done()) {
+    const std::chrono::duration<double> left = end - std::chrono::steady_clock::now();
+    if (left.count() <= 0) return;
+    handle(*mpv_.waitEvent(handle_.get(), left.count()));
+  }
 }
 
 void MpvPlayer::handle(const mpv_event& event) {
@@ -79,7 +117,15 @@ void MpvPlayer::handle(const mpv_event& event) {
       loaded_ = true;
       break;
     case MPV_EVENT_PLAYBACK_RESTART:
-      arrived_ = true;
+      arrived_ = seeking_ == 0;
+      break;
+    case MPV_EVENT_COMMAND_REPLY:
+      if (event.reply_userdata != seekOrder) break;
+      --seeking_;
+      if (event.error < 0 && seeking_ == 0) sought_ = -1;
+      break;
+    case MPV_EVENT_GET_PROPERTY_REPLY:
+      keep(event);
       break;
     case MPV_EVENT_END_FILE: {
       const auto reason = static_cast<const mpv_event_end_file*>(event.data)->reason;
@@ -91,6 +137,15 @@ void MpvPlayer::handle(const mpv_event& event) {
     default:
       break;
   }
+}
+
+void MpvPlayer::keep(const mpv_event& reply) {
+  Answer& answer = answers_.at(reply.reply_userdata);
+  answer = {};
+  const auto* property = static_cast<const mpv_event_property*>(reply.data);
+  if (reply.error < 0 || property == nullptr) return;
+  if (property->format == MPV_FORMAT_DOUBLE) answer.number = *static_cast<const double*>(property->data);
+  if (property->format == MPV_FORMAT_STRING) answer.text = *static_cast<const char* const*>(property->data);
 }
 
 void MpvPlayer::handleEvents() {
@@ -109,7 +164,11 @@ void MpvPlayer::expectPosition(std::int64_t position) {
 
 void MpvPlayer::setFlag(const char* property, bool on) {
   int value = on ? 1 : 0;
-  mpv_.setProperty(handle_.get(), property, MPV_FORMAT_FLAG, &value);
+  mpv_.setProperty(handle_.get(), anyOrder, property, MPV_FORMAT_FLAG, &value);
+}
+
+void MpvPlayer::setNumber(const char* property, double number) {
+  mpv_.setProperty(handle_.get(), anyOrder, property, MPV_FORMAT_DOUBLE, &number);
 }
 
 void MpvPlayer::play() {
@@ -136,19 +195,17 @@ void MpvPlayer::seek(std::int64_t milliseconds) {
     load(target);
     return;
   }
-  const std::string place = seconds(target);
-  std::array<const char*, 4> command{"seek", place.c_str(), "absolute+exact", nullptr};
-  if (mpv_.command(handle_.get(), command.data()) >= 0) expectPosition(target);
+  order(seekOrder, {"seek", seconds(target).c_str(), "absolute+exact"});
+  expectPosition(target);
 }
 
 void MpvPlayer::setSpeed(double factor) {
-  mpv_.setProperty(handle_.get(), "speed", MPV_FORMAT_DOUBLE, &factor);
+  setNumber("speed", factor);
 }
 
 // libmpv cubes its volume to get the amplitude.
 void MpvPlayer::setVolume(double amplitude) {
-  double percent = 100 * std::cbrt(amplitude);
-  mpv_.setProperty(handle_.get(), "volume", MPV_FORMAT_DOUBLE, &percent);
+  setNumber("volume", 100 * std::cbrt(amplitude));
 }
 
 void MpvPlayer::setAudible(bool audible) {
@@ -156,28 +213,18 @@ void MpvPlayer::setAudible(bool audible) {
 }
 
 bool MpvPlayer::unheard() {
-  char* output = mpv_.getText(handle_.get(), "current-ao");
-  const bool unheard = output != nullptr && std::string_view(output) == nowhere;
-  mpv_.free(output);
-  return unheard;
+  return ask(Output).text == nowhere;
 }
 
 void MpvPlayer::awaitOutput() {
-  const auto patienceEnds = std::chrono::steady_clock::now() + patience;
-  while (!ended_ && std::chrono::steady_clock::now() < patienceEnds) {
-    char* output = mpv_.getText(handle_.get(), "current-ao");
-    if (output == nullptr) {
-      handle(*mpv_.waitEvent(handle_.get(), 0.005));
-      continue;
-    }
-    mpv_.free(output);
-    return;
+  const auto end = std::chrono::steady_clock::now() + outputPatience;
+  while (ask(Output).text.empty() && !owesAnswer() && !ended_ && std::chrono::steady_clock::now() < end) {
+    handle(*mpv_.waitEvent(handle_.get(), 0.005));
   }
 }
 
 void MpvPlayer::reopenOutput() {
-  std::array<const char*, 2> command{"ao-reload", nullptr};
-  mpv_.command(handle_.get(), command.data());
+  order(anyOrder, {"ao-reload"});
 }
 
 MpvPlayer::Mode MpvPlayer::mode() {
@@ -189,10 +236,10 @@ std::int64_t MpvPlayer::position() {
   handleEvents();
   if (ended_) return length_;
   if (sought_ >= 0) return sought_;
-  double reached = 0;
-  mpv_.getProperty(handle_.get(), "time-pos", MPV_FORMAT_DOUBLE, &reached);
+  const std::int64_t reached = std::llround(ask(Place).number * 1000);
+  if (ended_) return length_;
   // Some decoders play a little past the length that they announced.
-  return std::clamp<std::int64_t>(std::llround(reached * 1000), 0, std::max<std::int64_t>(length_ - 1, 0));
+  return std::clamp<std::int64_t>(reached, 0, std::max<std::int64_t>(length_ - 1, 0));
 }
 
 }  // namespace devices
