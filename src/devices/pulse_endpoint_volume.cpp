@@ -9,10 +9,6 @@ namespace devices {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto patience = 500ms;
-
 double fractionOf(const pa_cvolume& volume) {
   return double(pa_cvolume_max(&volume)) / PA_VOLUME_NORM;
 }
@@ -34,8 +30,8 @@ void PulseEndpointVolume::tellOfChange() {
 }
 
 platform::Observable* PulseEndpointVolume::changes() {
-  if (sink_.empty()) return &changes_;  // only open() can find another device
   const PulseConnection::Lock lock(connection_);
+  if (sink_.empty()) return &changes_;  // only open() can find another device
   const bool told = followed_ && PA_CONTEXT_IS_GOOD(pa_context_get_state(followed_));
   return told ? &changes_ : nullptr;
 }
@@ -55,13 +51,28 @@ void PulseEndpointVolume::stopFollowing() {
   writes_ = 0;
 }
 
-void PulseEndpointVolume::answered(pa_context*, const pa_sink_info* sink, int end, void* self) {
+void PulseEndpointVolume::answered(pa_context* context, const pa_sink_info* sink, int end, void* self) {
   auto& volume = *static_cast<PulseEndpointVolume*>(self);
   const std::optional<Device> before = volume.device_;
-  if (end < 0) volume.device_.reset();
+  if (end < 0 && pa_context_errno(context) == PA_ERR_NOENTITY)
+    volume.keepRequest(pa_context_get_server_info(context, &moved, self));
   if (sink && volume.writes_ == 0)
     volume.device_ = Device{sink->volume, sink->mute != 0, sink->description ? sink->description : ""};
   if (volume.device_ != before) volume.tellOfChange();
+}
+
+// The device has gone, such as headphones that were pulled: what played there plays on the default device
+// now.
+void PulseEndpointVolume::moved(pa_context*, const pa_server_info* server, void* self) {
+  auto& volume = *static_cast<PulseEndpointVolume*>(self);
+  if (server == nullptr) return;
+  const std::string name = server->default_sink_name ? server->default_sink_name : "";
+  if (name.empty() || name == noCard || name == volume.sink_) {
+    volume.device_.reset();
+    return volume.tellOfChange();
+  }
+  volume.sink_ = name;
+  volume.keepRequest(volume.askForDevice());
 }
 
 void PulseEndpointVolume::changed(pa_context*, pa_subscription_event_type_t, uint32_t, void* self) {
@@ -81,6 +92,8 @@ pa_operation* PulseEndpointVolume::askForDevice() {
 
 bool PulseEndpointVolume::follow() {
   if (!connection_.ready()) {
+    // What a server that hangs has told last still stands.
+    if (followed_ && connection_.hanging() && followed_ == connection_.context()) return true;
     stopFollowing();
     return false;
   }
@@ -94,7 +107,7 @@ bool PulseEndpointVolume::follow() {
     keepRequest(pa_context_subscribe(followed_, PA_SUBSCRIPTION_MASK_SINK, nullptr, nullptr));
     request = askForDevice();
   }
-  connection_.finish(request, patience);
+  connection_.finish(request);
   return true;
 }
 
@@ -115,14 +128,14 @@ bool PulseEndpointVolume::open() {
         },
         &found);
   }
-  connection_.finish(request, patience);
+  if (!connection_.finish(request) && connection_.hanging()) return currentDevice().has_value();
   {
     const PulseConnection::Lock lock(connection_);
     sink_ = found == noCard ? std::string() : found;
     device_.reset();
     request = askForDevice();
   }
-  connection_.finish(request, patience);
+  connection_.finish(request);
   return currentDevice().has_value();
 }
 

@@ -57,6 +57,7 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
   // Remembers a request, to cancel it if this object is destroyed before the answer comes.
   void keepRequest(pa_operation* request);
   static void answered(pa_context* context, const pa_sink_info* sink, int end, void* self);
+  static void moved(pa_context* context, const pa_server_info* server, void* self);
   static void changed(pa_context* context, pa_subscription_event_type_t what, uint32_t index, void* self);
   static void done(pa_context* context, int success, void* self);
 
@@ -64,8 +65,8 @@ class PulseEndpointVolume final : public platform::EndpointVolume {
   HandOver handOver_;
   platform::Observable changes_;
   pa_context* followed_ = nullptr;  // referenced, so that no new context can get its address
-  std::string sink_;
-  std::optional<Device> device_;  // this and all below are used under the connection's lock
+  std::string sink_;                // this and all below are used under the connection's lock
+  std::optional<Device> device_;
   std::vector<pa_operation*> requests_;
   int writes_ = 0;           // not confirmed yet; a report that comes meanwhile is out of date
   bool deviceSeen_ = false;  // whether the last read found a device

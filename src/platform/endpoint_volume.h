@@ -10,8 +10,9 @@ namespace platform {
 class EndpointVolume {
  public:
   virtual ~EndpointVolume() = default;
-  // Finds the present default playback device, which the other functions then use until the next call. False:
-  // there is none. Once the device has gone, reads give false, 0 or an empty text, and writes do nothing.
+  // Finds the present default playback device, which the other functions then use until the next call, or
+  // until it goes and sound is moved to another. False: there is none. While there is none, reads give false,
+  // 0 or an empty text, and writes do nothing.
   virtual bool open() = 0;
   virtual bool muted() = 0;
   virtual void setMuted(bool muted) = 0;

@@ -80,6 +80,32 @@ TEST_F(EndpointVolume, StaysWithItsDeviceUntilItIsOpenedAnew) {
   pactl("set-default-sink test_out");
 }
 
+TEST_F(EndpointVolume, GoesWhereTheSoundGoesWhenItsDeviceIsPulled) {
+  pactl("load-module module-null-sink sink_name=headphones >/dev/null");
+  pactl("set-default-sink headphones");
+  pactl("set-sink-volume headphones 30%");
+  ASSERT_TRUE(volume.open());
+  EXPECT_NEAR(volume.level(), 0.3, 0.001);
+  pactl("unload-module $(pactl list short modules | grep headphones | cut -f1)");
+  double lowest = 1;
+  EXPECT_TRUE(comes([&] {
+    lowest = std::min(lowest, volume.level());
+    return volume.level() > 0.7;
+  }));
+  EXPECT_GT(lowest, 0.2);  // what is read sets the music's own volume, too
+}
+
+TEST_F(EndpointVolume, KeepsWhatAServerThatHangsSaidLast) {
+  const pid_t server = support::serverPid();
+  kill(server, SIGSTOP);
+  EXPECT_TRUE(volume.open());
+  EXPECT_NEAR(volume.level(), 0.8, 0.001);
+  kill(server, SIGCONT);
+  pactl("set-sink-volume test_out 50%");
+  EXPECT_TRUE(comes([&] { return std::abs(volume.level() - 0.5) < 0.001; }));
+  EXPECT_TRUE(comes([&] { return connection.ready(); }));
+}
+
 TEST_F(EndpointVolume, OvercomesAServerThatDies) {
   EXPECT_NE(volume.changes(), nullptr);
   kill(support::serverPid(), SIGKILL);
