@@ -1,7 +1,9 @@
 // Whole rides with music at a real sound server: presses the program's buttons and listens to its sound. Run
 // it under with-sound-server.
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -13,6 +15,8 @@
 #include <complex>
 #include <map>
 #include <numbers>
+#include <optional>
+#include <set>
 
 #include "desktop/desktop_program.h"
 #include "desktop/loudspeaker.h"
@@ -253,17 +257,26 @@ class Ambience : public testing::Test {
     choose("mnambiance");
     for (const char* name : {"Command8", "Check1", "MyButton11", "MyButton9"}) press("EnrUneAnnonce", name);
   }
-  // Rides a session; gives its sound from the countdown to the last word.
-  std::vector<Frame> ride(const std::string& session) {
+  // Puts a session before the rider, who may press "start".
+  void prepare(const std::string& session) {
     put("chronodat/Essai.tq2", session);
     program_->addSession(at("chronodat/Essai.tq2"));
     press("CreerCycle", "MyButton5");
     // The frame for starting opens by itself a moment later; a start before that would be undone.
-    const auto& startOrStop = widget<QPushButton>("MainForm", "MyButton1");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return startOrStop.text() == QLatin1String("Stop"); }, 10000));
-    Recording recording;
+    EXPECT_TRUE(QTest::qWaitFor([] { return rideButtonSays("Stop"); }, 10000));
+  }
+  static bool rideButtonSays(const char* caption) {
+    return widget<QPushButton>("MainForm", "MyButton1").text() == QLatin1String(caption);
+  }
+  static void rideUntil(const std::function<bool()>& done) {
     press("MainForm", "MyButton3");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return startOrStop.text() == QLatin1String("Start"); }, 60000));
+    EXPECT_TRUE(QTest::qWaitFor(done, 60000));
+  }
+  // Rides a session; gives its sound from the countdown to the last word.
+  std::vector<Frame> ride(const std::string& session) {
+    prepare(session);
+    Recording recording;
+    rideUntil([] { return rideButtonSays("Start"); });
     return framesOf(recording.samples());
   }
 
@@ -344,6 +357,105 @@ TEST_F(Ambience, TheMusicGoesOnUnderTheVoiceAndFromPieceToPiece) {
   ASSERT_FALSE(second.empty());
   EXPECT_GT(second[0].begin, first[0].end);
   EXPECT_LT(placeIn(nextPiece, frames[second[0].begin]), 0.1);
+}
+
+void order(const std::string& words) {
+  ASSERT_EQ(std::system(words.c_str()), 0) << words;
+}
+
+// Does something at the moment when the time that is left of a ride shows a text.
+class At : public QTimer {
+ public:
+  At(const char* left, std::function<void()> action) {
+    connect(this, &QTimer::timeout, [this, left, action = std::move(action)] {
+      auto* label = QApplication::activeWindow()->findChild<QWidget*>("Label40");
+      if (label->property("text").toString() != QLatin1String(left)) return;
+      stop();
+      action();
+    });
+    start(10);
+  }
+};
+
+// Notes each text that a label paints.
+class Reader : public QObject {
+ public:
+  explicit Reader(QLabel& label) : label_(label) { label.installEventFilter(this); }
+  std::set<QString> texts;
+
+ private:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint && !label_.text().isEmpty()) texts.insert(label_.text());
+    return false;
+  }
+  QLabel& label_;
+};
+
+void expectVoiceAndMusic(const std::vector<Frame>& frames) {
+  EXPECT_GT(std::count_if(frames.begin(), frames.end(), [](const Frame& frame) { return frame.speaks(); }),
+            25);
+  EXPECT_GT(std::count_if(frames.begin(), frames.end(), [](const Frame& frame) { return frame.hasMusic(); }),
+            25);
+}
+
+TEST_F(Ambience, AServerThatHangsHoldsUpNothingAndIsHeardAgain) {
+  put("ambiances/x.mp3", music(longPiece));
+  start("011100011101");
+  tickAllMusic();
+  prepare(header(3) + row("Sprint", "00:00:02") + row("Sprint", "00:00:06"));
+
+  std::optional<Recording> recording;
+  QElapsedTimer sinceBeat;
+  qint64 longest = 0;
+  QTimer beat;
+  QObject::connect(&beat, &QTimer::timeout, [&] { longest = std::max(longest, sinceBeat.restart()); });
+  std::optional<Reader> reader;
+  const At hang("00:00:07", [&] {
+    order("kill -STOP $(cat $SOUND_SERVER_PID_FILE); (sleep 9; kill -CONT $(cat $SOUND_SERVER_PID_FILE)) &");
+    reader.emplace(widget<QLabel>("MainForm", "ridePrompt"));
+    sinceBeat.start();
+    beat.start(10);
+  });
+  const At goesOn("00:00:05", [&] {
+    beat.stop();
+    EXPECT_GE(reader->texts.size(), 2U);  // the second row and its kind
+    recording.emplace();                  // begins when the server runs again
+  });
+  bool done = false;
+  const At halfWaySaid("00:00:01", [&] { done = true; });
+  rideUntil([&] { return done; });
+  EXPECT_LT(longest, 2500);  // the longest prompt takes 1.4 s
+  ASSERT_TRUE(recording);
+  expectVoiceAndMusic(framesOf(recording->samples()));
+}
+
+TEST_F(Ambience, VoiceAndMusicFollowTheLoudspeaker) {
+  put("ambiances/x.mp3", music(longPiece));
+  order("pactl load-module module-null-sink sink_name=headphones >/dev/null");
+  order("pactl set-default-sink headphones");
+  start("011100011011");
+  tickAllMusic();
+  prepare(header(3) + row("Sprint", "00:00:03") + row("Sprint", "00:00:06"));
+
+  std::optional<Recording> recording;
+  const At pulled("00:00:07", [&] {
+    recording.emplace();
+    order("pactl unload-module $(pactl list short modules | grep headphones | cut -f1)");
+  });
+  const At killed("00:00:05", [&] {
+    expectVoiceAndMusic(framesOf(recording->samples()));
+    recording.reset();
+    const pid_t server = support::serverPid();
+    kill(server, SIGKILL);
+    EXPECT_TRUE(support::comes(
+        [&] { return support::serverPid() != server && std::system("pactl info >/dev/null 2>&1") == 0; }));
+    recording.emplace();
+  });
+  bool done = false;
+  const At halfWaySaid("00:00:01", [&] { done = true; });
+  rideUntil([&] { return done; });
+  ASSERT_TRUE(recording);
+  expectVoiceAndMusic(framesOf(recording->samples()));
 }
 
 TEST_F(Ambience, AnImportIsGivenUpByItsButton) {

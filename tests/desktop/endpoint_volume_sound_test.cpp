@@ -2,6 +2,7 @@
 // with-sound-server.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <csignal>
 #include <cstdlib>
