@@ -54,8 +54,7 @@ Drafts::Drafts(const context::Context& context)
       editor_(context.screens.editor),
       grid_(editor_.ListView1),
       state_(context.state),
-      captions_{&editor_.Label8.caption, &editor_.Label9.caption, &context.screens.main.MyFrame1.caption,
-                &editor_.MyButton3.caption, &editor_.MyButton4.caption} {
+      captions_(listCaptions(context.screens)) {
   grid_.watchGrid([this](const platform::GridChange& change) { listChanged(change); });
   editor_.TimerDraft.tick.handle([this] { keep(); });
   editor_.DraftResume.click.handle([this] { resume(); });
@@ -157,10 +156,13 @@ void Drafts::keepNow() {
 }
 
 void Drafts::write() {
-  if (!written_) platform::eachOnItsOwn([this] { putAside(); });
+  // What an earlier run left and the start could not put aside is never written over.
+  if (!written_) {
+    if (std::string left = putAside(); !left.empty()) offered_.push_back(std::move(left));
+  }
   model::writeDraft(context_.outside.files, state_.dossierProgramme + ownName, draft(), grid_);
   written_ = true;
-  if (!editor_.DraftResume.visible) offer();  // instead of a failure
+  offer();  // also instead of a failure
   // What was taken up again lies in the present draft now.
   const std::string replaced = std::exchange(resumed_, {});
   if (!replaced.empty()) platform::eachOnItsOwn([&] { context_.outside.files.remove(replaced); });
@@ -212,10 +214,7 @@ void Drafts::show(const model::Draft& kept) {
     grid_.addColumn(std::move(made));
   for (const platform::Grid::Cells& row : kept.rows) {
     grid_.addRow(row);
-    const bool first = grid_.rowCount() == 1;
-    grid_.setStyle(grid_.rowCount(), first ? column::cycleName : column::sessionName,
-                   first ? column::duration : column::deleteMark,
-                   first ? model::row_style::firstRow : model::row_style::finished);
+    styleRow(grid_, grid_.rowCount());
   }
   sizeGrid(editor_);
   recalerColonnes(editor_);

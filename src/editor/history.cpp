@@ -33,8 +33,7 @@ History::History(const context::Context& context)
       editor_(context.screens.editor),
       grid_(editor_.ListView1),
       state_(context.state),
-      captions_{&editor_.Label8.caption, &editor_.Label9.caption, &context.screens.main.MyFrame1.caption,
-                &editor_.MyButton3.caption, &editor_.MyButton4.caption} {
+      captions_(listCaptions(context.screens)) {
   grid_.watchGrid([this](const platform::GridChange& change) { recordChange(change); });
   for (platform::Component* captioned : std::initializer_list<platform::Component*>{
            &editor_.Label8, &editor_.Label9, &context.screens.main.MyFrame1, &editor_.MyButton3,
@@ -169,10 +168,7 @@ void History::apply(const Change& change, bool backwards) {
     return;
   }
   grid_.insertRow(change.row, *change.cells);
-  const bool first = change.row == 1;
-  grid_.setStyle(change.row, first ? column::cycleName : column::sessionName,
-                 first ? column::duration : column::deleteMark,
-                 first ? model::row_style::firstRow : model::row_style::finished);
+  styleRow(grid_, change.row);
 }
 
 // Only what the step changed, because a hand-over may have set other captions since.

@@ -25,6 +25,21 @@ void recalerColonnes(forms::CreerCycle& form) {
   }
 }
 
+std::array<platform::Property<std::string>*, 5> listCaptions(forms::Screens& screens) {
+  forms::CreerCycle& editor = screens.editor;
+  return {&editor.Label8.caption, &editor.Label9.caption, &screens.main.MyFrame1.caption,
+          &editor.MyButton3.caption, &editor.MyButton4.caption};
+}
+
+void styleRow(platform::Grid& grid, int row) {
+  using namespace model;
+  if (row == 1) {
+    grid.setStyle(row, column::cycleName, column::duration, row_style::firstRow);
+  } else {
+    grid.setStyle(row, column::sessionName, column::deleteMark, row_style::finished);
+  }
+}
+
 void sizeGrid(forms::CreerCycle& form) {
   form.ListView1.width = gridWidth + extraWidth(form);
   if (!form.maximised) form.ListView1.height = gridHeight;

@@ -69,9 +69,9 @@ void Lines::buildList() {
     grid_.addColumn(std::move(made));
   editor_.File2.refresh();
   grid_.addRow(model::firstRow());
-  grid_.setStyle(1, column::cycleName, column::duration, model::row_style::firstRow);
+  styleRow(grid_, 1);
   grid_.addRow(model::handMadeRow(2, std::string(model::noMeaning)));
-  grid_.setStyle(2, column::sessionName, column::deleteMark, model::row_style::finished);
+  styleRow(grid_, 2);
 }
 
 void Lines::showTotalTitle() {
