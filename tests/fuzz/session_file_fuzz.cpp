@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // have it is refused at once.
   const model::SessionHeader header = model::lireEnTete(files, "/d/any.tq2");
   const double rows = static_cast<double>(header.nbEnreg) * std::max(1, header.fois);
-  if (rows > 100 && rows < 30000) return 0;
+  if (rows > 30 && rows < 30000) return 0;
   load(files, "/d/any.tq2");
   try {
     const std::string converted = model::convertirAncien(files, "/d/any.tq2");
