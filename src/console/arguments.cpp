@@ -3,7 +3,7 @@
 #include <charconv>
 #include <utility>
 
-#include "console/escaping.h"
+#include "rehearsal/escaping.h"
 
 namespace console {
 namespace {
@@ -58,7 +58,7 @@ std::string Arguments::text() {
   if (taken.size() >= 2 && taken.front() == '"' && taken.back() == '"') {
     taken = taken.substr(1, taken.size() - 2);
   }
-  return unescaped(taken);
+  return rehearsal::unescaped(taken);
 }
 
 std::string_view Arguments::rest() {

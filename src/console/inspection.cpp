@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "console/arguments.h"
-#include "console/escaping.h"
 #include "console/reach.h"
 #include "platform/controls.h"
 #include "platform/grid.h"
+#include "rehearsal/escaping.h"
 
 namespace console {
 namespace {
@@ -44,7 +44,7 @@ std::optional<Prop> shownProperty(ControlKind kind) {
 
 std::string joined(const std::vector<std::string>& cells) {
   std::string line;
-  for (std::size_t i = 0; i < cells.size(); ++i) line += (i == 0 ? "" : "\t") + escaped(cells[i]);
+  for (std::size_t i = 0; i < cells.size(); ++i) line += (i == 0 ? "" : "\t") + rehearsal::escaped(cells[i]);
   return line;
 }
 
@@ -73,7 +73,7 @@ const std::vector<std::string>& linesOf(const platform::Component& list) {
 void printRows(std::ostream& out, const platform::Component& gridOrList) {
   const auto* grid = dynamic_cast<const platform::Grid*>(&gridOrList);
   if (grid == nullptr) {
-    for (const std::string& line : linesOf(gridOrList)) out << escaped(line) << '\n';
+    for (const std::string& line : linesOf(gridOrList)) out << rehearsal::escaped(line) << '\n';
     return;
   }
   for (int row = 1; row <= grid->rowCount(); ++row) {
@@ -95,7 +95,7 @@ void printCellStyle(std::ostream& out, const platform::Grid& grid, int row, int 
 void printVisible(std::ostream& out, const platform::Form& form, const platform::MenuItem* popUp) {
   for (const platform::Component* component : form.components()) {
     if (reachOf(*component, popUp) == Reach::Hidden) continue;
-    out << form.name() << '.' << component->name() << '\t' << escaped(shownBy(*component));
+    out << form.name() << '.' << component->name() << '\t' << rehearsal::escaped(shownBy(*component));
     const bool ticked =
         component->kind() == ControlKind::CheckBox || component->kind() == ControlKind::Option;
     if (ticked) out << '\t' << component->property(Prop::Value)->asText();

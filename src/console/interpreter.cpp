@@ -4,8 +4,8 @@
 #include <exception>
 #include <vector>
 
-#include "console/journal.h"
 #include "platform/form.h"
+#include "rehearsal/journal.h"
 
 namespace console {
 
@@ -59,7 +59,7 @@ void Interpreter::carryOutDue() {
   while (!pending_.empty() && pending_.begin()->first <= loop_.clock().now()) {
     const std::string line = std::move(pending_.extract(pending_.begin()).mapped());
     // Taken before the command runs, which may itself wait.
-    const std::string stamp = secondsText(loop_.clock().now()) + "\t";
+    const std::string stamp = rehearsal::secondsText(loop_.clock().now()) + "\t";
     perform(line);
     deliver(stamp);
   }

@@ -87,10 +87,10 @@ constexpr std::array<KnownOption, 7> table{{
     {"--now", [](Options& o, const std::string& value) { o.start = parseNow(value); }},
     {"--sound",
      [](Options& o, const std::string& value) {
-       o.sound =
-           oneOf<SoundMode, 3>("--sound", value,
-                               {{std::pair{"none", SoundMode::None}, std::pair{"instant", SoundMode::Instant},
-                                 std::pair{"timed", SoundMode::Timed}}});
+       o.sound = oneOf<rehearsal::SoundMode, 3>("--sound", value,
+                                                {{std::pair{"none", rehearsal::SoundMode::None},
+                                                  std::pair{"instant", rehearsal::SoundMode::Instant},
+                                                  std::pair{"timed", rehearsal::SoundMode::Timed}}});
      }},
     {"--volume", [](Options& o, const std::string& value) { o.volume = parseVolume(value); }},
     {"--ride", [](Options& o, const std::string& value) { o.ride = value; }},

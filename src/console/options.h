@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "console/simulated_sound.h"
 #include "platform/clock.h"
+#include "rehearsal/simulated_sound.h"
 
 namespace console {
 
@@ -15,7 +15,7 @@ struct Options {
   std::string folder;  // empty: the one that the desktop program would use
   bool realClock = false;
   platform::LocalTime start{};
-  SoundMode sound = SoundMode::Instant;
+  rehearsal::SoundMode sound = rehearsal::SoundMode::Instant;
   std::optional<int> volume = 80;
   std::string script;  // empty: standard input
   std::string ride;    // a session file to ride at the terminal

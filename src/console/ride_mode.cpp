@@ -10,16 +10,9 @@
 #include "console/reach.h"
 #include "console/ride_clock.h"
 #include "console/ride_screen.h"
-#include "console/simulated_endpoint_volume.h"
-#include "console/simulated_media.h"
-#include "console/simulated_output_level.h"
-#include "console/simulated_printer.h"
-#include "console/simulated_screen_saver.h"
-#include "console/simulated_shell.h"
-#include "console/simulated_sound.h"
 #include "disk/disk_file_system.h"
 #include "forms/main_form_words.h"
-#include "platform/media_parser.h"
+#include "rehearsal/devices.h"
 
 namespace console {
 namespace {
@@ -99,23 +92,15 @@ class Ride {
   Ride(const std::string& sessionFile, double speed)
       : scratch_(sessionFile),
         clock_(speed, terminal_),
-        journal_(clock_),
         screen_(terminal_, std::cout),
-        silence_(SoundMode::Timed, files_, scratch_.folder(), journal_),
-        voice_(screen_, silence_),
+        devices_(clock_, files_, scratch_.folder(), rehearsal::SoundMode::Timed),
+        voice_(screen_, devices_.sound),
         dialogs_(screen_, scratch_.session()),
-        saver_(journal_),
-        media_(clock_, files_, machine_),
-        mediaCommands_(media_),
-        level_(journal_),
-        shell_(journal_),
-        volume_(machine_, journal_),
-        printer_(journal_),
-        program_(
-            {clock_, voice_, dialogs_, files_, saver_, mediaCommands_, level_, shell_, volume_, printer_},
-            {scratch_.folder(), VENTORIA_VERSION, {}}),
+        program_({clock_, voice_, dialogs_, files_, devices_.screenSaver, devices_.mediaCommands,
+                  devices_.level, devices_.shell, devices_.volume, devices_.printer},
+                 {scratch_.folder(), VENTORIA_VERSION, {}}),
         refreshPeriod_(static_cast<int>(100 * speed)) {
-    silence_.attach(loop_);
+    devices_.sound.attach(loop_);
     loop_.onInput([this] { handleInput(); });
   }
 
@@ -178,20 +163,11 @@ class Ride {
   ScratchFolder scratch_;
   Terminal terminal_;
   RideClock clock_;
-  Journal journal_;
   RideScreen screen_;
   disk::DiskFileSystem files_;
-  SimulatedSound silence_;
+  rehearsal::Devices devices_;
   WrittenVoice voice_;
   RideDialogs dialogs_;
-  SimulatedScreenSaver saver_;
-  SimulatedMachine machine_;
-  SimulatedMedia media_;
-  platform::ParsedMediaCommands mediaCommands_;
-  SimulatedOutputLevel level_;
-  SimulatedShell shell_;
-  SimulatedEndpointVolume volume_;
-  SimulatedPrinter printer_;
   app::Program program_;
   platform::EventLoop& loop_ = program_.loop();
   forms::MainForm& main_ = program_.screens().main;

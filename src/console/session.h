@@ -9,14 +9,8 @@
 #include "console/direct_hands.h"
 #include "console/interpreter.h"
 #include "console/options.h"
-#include "console/simulated_endpoint_volume.h"
-#include "console/simulated_media.h"
-#include "console/simulated_output_level.h"
-#include "console/simulated_printer.h"
-#include "console/simulated_screen_saver.h"
-#include "console/simulated_shell.h"
 #include "disk/disk_file_system.h"
-#include "platform/media_parser.h"
+#include "rehearsal/devices.h"
 
 namespace console {
 
@@ -33,24 +27,12 @@ class Session {
   [[nodiscard]] app::Program& program() { return program_; }
   [[nodiscard]] Interpreter& interpreter() { return interpreter_; }
   // Writes the recorder's take to a file, for a front that draws its curve; not in the journal.
-  void saveTake(const std::string& path) { media_.save("capture", path); }
+  void saveTake(const std::string& path) { devices_.media.save("capture", path); }
 
  private:
   std::unique_ptr<platform::Clock> clock_;
-  Journal journal_;
   disk::DiskFileSystem disk_;
-  platform::FileSystem& files_;
-  SimulatedSound sound_;
-  ScriptedDialogs dialogs_;
-  SimulatedScreenSaver screenSaver_;
-  SimulatedMachine machine_;
-  SimulatedMedia media_;
-  platform::ParsedMediaCommands mediaCommands_;
-  JournaledMedia journaledMedia_;
-  SimulatedOutputLevel level_;
-  SimulatedShell shell_;
-  SimulatedEndpointVolume volume_;
-  SimulatedPrinter printer_;
+  rehearsal::Devices devices_;
   app::Program program_;
   DirectHands directHands_;
   Interpreter interpreter_;

@@ -6,8 +6,9 @@
 #include <stdexcept>
 #include <utility>
 
-#include "console/escaping.h"
 #include "console/names.h"
+#include "rehearsal/escaping.h"
+#include "rehearsal/simulated_clock.h"
 
 namespace console {
 namespace {
@@ -136,7 +137,7 @@ void TestCommands::microphone(Arguments& arguments) {
 void TestCommands::get(Arguments& arguments) {
   const PropertyAddress address = findProperty(world_.screens, arguments.word("FORM.CONTROL.PROP"));
   arguments.end();
-  out_ << escaped(valueAt(address)) << '\n';
+  out_ << rehearsal::escaped(valueAt(address)) << '\n';
 }
 
 void TestCommands::rows(Arguments& arguments) {
@@ -156,7 +157,7 @@ void TestCommands::cellColour(Arguments& arguments) {
 void TestCommands::lines(Arguments& arguments) {
   const platform::Component& list = findControl(world_.screens, arguments.word("FORM.CONTROL"));
   arguments.end();
-  for (const std::string& line : linesOf(list)) out_ << escaped(line) << '\n';
+  for (const std::string& line : linesOf(list)) out_ << rehearsal::escaped(line) << '\n';
 }
 
 void TestCommands::visible(Arguments& arguments) {
@@ -179,21 +180,21 @@ void TestCommands::plan(Arguments& arguments) {
 void TestCommands::var(Arguments& arguments) {
   const std::string name = arguments.word("name");
   arguments.end();
-  out_ << escaped(variable(world_.state, name)) << '\n';
+  out_ << rehearsal::escaped(variable(world_.state, name)) << '\n';
 }
 
 void TestCommands::journal(Arguments& arguments) {
   const std::string kind = arguments.empty() ? std::string() : arguments.word("kind");
   arguments.end();
-  const std::vector<std::string>& kinds = Journal::kinds();
+  const std::vector<std::string>& kinds = rehearsal::Journal::kinds();
   if (!kind.empty() && std::find(kinds.begin(), kinds.end(), kind) == kinds.end()) {
     throw CommandError("no kind " + kind + platform::nearNames(kind, kinds));
   }
   world_.journal.print(out_, kind);
 }
 
-platform::SimulatedClock& TestCommands::simulatedClock() {
-  auto* clock = dynamic_cast<platform::SimulatedClock*>(&world_.loop.clock());
+rehearsal::SimulatedClock& TestCommands::simulatedClock() {
+  auto* clock = dynamic_cast<rehearsal::SimulatedClock*>(&world_.loop.clock());
   if (clock == nullptr) throw CommandError("the machine's own clock goes as it goes");
   return *clock;
 }
@@ -201,7 +202,8 @@ platform::SimulatedClock& TestCommands::simulatedClock() {
 void TestCommands::compare(const std::string& what, const std::string& is, const std::string& wanted) {
   if (is == wanted) return;
   failed_ = true;
-  out_ << "FAILED: " << what << " is \"" << escaped(is) << "\", not \"" << escaped(wanted) << "\"\n";
+  out_ << "FAILED: " << what << " is \"" << rehearsal::escaped(is) << "\", not \""
+       << rehearsal::escaped(wanted) << "\"\n";
 }
 
 void TestCommands::expect(Arguments& arguments) {
@@ -217,7 +219,7 @@ void TestCommands::expectVar(Arguments& arguments) {
 }
 
 void TestCommands::echo(Arguments& arguments) {
-  out_ << escaped(arguments.text()) << '\n';
+  out_ << rehearsal::escaped(arguments.text()) << '\n';
 }
 
 }  // namespace console

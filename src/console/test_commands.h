@@ -5,10 +5,11 @@
 
 #include "console/command_table.h"
 #include "console/inspection.h"
-#include "console/journal.h"
 #include "console/rider_commands.h"
-#include "console/scripted_dialogs.h"
-#include "console/simulated_machine.h"
+#include "rehearsal/journal.h"
+#include "rehearsal/scripted_dialogs.h"
+#include "rehearsal/simulated_clock.h"
+#include "rehearsal/simulated_machine.h"
 
 namespace console {
 
@@ -18,9 +19,9 @@ class TestCommands {
     forms::Screens& screens;
     const model::SharedState& state;
     platform::EventLoop& loop;
-    Journal& journal;
-    ScriptedDialogs& dialogs;
-    SimulatedMachine& machine;
+    rehearsal::Journal& journal;
+    rehearsal::ScriptedDialogs& dialogs;
+    rehearsal::SimulatedMachine& machine;
   };
 
   TestCommands(const World& world, const RiderCommands& rider, std::ostream& out)
@@ -53,7 +54,7 @@ class TestCommands {
   void expectVar(Arguments& arguments);
   void echo(Arguments& arguments);
 
-  [[nodiscard]] platform::SimulatedClock& simulatedClock();
+  [[nodiscard]] rehearsal::SimulatedClock& simulatedClock();
   void compare(const std::string& what, const std::string& is, const std::string& wanted);
 
   World world_;

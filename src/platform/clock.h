@@ -1,4 +1,4 @@
-// The clock is handed in: simulated for the console and tests, real on the desktop.
+// The clock is handed in: simulated in rehearsals, the console and tests, real on the desktop.
 #pragma once
 
 #include <chrono>
@@ -18,29 +18,6 @@ class Clock {
   // Lets time pass until `when`, or less if input or a device needs attention. Returns at once if `when` has
   // passed already. Fires no timer.
   virtual void sleepUntil(Instant when) = 0;
-};
-
-// Time passes only when somebody sleeps or moves it.
-class SimulatedClock final : public Clock {
- public:
-  explicit SimulatedClock(LocalTime start) : wallAtStart_(start) {}
-  [[nodiscard]] Instant now() const override { return now_; }
-  [[nodiscard]] LocalTime localTime() const override { return wallAtStart_ + now_; }
-  [[nodiscard]] Instant suspended() const override { return suspended_; }
-  void sleepUntil(Instant when) override {
-    if (when > now_) now_ = when;
-  }
-  // Somebody puts the clock on the wall forward, or back.
-  void changeWall(Instant by) { wallAtStart_ += by; }
-  void suspend(Instant length) {
-    suspended_ += length;
-    changeWall(length);
-  }
-
- private:
-  LocalTime wallAtStart_;
-  Instant now_{0};
-  Instant suspended_{0};
 };
 
 // The machine's clock. Sleeps the thread; a front with an event loop of its own overrides sleepUntil.

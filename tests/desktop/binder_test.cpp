@@ -19,6 +19,7 @@
 #include "desktop/unseen_controls.h"
 #include "forms/screens.h"
 #include "platform/clock.h"
+#include "rehearsal/simulated_clock.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ class BinderTest : public testing::Test {
     return *found;
   }
 
-  platform::SimulatedClock clock_{platform::LocalTime{}};
+  rehearsal::SimulatedClock clock_{platform::LocalTime{}};
   platform::EventLoop loop_{clock_};
   forms::Screens screens_;
   model::SharedState state_;

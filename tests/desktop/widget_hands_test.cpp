@@ -12,8 +12,8 @@ namespace {
 
 TEST(WidgetHands, WhatTheFormShowsAndTheWindowDoesNotIsAnError) {
   stage::WidgetHands hands;
-  support::SimulatedProgram program(support::settingsOff, std::chrono::hours(12), console::SoundMode::Instant,
-                                    &hands);
+  support::SimulatedProgram program(support::settingsOff, std::chrono::hours(12),
+                                    rehearsal::SoundMode::Instant, &hands);
   ASSERT_TRUE(program.start());
   desktop::Windows windows(program.program(), widgets::ThemeMode::Dark);
   hands.attach(windows);

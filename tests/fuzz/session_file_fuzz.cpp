@@ -7,7 +7,7 @@
 #include "model/session_file.h"
 #include "platform/fault.h"
 #include "platform/form.h"
-#include "support/memory_file_system.h"
+#include "rehearsal/memory_file_system.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ struct List {
   platform::Grid grid{form, "ListView1"};
 };
 
-void load(support::MemoryFileSystem& files, const std::string& path) {
+void load(rehearsal::MemoryFileSystem& files, const std::string& path) {
   List list;
   platform::Grid& grid = list.grid;
   try {
@@ -51,7 +51,7 @@ void load(support::MemoryFileSystem& files, const std::string& path) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  support::MemoryFileSystem files;
+  rehearsal::MemoryFileSystem files;
   files.put("/d/any.tq2", std::string(data, data + size));
   // Rows beyond the file's end are all alike, and thousands of them only take time; beyond what a list may
   // have it is refused at once.

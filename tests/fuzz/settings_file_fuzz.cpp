@@ -1,10 +1,10 @@
 // Any bytes as the settings file: the program starts, and what it stores afterwards is read as it was stored.
 #include "fuzz/check.h"
 #include "model/settings_file.h"
-#include "support/memory_file_system.h"
+#include "rehearsal/memory_file_system.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  support::MemoryFileSystem files;
+  rehearsal::MemoryFileSystem files;
   const std::string bytes(data, data + size);
   files.put("/d/par.tq3", bytes);
   const std::optional<model::Settings> settings = model::readSettings(files, "/d/par.tq3");

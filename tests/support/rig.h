@@ -5,8 +5,9 @@
 #include <vector>
 
 #include "context/context.h"
+#include "rehearsal/memory_file_system.h"
+#include "rehearsal/simulated_clock.h"
 #include "support/faulty_file_system.h"
-#include "support/memory_file_system.h"
 #include "support/recorded_devices.h"
 
 namespace support {
@@ -40,11 +41,11 @@ struct Rig {
     bool active() override { return false; }
     void setActive(bool) override {}
   } saver;
-  platform::SimulatedClock clock{platform::LocalTime{std::chrono::days(20773) + std::chrono::hours(7)}};
+  rehearsal::SimulatedClock clock{platform::LocalTime{std::chrono::days(20773) + std::chrono::hours(7)}};
   platform::EventLoop loop{clock};
   forms::Screens screens;
   model::SharedState state;
-  MemoryFileSystem memory;
+  rehearsal::MemoryFileSystem memory;
   FaultyFileSystem disk{memory};
   RecordedDialogs dialogs;
   struct : platform::MediaCommands {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "console/session.h"
+#include "rehearsal/memory_file_system.h"
 #include "support/faulty_file_system.h"
-#include "support/memory_file_system.h"
 
 namespace support {
 
@@ -29,7 +29,7 @@ class SimulatedProgram {
  public:
   explicit SimulatedProgram(const std::string& settings = settingsOff,
                             std::chrono::milliseconds timeOfDay = std::chrono::hours(12),
-                            console::SoundMode sound = console::SoundMode::Instant,
+                            rehearsal::SoundMode sound = rehearsal::SoundMode::Instant,
                             console::RiderHands* hands = nullptr)
       : SimulatedProgram(at(timeOfDay, sound), hands) {
     if (!settings.empty()) memory.put("/d/par.tq3", settings);
@@ -54,14 +54,14 @@ class SimulatedProgram {
   [[nodiscard]] model::SharedState& state() { return session_.program().state(); }
 
   // A start at that time of some day.
-  static console::Options at(std::chrono::milliseconds timeOfDay, console::SoundMode sound) {
+  static console::Options at(std::chrono::milliseconds timeOfDay, rehearsal::SoundMode sound) {
     console::Options options;
     options.sound = sound;
     options.start = platform::LocalTime{std::chrono::days(20000) + timeOfDay};
     return options;
   }
 
-  MemoryFileSystem memory;
+  rehearsal::MemoryFileSystem memory;
   FaultyFileSystem disk{memory};
 
  private:

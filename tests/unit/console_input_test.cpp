@@ -1,16 +1,16 @@
 #include <gtest/gtest.h>
 
 #include "console/arguments.h"
-#include "console/escaping.h"
 #include "console/options.h"
 #include "platform/text.h"
+#include "rehearsal/escaping.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 using console::Arguments;
 using console::CommandError;
-using console::SoundMode;
+using rehearsal::SoundMode;
 
 TEST(ConsoleTextTest, TakesTheLastTextToTheEndOfTheLine) {
   const std::pair<const char*, const char*> cases[]{{"  two  words \r", "two  words"},
@@ -23,9 +23,9 @@ TEST(ConsoleTextTest, TakesTheLastTextToTheEndOfTheLine) {
                                                     {"", ""}};
   for (const auto& [written, text] : cases) {
     EXPECT_EQ(Arguments(written).text(), text) << written;
-    EXPECT_EQ(console::unescaped(console::escaped(text)), text);
+    EXPECT_EQ(rehearsal::unescaped(rehearsal::escaped(text)), text);
   }
-  EXPECT_EQ(console::escaped("a\tb\nc\\"), R"(a\tb\nc\\)");
+  EXPECT_EQ(rehearsal::escaped("a\tb\nc\\"), R"(a\tb\nc\\)");
 }
 
 TEST(ConsoleTextTest, RefusesWordsThatAreNoNumbers) {

@@ -5,6 +5,7 @@
 #include "console/direct_hands.h"
 #include "console/interpreter.h"
 #include "platform/fault.h"
+#include "rehearsal/simulated_clock.h"
 
 namespace {
 
@@ -37,15 +38,15 @@ class InterpreterTest : public testing::Test {
     return out_.str();
   }
 
-  platform::SimulatedClock clock_{platform::LocalTime{}};
+  rehearsal::SimulatedClock clock_{platform::LocalTime{}};
   platform::EventLoop loop_{clock_};
   forms::Screens screens_;
   forms::MainForm& main_ = screens_.main;
   forms::CreerCycle& editor_ = screens_.editor;
   model::SharedState state_;
-  console::Journal journal_{clock_};
-  console::ScriptedDialogs dialogs_{journal_};
-  console::SimulatedMachine machine_;
+  rehearsal::Journal journal_{clock_};
+  rehearsal::ScriptedDialogs dialogs_{journal_};
+  rehearsal::SimulatedMachine machine_;
   console::DirectHands hands_;
   std::ostringstream out_;
   console::Interpreter interpreter_{{screens_, state_, loop_, journal_, dialogs_, machine_}, hands_, out_};

@@ -10,7 +10,7 @@
 
 #include "platform/fault.h"
 #include "platform/whole_file.h"
-#include "support/memory_file_system.h"
+#include "rehearsal/memory_file_system.h"
 
 namespace {
 
@@ -69,7 +69,7 @@ void writesAndReadsAnywhere(platform::FileSystem& files, const std::string& fold
 TEST_F(DiskFileSystemTest, WritesAndReadsAnywhereAsInMemory) {
   writesAndReadsAnywhere(disk_, in("deep/er"));
   EXPECT_THAT(disk_.list(in("deep")), ElementsAre()) << "folders are no files";
-  support::MemoryFileSystem memory;
+  rehearsal::MemoryFileSystem memory;
   writesAndReadsAnywhere(memory, "/deep/er");
 }
 

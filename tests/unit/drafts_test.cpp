@@ -16,7 +16,7 @@ const std::string kept = "Une liste non enregistrée du 04/10 à 12:00 a été g
 
 // A program on what another one left behind when it died.
 struct After : SimulatedProgram {
-  explicit After(const support::MemoryFileSystem& left) : SimulatedProgram(std::string()) {
+  explicit After(const rehearsal::MemoryFileSystem& left) : SimulatedProgram(std::string()) {
     memory.files = left.files;
     EXPECT_TRUE(start());
   }

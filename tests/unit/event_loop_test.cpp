@@ -4,6 +4,7 @@
 
 #include "platform/each_on_its_own.h"
 #include "platform/timer.h"
+#include "rehearsal/simulated_clock.h"
 
 namespace {
 
@@ -31,7 +32,7 @@ class Loop : public testing::Test {
   }
   void advance(Instant time) { loop_.runUntil(clock_.now() + time); }
 
-  platform::SimulatedClock clock_{platform::LocalTime{}};
+  rehearsal::SimulatedClock clock_{platform::LocalTime{}};
   platform::EventLoop loop_{clock_};
   TwoTimers form_;
   std::vector<std::string> fired_;

@@ -17,8 +17,8 @@
 
 namespace {
 
-using console::SoundMode;
 using platform::ControlKind;
+using rehearsal::SoundMode;
 
 // All that the rider sees, and what the subsystems share.
 std::string stateOf(support::SimulatedProgram& program) {

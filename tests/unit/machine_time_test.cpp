@@ -14,7 +14,7 @@ using support::SimulatedProgram;
 // Two rows of 3 s and a spoken one between them, from the press that starts the countdown on.
 class TimedRide {
  public:
-  explicit TimedRide(console::SoundMode sound = console::SoundMode::Instant)
+  explicit TimedRide(rehearsal::SoundMode sound = rehearsal::SoundMode::Instant)
       : program_(support::settingsOn, std::chrono::hours(12), sound) {
     program_.memory.put("/d/annonces/allez.wav", "");
     EXPECT_TRUE(program_.start());

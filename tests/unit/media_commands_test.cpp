@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "console/media_length.h"
-#include "console/simulated_media.h"
 #include "platform/media_parser.h"
+#include "rehearsal/media_length.h"
+#include "rehearsal/memory_file_system.h"
+#include "rehearsal/simulated_clock.h"
+#include "rehearsal/simulated_media.h"
 #include "support/media_files.h"
-#include "support/memory_file_system.h"
 
 namespace {
 
@@ -132,18 +133,18 @@ TEST(MediaLength, IsReadFromTheFileItself) {
       {"RIFF", std::nullopt},
   };
   for (const auto& [bytes, wanted] : rows) {
-    support::MemoryFileSystem disk;
+    rehearsal::MemoryFileSystem disk;
     disk.put("/m", bytes);
-    const auto length = console::mediaLength(*disk.open("/m", platform::OpenMode::Read));
+    const auto length = rehearsal::mediaLength(*disk.open("/m", platform::OpenMode::Read));
     EXPECT_EQ(length ? length->count() : -1, wanted.value_or(-1)) << bytes.substr(0, 50) << bytes.size();
   }
 }
 
 struct Simulated : testing::Test {
-  platform::SimulatedClock clock{platform::LocalTime{}};
-  support::MemoryFileSystem disk;
-  console::SimulatedMachine machine;
-  console::SimulatedMedia media{clock, disk, machine};
+  rehearsal::SimulatedClock clock{platform::LocalTime{}};
+  rehearsal::MemoryFileSystem disk;
+  rehearsal::SimulatedMachine machine;
+  rehearsal::SimulatedMedia media{clock, disk, machine};
   platform::ParsedMediaCommands commands{media};
 
   std::string send(const std::string& command) { return commands.send(command); }
@@ -200,7 +201,7 @@ TEST_F(Simulated, RecordsATakeThatIsARealFile) {
   EXPECT_EQ(send("status c length") + " " + send("status c bytespersec"), "16537 11025");
   send("save c tma");
   EXPECT_EQ(disk.files.at("/d/annonces/tma")->size(), 44U + 16538U);  // an odd size is filled up
-  EXPECT_EQ(console::mediaLength(*disk.open("/d/annonces/tma", platform::OpenMode::Read)), 1500ms);
+  EXPECT_EQ(rehearsal::mediaLength(*disk.open("/d/annonces/tma", platform::OpenMode::Read)), 1500ms);
   send("play c from 0");
   pass(500ms);
   EXPECT_EQ(send("status c mode"), "playing");

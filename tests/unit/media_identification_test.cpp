@@ -68,7 +68,7 @@ TEST(MediaIdentification, ReadsTypeSizeAndCode) {
       {"a.b/sans", "", "b/sans", "?     [1x1]"},
   };
   for (const Row& row : rows) {
-    support::MemoryFileSystem disk;
+    rehearsal::MemoryFileSystem disk;
     disk.put(row.name, row.bytes);
     SCOPED_TRACE(std::to_string(&row - rows) + " " + row.name);
     EXPECT_EQ(player::typeParContenu(disk, row.name), row.type);
@@ -125,7 +125,7 @@ TEST(Placement, FitsIntoTheBox) {
 }
 
 TEST(FourccTable, TellsWhatACodeStandsFor) {
-  support::MemoryFileSystem disk;
+  rehearsal::MemoryFileSystem disk;
   support::RecordedDialogs said;
   player::FourccTable table(disk, said);
   table.chargerFourcc("/d/");

@@ -4,12 +4,12 @@
 #include "model/grid_rows.h"
 #include "model/session_file.h"
 #include "model/settings_file.h"
-#include "support/memory_file_system.h"
+#include "rehearsal/memory_file_system.h"
 
 namespace {
 
 using namespace model;
-using support::MemoryFileSystem;
+using rehearsal::MemoryFileSystem;
 using testing::ElementsAre;
 
 std::string padded(std::string text, std::size_t width) {

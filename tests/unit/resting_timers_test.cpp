@@ -7,6 +7,7 @@
 #include "platform/event_loop.h"
 #include "platform/observable.h"
 #include "platform/timer.h"
+#include "rehearsal/simulated_clock.h"
 
 namespace {
 
@@ -86,7 +87,7 @@ class Crowd {
   }
 
   std::mt19937 dice_;
-  platform::SimulatedClock clock_{platform::LocalTime{}};
+  rehearsal::SimulatedClock clock_{platform::LocalTime{}};
   EventLoop loop_;
   platform::Form form_{"F"};
   std::array<platform::Variable<int>, 3> variables_;
@@ -111,7 +112,7 @@ TEST(RestingTimers, DoAtTheSameTicksWhatTheyWouldDoAwake) {
 }
 
 TEST(RestingTimers, WakeNobodyUntilWhatTheyWaitForChanges) {
-  platform::SimulatedClock clock{platform::LocalTime{}};
+  rehearsal::SimulatedClock clock{platform::LocalTime{}};
   EventLoop loop(clock);
   platform::Form form{"F"};
   form.attach(loop);

@@ -6,7 +6,7 @@
 
 namespace {
 
-using console::SoundMode;
+using rehearsal::SoundMode;
 using support::SimulatedProgram;
 
 struct Ride {

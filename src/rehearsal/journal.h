@@ -9,7 +9,7 @@
 
 #include "platform/clock.h"
 
-namespace console {
+namespace rehearsal {
 
 // The clock's seconds with three decimals, as the journal writes them.
 [[nodiscard]] std::string secondsText(platform::Instant instant);
@@ -38,4 +38,4 @@ class Journal {
   std::map<std::string, std::string> states_;  // the last one of each kind
 };
 
-}  // namespace console
+}  // namespace rehearsal

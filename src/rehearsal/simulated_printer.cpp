@@ -1,6 +1,6 @@
-#include "console/simulated_printer.h"
+#include "rehearsal/simulated_printer.h"
 
-namespace console {
+namespace rehearsal {
 
 void SimulatedPrinter::paintPicture(const platform::PageGrid& grid, int left, int top) {
   journal_.write("print", {"PaintPicture", std::to_string(left), std::to_string(top)});
@@ -11,4 +11,4 @@ void SimulatedPrinter::paintPicture(const platform::PageGrid& grid, int left, in
   }
 }
 
-}  // namespace console
+}  // namespace rehearsal

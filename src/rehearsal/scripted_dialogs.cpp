@@ -1,4 +1,4 @@
-#include "console/scripted_dialogs.h"
+#include "rehearsal/scripted_dialogs.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 
 #include "platform/text.h"
 
-namespace console {
+namespace rehearsal {
 namespace {
 
 using platform::Answer;
@@ -94,4 +94,4 @@ std::vector<std::string> ScriptedDialogs::chooseFiles(const platform::FileReques
   return paths;
 }
 
-}  // namespace console
+}  // namespace rehearsal

@@ -2,10 +2,10 @@
 // picture.
 #pragma once
 
-#include "console/journal.h"
 #include "platform/printer.h"
+#include "rehearsal/journal.h"
 
-namespace console {
+namespace rehearsal {
 
 class SimulatedPrinter final : public platform::Printer {
  public:
@@ -32,4 +32,4 @@ class SimulatedPrinter final : public platform::Printer {
   Journal& journal_;
 };
 
-}  // namespace console
+}  // namespace rehearsal

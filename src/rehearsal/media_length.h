@@ -6,9 +6,9 @@
 
 #include "platform/file_system.h"
 
-namespace console {
+namespace rehearsal {
 
 // None for what is neither a WAV file nor MPEG audio. Reads little, however long the file is.
 [[nodiscard]] std::optional<std::chrono::milliseconds> mediaLength(platform::RandomFile& file);
 
-}  // namespace console
+}  // namespace rehearsal

@@ -1,11 +1,11 @@
-#include "console/wav_length.h"
+#include "rehearsal/wav_length.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
 
-namespace console {
+namespace rehearsal {
 namespace {
 
 // A recording in memory, read as a file is.
@@ -106,4 +106,4 @@ std::optional<std::chrono::milliseconds> wavLength(std::span<const unsigned char
   return wavLength(file);
 }
 
-}  // namespace console
+}  // namespace rehearsal

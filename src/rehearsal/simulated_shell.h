@@ -1,10 +1,10 @@
 // A desktop that opens nothing, but writes what it should open to the journal. The machine has a network.
 #pragma once
 
-#include "console/journal.h"
 #include "platform/shell.h"
+#include "rehearsal/journal.h"
 
-namespace console {
+namespace rehearsal {
 
 class SimulatedShell final : public platform::Shell {
  public:
@@ -19,4 +19,4 @@ class SimulatedShell final : public platform::Shell {
   Journal& journal_;
 };
 
-}  // namespace console
+}  // namespace rehearsal

@@ -1,12 +1,12 @@
-#include "console/journal.h"
+#include "rehearsal/journal.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "console/escaping.h"
 #include "platform/text.h"
+#include "rehearsal/escaping.h"
 
-namespace console {
+namespace rehearsal {
 
 std::string secondsText(platform::Instant instant) {
   return std::to_string(instant.count() / 1000) + "." + platform::zeroPadded(instant.count() % 1000, 3);
@@ -39,4 +39,4 @@ void Journal::print(std::ostream& out, std::string_view kind) {
   std::erase_if(lines_, printed);
 }
 
-}  // namespace console
+}  // namespace rehearsal

@@ -3,10 +3,10 @@
 
 #include <cstdio>
 
-#include "console/journal.h"
 #include "platform/output_level.h"
+#include "rehearsal/journal.h"
 
-namespace console {
+namespace rehearsal {
 
 class SimulatedOutputLevel final : public platform::OutputLevel {
  public:
@@ -23,4 +23,4 @@ class SimulatedOutputLevel final : public platform::OutputLevel {
   Journal& journal_;
 };
 
-}  // namespace console
+}  // namespace rehearsal

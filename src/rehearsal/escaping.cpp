@@ -1,9 +1,9 @@
-#include "console/escaping.h"
+#include "rehearsal/escaping.h"
 
 #include <array>
 #include <utility>
 
-namespace console {
+namespace rehearsal {
 namespace {
 
 constexpr std::array<std::pair<char, char>, 3> escapes{{{'\n', 'n'}, {'\t', 't'}, {'\\', '\\'}}};
@@ -42,4 +42,4 @@ std::string unescaped(std::string_view text) {
   return plainText;
 }
 
-}  // namespace console
+}  // namespace rehearsal

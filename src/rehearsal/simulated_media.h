@@ -4,15 +4,15 @@
 
 #include <map>
 
-#include "console/journal.h"
-#include "console/simulated_machine.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "platform/media_backend.h"
 #include "platform/media_commands.h"
 #include "platform/recording.h"
+#include "rehearsal/journal.h"
+#include "rehearsal/simulated_machine.h"
 
-namespace console {
+namespace rehearsal {
 
 class SimulatedMedia final : public platform::MediaBackend {
  public:
@@ -76,4 +76,4 @@ class JournaledMedia final : public platform::MediaCommands {
   Journal& journal_;
 };
 
-}  // namespace console
+}  // namespace rehearsal

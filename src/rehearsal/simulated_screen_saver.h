@@ -1,10 +1,10 @@
 // A screen saver that is on at the start; changes are written to the journal.
 #pragma once
 
-#include "console/journal.h"
 #include "platform/screen_saver.h"
+#include "rehearsal/journal.h"
 
-namespace console {
+namespace rehearsal {
 
 class SimulatedScreenSaver final : public platform::ScreenSaver {
  public:
@@ -21,4 +21,4 @@ class SimulatedScreenSaver final : public platform::ScreenSaver {
   bool active_ = true;
 };
 
-}  // namespace console
+}  // namespace rehearsal

@@ -1,4 +1,4 @@
-#include "console/media_length.h"
+#include "rehearsal/media_length.h"
 
 #include <algorithm>
 #include <array>
@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "console/wav_length.h"
+#include "rehearsal/wav_length.h"
 
-namespace console {
+namespace rehearsal {
 namespace {
 
 using Milliseconds = std::chrono::milliseconds;
@@ -121,4 +121,4 @@ std::optional<Milliseconds> mediaLength(platform::RandomFile& file) {
   return wav ? wav : mpegLength(file);
 }
 
-}  // namespace console
+}  // namespace rehearsal

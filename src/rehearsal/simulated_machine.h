@@ -5,7 +5,7 @@
 
 #include "platform/observable.h"
 
-namespace console {
+namespace rehearsal {
 
 struct SimulatedMachine {
   explicit SimulatedMachine(std::optional<int> percent = 80) : volume(percent) {}
@@ -16,4 +16,4 @@ struct SimulatedMachine {
   bool microphone = true;
 };
 
-}  // namespace console
+}  // namespace rehearsal

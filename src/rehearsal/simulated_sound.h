@@ -3,12 +3,12 @@
 
 #include <string>
 
-#include "console/journal.h"
 #include "platform/event_loop.h"
 #include "platform/file_system.h"
 #include "platform/sound_output.h"
+#include "rehearsal/journal.h"
 
-namespace console {
+namespace rehearsal {
 
 enum class SoundMode {
   None,     // no output device
@@ -41,4 +41,4 @@ class SimulatedSound final : public platform::SoundOutput {
 // A path as the journal writes it: relative where it lies inside `folder`.
 [[nodiscard]] std::string pathInside(const std::string& folder, const std::string& path);
 
-}  // namespace console
+}  // namespace rehearsal

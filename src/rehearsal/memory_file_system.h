@@ -12,7 +12,7 @@
 #include "platform/file_system.h"
 #include "platform/text.h"
 
-namespace support {
+namespace rehearsal {
 
 using platform::OpenMode;
 using platform::RandomFile;
@@ -99,4 +99,4 @@ class MemoryFileSystem final : public platform::FileSystem {
   }
 };
 
-}  // namespace support
+}  // namespace rehearsal

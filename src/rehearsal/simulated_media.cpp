@@ -1,4 +1,4 @@
-#include "console/simulated_media.h"
+#include "rehearsal/simulated_media.h"
 
 #include <algorithm>
 #include <array>
@@ -6,10 +6,10 @@
 #include <numbers>
 #include <vector>
 
-#include "console/media_length.h"
 #include "platform/fault.h"
+#include "rehearsal/media_length.h"
 
-namespace console {
+namespace rehearsal {
 namespace {
 
 using platform::MediaFigure;
@@ -180,4 +180,4 @@ std::string JournaledMedia::send(const std::string& command) {
   return answer;
 }
 
-}  // namespace console
+}  // namespace rehearsal

@@ -5,10 +5,10 @@
 #include <functional>
 #include <string>
 
-#include "console/journal.h"
 #include "platform/dialogs.h"
+#include "rehearsal/journal.h"
 
-namespace console {
+namespace rehearsal {
 
 // With no answer queued, a message with OK alone is answered "ok" and all else "cancel".
 class ScriptedDialogs final : public platform::Dialogs {
@@ -32,4 +32,4 @@ class ScriptedDialogs final : public platform::Dialogs {
   std::function<void(const std::string&)> misfit_;
 };
 
-}  // namespace console
+}  // namespace rehearsal

@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-namespace console {
+namespace rehearsal {
 
 [[nodiscard]] std::string escaped(std::string_view text);
 // A backslash before any other character stands for itself.
 [[nodiscard]] std::string unescaped(std::string_view text);
 
-}  // namespace console
+}  // namespace rehearsal

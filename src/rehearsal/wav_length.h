@@ -7,10 +7,10 @@
 
 #include "platform/file_system.h"
 
-namespace console {
+namespace rehearsal {
 
 // None for what is no WAV file of samples or MS ADPCM.
 [[nodiscard]] std::optional<std::chrono::milliseconds> wavLength(std::span<const unsigned char> wav);
 [[nodiscard]] std::optional<std::chrono::milliseconds> wavLength(platform::RandomFile& wav);
 
-}  // namespace console
+}  // namespace rehearsal

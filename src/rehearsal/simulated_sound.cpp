@@ -1,12 +1,12 @@
-#include "console/simulated_sound.h"
+#include "rehearsal/simulated_sound.h"
 
 #include <filesystem>
 #include <utility>
 
-#include "console/wav_length.h"
 #include "platform/fault.h"
+#include "rehearsal/wav_length.h"
 
-namespace console {
+namespace rehearsal {
 
 std::string pathInside(const std::string& folder, const std::string& path) {
   const std::filesystem::path whole = std::filesystem::path(path).lexically_normal();
@@ -44,4 +44,4 @@ void SimulatedSound::playFile(const std::string& path) {
   letTimePass(wav);
 }
 
-}  // namespace console
+}  // namespace rehearsal

@@ -3,11 +3,11 @@
 
 #include <cmath>
 
-#include "console/journal.h"
-#include "console/simulated_machine.h"
 #include "platform/endpoint_volume.h"
+#include "rehearsal/journal.h"
+#include "rehearsal/simulated_machine.h"
 
-namespace console {
+namespace rehearsal {
 
 class SimulatedEndpointVolume final : public platform::EndpointVolume {
  public:
@@ -36,4 +36,4 @@ class SimulatedEndpointVolume final : public platform::EndpointVolume {
   Journal& journal_;
 };
 
-}  // namespace console
+}  // namespace rehearsal
