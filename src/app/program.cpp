@@ -24,7 +24,7 @@ namespace app {
 
 struct Program::Logic {
   Logic(Program& program, const Setup& setup)
-      : context{program.screens_, program.state_, program.loop_, program.outside_},
+      : context{program.screens_, program.state_, program.loop_, program.outside_, setup.rehearsals},
         voice(context),
         waits(voice, program.loop_),
         reset(context, voice, waits),
@@ -114,6 +114,10 @@ std::vector<std::string> Program::listed(const std::string& folder) {
     }
   });
   return names;
+}
+
+void Program::handOver(const model::RideOrder& order) {
+  logic_->handOver.begin(order);
 }
 
 void Program::end() {

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "context/rehearsals.h"
 #include "forms/screens.h"
 #include "model/training_model.h"
 #include "platform/event_loop.h"
@@ -21,6 +22,7 @@ struct Setup {
   std::string version;  // shown in the main menu
   std::function<void(const std::string&)> faultObserver;  // called with each fault before the rider is told
   std::string documentsFolder = {};                       // where the rider picks music to import
+  context::Rehearsals* rehearsals = nullptr;  // none: nothing is told of how long a ride really takes
   platform::EventLoop::Ticks ticks = platform::EventLoop::Ticks::RestWhereIdle;
 };
 
@@ -34,6 +36,8 @@ class Program {
   // The program's start, as the rider sees it: folders, settings, first prompt, the idle screen.
   // A folder that cannot be made is told to the rider and gives false: the front ends with status 1.
   [[nodiscard]] bool start();
+  // Hands a ride over as the editor does, but without its list.
+  void handOver(const model::RideOrder& order);
   // What every end of the program has to do once, however it came: keeps a list that is not saved.
   void end();
   // An end that the rider has not asked for: his session, or the machine, is being closed. Waits and sounds

@@ -5,9 +5,28 @@
 #include "console/options.h"
 #include "console/ride_mode.h"
 #include "console/session.h"
+#include "disk/disk_file_system.h"
 #include "platform/program_folder.h"
+#include "rehearsal/rehearsals.h"
+#include "rehearsal/session_ride.h"
+#include "rehearsal/timeline_text.h"
 
 namespace {
+
+std::string folderOf(const console::Options& options) {
+  const std::string folder = options.folder.empty() ? platform::programFolder() : options.folder;
+  return std::filesystem::absolute(folder).lexically_normal().string();
+}
+
+// What the ride of this session would be, with the settings and announcements of the program's folder.
+int printTimeline(const console::Options& options) {
+  disk::DiskFileSystem files;
+  const std::string folder = folderOf(options);
+  const model::WholeRide ride{
+      rehearsal::orderOf(files, options.timeline), rehearsal::settingsIn(files, folder), {}};
+  rehearsal::print(std::cout, rehearsal::Rehearsals(files, folder).whole(ride));
+  return 0;
+}
 
 int runScript(const console::Options& options) {
   std::ifstream script;
@@ -15,8 +34,7 @@ int runScript(const console::Options& options) {
     script.open(options.script);
     if (!script.is_open()) throw console::UsageError("cannot open " + options.script);
   }
-  const std::string folder = options.folder.empty() ? platform::programFolder() : options.folder;
-  console::Session session(options, std::filesystem::absolute(folder).lexically_normal().string(), std::cout);
+  console::Session session(options, folderOf(options), std::cout);
   return session.run(options.script.empty() ? std::cin : script, std::cerr);
 }
 
@@ -29,6 +47,7 @@ int main(int count, char** words) {
       std::cout << console::usage();
       return 0;
     }
+    if (!options.timeline.empty()) return printTimeline(options);
     return options.ride.empty() ? runScript(options) : console::ride(options.ride, options.speed);
   } catch (const console::UsageError& error) {
     std::cerr << "ventoria-console: " << error.what() << '\n' << console::usage();

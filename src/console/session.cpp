@@ -17,10 +17,11 @@ Session::Session(const Options& options, const std::string& folder, std::ostream
                  platform::FileSystem* files)
     : clock_(clockFor(options)),
       devices_(*clock_, files != nullptr ? *files : disk_, folder, options.sound, options.volume),
+      rehearsals_(devices_.files, folder),
       program_(devices_.outside(),
                {folder, VENTORIA_VERSION,
                 [this](const std::string& text) { devices_.journal.write("fault", {text}); },
-                platform::documentsFolder(),
+                platform::documentsFolder(), &rehearsals_,
                 options.everyTick ? platform::EventLoop::Ticks::Every
                                   : platform::EventLoop::Ticks::RestWhereIdle}),
       interpreter_({program_.screens(), program_.state(), program_.loop(), devices_.journal, devices_.dialogs,

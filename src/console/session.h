@@ -11,6 +11,7 @@
 #include "console/options.h"
 #include "disk/disk_file_system.h"
 #include "rehearsal/devices.h"
+#include "rehearsal/rehearsals.h"
 
 namespace console {
 
@@ -33,6 +34,7 @@ class Session {
   std::unique_ptr<platform::Clock> clock_;
   disk::DiskFileSystem disk_;
   rehearsal::Devices devices_;
+  rehearsal::Rehearsals rehearsals_;
   app::Program program_;
   DirectHands directHands_;
   Interpreter interpreter_;

@@ -1,6 +1,7 @@
 // What every subsystem's logic is handed: the forms, the shared state, the loop, the outside.
 #pragma once
 
+#include "context/rehearsals.h"
 #include "forms/screens.h"
 #include "model/training_model.h"
 #include "platform/event_loop.h"
@@ -13,6 +14,7 @@ struct Context {
   model::SharedState& state;
   platform::EventLoop& loop;
   const platform::Outside& outside;
+  Rehearsals* rehearsals = nullptr;  // null where rides are not rehearsed
 };
 
 }  // namespace context

@@ -20,6 +20,8 @@ struct PlanRow {
   [[nodiscard]] bool spoken() const;
   // The eight texts, in the order above.
   [[nodiscard]] std::vector<std::string> texts() const;
+
+  bool operator==(const PlanRow&) const = default;
 };
 
 struct RunPlan {
@@ -33,6 +35,8 @@ struct RunPlan {
   void allocate(int last);
   // The row being ridden.
   [[nodiscard]] const PlanRow& current() const;
+
+  bool operator==(const RunPlan&) const = default;
 };
 
 }  // namespace model

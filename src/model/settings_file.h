@@ -14,6 +14,8 @@ inline constexpr std::size_t settingsBoxCount = 13;
 struct Settings {
   std::array<int, settingsBoxCount> boxes{};  // Check1 to Check13
   std::string countdown;                      // s, two characters
+
+  bool operator==(const Settings&) const = default;
 };
 
 // The first record; none where a field shows that the file was damaged. Throws platform::FileFault.

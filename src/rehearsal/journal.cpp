@@ -19,6 +19,7 @@ const std::vector<std::string>& Journal::kinds() {
 }
 
 void Journal::write(std::string_view kind, const std::vector<std::string_view>& fields) {
+  if (!keeps_) return;
   Line line{std::string(kind), secondsText(clock_.now()) + "\t" + std::string(kind)};
   for (const std::string_view field : fields) line.text += "\t" + escaped(field);
   lines_.push_back(std::move(line));

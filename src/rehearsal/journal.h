@@ -22,6 +22,8 @@ class Journal {
   void write(std::string_view kind, const std::vector<std::string_view>& fields);
   // For a state that is set over and over: writes nothing if the last line of the kind says the same.
   void writeState(std::string_view kind, const std::string& state);
+  // For a program whose journal nobody reads.
+  void keepNothing() { keeps_ = false; }
   // Prints the lines of a kind, or all of them for an empty one, and forgets what it printed.
   void print(std::ostream& out, std::string_view kind);
 
@@ -34,6 +36,7 @@ class Journal {
   };
 
   const platform::Clock& clock_;
+  bool keeps_ = true;
   std::vector<Line> lines_;
   std::map<std::string, std::string> states_;  // the last one of each kind
 };

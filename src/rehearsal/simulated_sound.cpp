@@ -15,33 +15,30 @@ std::string pathInside(const std::string& folder, const std::string& path) {
   return inside.empty() || *inside.begin() == ".." ? path : inside.string();
 }
 
-void SimulatedSound::letTimePass(std::span<const unsigned char> wav) {
-  if (mode_ != SoundMode::Timed || loop_ == nullptr) return;
+void SimulatedSound::letPass(std::optional<platform::Instant> length) {
+  if (mode_ != SoundMode::Timed || loop_ == nullptr || !length) return;
   const platform::EventLoop::Blocking blocking(*loop_);
   platform::Clock& clock = loop_->clock();
-  const platform::Instant end = clock.now() + wavLength(wav).value_or(platform::Instant{0});
+  const platform::Instant end = clock.now() + *length;
   while (clock.now() < end && !loop_->quitting()) clock.sleepUntil(end);
 }
 
 void SimulatedSound::play(const platform::SoundClip& clip) {
   if (!hasDevice()) return;
   journal_.write("prompt", {std::to_string(clip.number), clip.name});
-  letTimePass(clip.wav);
+  letPass(wavLength(clip.wav));
 }
 
 void SimulatedSound::playFile(const std::string& path) {
   if (!hasDevice()) return;
   journal_.write("file", {pathInside(folder_, path)});
   if (mode_ != SoundMode::Timed) return;
-  std::vector<unsigned char> wav;
+  std::optional<platform::Instant> length;  // none: the beep takes no time
   try {
-    const auto file = files_.open(path, platform::OpenMode::Read);
-    wav.resize(file->size());
-    file->readAt(0, {reinterpret_cast<char*>(wav.data()), wav.size()});
+    length = wavLength(*files_.open(path, platform::OpenMode::Read));
   } catch (const platform::FileFault&) {
-    wav.clear();  // the beep takes no time
   }
-  letTimePass(wav);
+  letPass(length);
 }
 
 }  // namespace rehearsal

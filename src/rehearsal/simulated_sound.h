@@ -1,6 +1,7 @@
 // A loudspeaker that writes each sound to the journal and, where wanted, lets its length pass.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/event_loop.h"
@@ -29,7 +30,7 @@ class SimulatedSound final : public platform::SoundOutput {
   void playFile(const std::string& path) override;
 
  private:
-  void letTimePass(std::span<const unsigned char> wav);
+  void letPass(std::optional<platform::Instant> length);
 
   SoundMode mode_;
   platform::FileSystem& files_;

@@ -1,11 +1,8 @@
 #include "runner/hand_over.h"
 
-#include <algorithm>
-
 #include "forms/lect_mci_words.h"
 #include "forms/main_form_words.h"
 #include "model/grid_rows.h"
-#include "model/numbers.h"
 #include "model/training_model.h"
 #include "platform/text.h"
 
@@ -21,27 +18,29 @@ HandOver::HandOver(const context::Context& context, RideWaits& waits)
 }
 
 void HandOver::validerSeance() {
-  if (!forms::ridePaused(main_) && refuseWrongDuration()) return;
-  prepareOtherForms();
   if (forms::ridePaused(main_)) {
     // A paused ride keeps its plan; the edits stay in the grid.
+    prepareOtherForms();
     editor_.mnSortir.click();
-    return;
+  } else if (!refuseWrongDuration()) {
+    begin(model::rideOrder(editor_.ListView1));
   }
+}
+
+void HandOver::begin(const model::RideOrder& order) {
+  prepareOtherForms();
   resetRide();
   editor_.hide();
   main_.show();
-  const platform::Grid& grid = editor_.ListView1;
-  state_.nbSequences = std::max(0, grid.rowCount() - 1);
-  state_.dureeTotale = model::timeValue(grid.text(1, model::column::duration));
-  const int times = model::lenientInteger(grid.text(1, model::column::times));
-  state_.nbSeances = times > 0 ? times : 1;
-  if (grid.rowCount() < 2) {
+  state_.nbSequences = order.sequences;
+  state_.nbSeances = order.passes;
+  state_.dureeTotale = order.total;
+  if (order.plan.rows.size() < 2) {
     main_.MyButton4.click();
     forms::showNothingToRide(main_);
     return;
   }
-  fillPlan();
+  state_.plan = order.plan;
   // Any duration enables the start button; the first sequence replaces it.
   state_.dureeSequence = model::timeValue("00:00:03");
   showTitle();
@@ -92,27 +91,6 @@ void HandOver::resetRide() {
   forms::offerStart(main_);
   forms::offerPause(main_);
   state_.sonSeance = "";
-}
-
-void HandOver::fillPlan() {
-  const platform::Grid& grid = editor_.ListView1;
-  model::RunPlan& plan = state_.plan;
-  plan.allocate(state_.nbSequences);
-  std::size_t kept = 0;
-  for (int row = 2; row <= grid.rowCount(); ++row) {
-    const std::string& duration = grid.text(row, model::column::duration);
-    const std::string& announcement = grid.text(row, model::column::announcement);
-    if (!model::isRidden(grid, row)) continue;
-    model::PlanRow& planned = plan.rows.at(++kept);
-    planned.planSequence = grid.text(row, model::column::sequence);
-    planned.planCadence = grid.text(row, model::column::cadence);
-    planned.planPlateau = grid.text(row, model::column::chainring);
-    planned.planBraquet = grid.text(row, model::column::gear);
-    planned.planAnnonce = platform::trim(announcement);
-    planned.planFreqCard = grid.text(row, model::column::heartRate);
-    planned.planDuree = planned.spoken() ? std::string(model::noDuration) : duration;
-  }
-  state_.nbSequences = static_cast<int>(kept);
 }
 
 void HandOver::showTitle() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "context/context.h"
+#include "model/ride_order.h"
 #include "runner/ride_waits.h"
 
 namespace runner {
@@ -10,13 +11,15 @@ class HandOver {
  public:
   HandOver(const context::Context& context, RideWaits& waits);
 
+  // Readies the countdown of this ride. A ride that is under way is abandoned.
+  void begin(const model::RideOrder& order);
+
  private:
   void validerSeance();
   // If a row that would be ridden has no valid duration, tells the rider, selects it and returns true.
   [[nodiscard]] bool refuseWrongDuration();
   void prepareOtherForms();
   void resetRide();
-  void fillPlan();
   void showTitle();
 
   context::Context context_;
