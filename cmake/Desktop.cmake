@@ -19,7 +19,7 @@ set(CMAKE_AUTORCC ON)
 # Objects rather than archives: a resource file registers itself only if its object is really linked.
 ventoria_floor(widgets TYPE OBJECT UNWATCHED LINKS ventoria_context Qt6::Widgets Qt6::Svg)
 ventoria_floor(desktop TYPE OBJECT UNWATCHED
-  LINKS ventoria_app ventoria_disk ventoria_devices ventoria_widgets Qt6::DBus Qt6::Network Qt6::PrintSupport)
+  LINKS ventoria_rehearsal ventoria_disk ventoria_devices ventoria_widgets Qt6::DBus Qt6::Network Qt6::PrintSupport)
 foreach(floor widgets desktop)
   ventoria_sources(headers ${PROJECT_SOURCE_DIR}/src/${floor} *.h)
   target_sources(ventoria_${floor} PRIVATE ${headers})

@@ -13,6 +13,7 @@
 #include "runner/advance.h"
 #include "runner/chrono.h"
 #include "runner/countdown.h"
+#include "runner/end_time.h"
 #include "runner/hand_over.h"
 #include "runner/main_screen.h"
 #include "runner/reset.h"
@@ -28,10 +29,11 @@ struct Program::Logic {
         voice(context),
         waits(voice, program.loop_),
         reset(context, voice, waits),
-        advance(context, voice, waits),
+        endTime(context),
+        advance(context, voice, waits, endTime),
         suspend(context),
         chrono(context, advance, waits, suspend),
-        countdown(context, voice, advance),
+        countdown(context, voice, advance, endTime),
         handOver(context, waits),
         settings(context, voice),
         mainScreen(context, voice, settings, setup.folder,
@@ -56,6 +58,7 @@ struct Program::Logic {
   voice::Voice voice;
   runner::RideWaits waits;
   runner::Reset reset;
+  runner::EndTime endTime;
   runner::Advance advance;
   runner::Suspend suspend;
   runner::Chrono chrono;

@@ -20,6 +20,7 @@
 #include "devices/pulse_sound_output.h"
 #include "disk/disk_file_system.h"
 #include "platform/media_parser.h"
+#include "rehearsal/rehearsals.h"
 
 namespace desktop {
 
@@ -57,6 +58,7 @@ class DesktopProgram final : public QObject {
   QtShell shell_;
   devices::PulseEndpointVolume volume_;
   QtPrinter printer_;
+  rehearsal::Rehearsals rehearsals_;
   app::Program program_;
   Windows windows_;
   LoopAlarm alarm_{program_.loop()};

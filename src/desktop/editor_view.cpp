@@ -225,11 +225,16 @@ void EditorView::placeFloating() {
 void EditorView::refreshProfile() {
   const platform::Grid& grid = editor_.ListView1;
   std::vector<ProfileStep> steps;
+  std::size_t ridden = 0;
   for (int row = 2; row <= grid.rowCount(); ++row) {
+    const std::size_t place = model::isRidden(grid, row) ? ridden++ : state_.tooShort.size();
     if (!model::isSequence(grid, row)) continue;
+    const platform::Instant excess =
+        place < state_.tooShort.size() ? state_.tooShort[place] : platform::Instant{0};
     steps.push_back({grid.text(row, model::column::sequence),
                      model::parseSeconds(grid.text(row, model::column::duration)).value_or(0),
-                     grid.text(row, model::column::heartRate), row});
+                     grid.text(row, model::column::heartRate), row,
+                     static_cast<int>(std::chrono::ceil<std::chrono::seconds>(excess).count())});
   }
   ui_->editorProfile->setSteps(std::move(steps));
   ui_->editorProfile->selectRow(grid.selectedRow());

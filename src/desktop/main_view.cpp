@@ -57,7 +57,6 @@ MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidg
   new FadeAway(*ui_->Picture6);
   ui_->banner->raise();
   ui_->banner->setAutoFillBackground(true);
-  ui_->nextText->setTextFormat(Qt::RichText);
   ui_->firstText->setTextFormat(Qt::RichText);
   followAll(form);
   speak({});
@@ -113,6 +112,8 @@ void MainView::refreshCards() {
   ui_->gearCard->setVisible(forms::gearShown(main_));
   ui_->gearCross->setVisible(main_.Label15.visible && main_.Label20.visible && says(main_.Label15.caption) &&
                              says(main_.Label20.caption));
+  // An empty line of a layout takes its share all the same.
+  ui_->gearLayout->setStretch(1, main_.Label39.visible ? 0 : 1);
   // Two numbers stand close together; two words share the width.
   const bool words = main_.Label20.caption.get().size() > 2 || main_.Label15.caption.get().size() > 2;
   ui_->gearLine->setStretch(0, words ? 1 : 0);
@@ -126,22 +127,16 @@ int MainView::nextRow() const {
   return state_.seanceCourante < state_.nbSeances ? 1 : 0;
 }
 
-QString MainView::describe(int number) const {
-  const model::PlanRow& row = state_.plan.rows[at(number)];
-  const QString kind = toQt(row.planSequence).toHtmlEscaped();
-  QStringList facts{QStringLiteral("<span style=\"color:%1;font-weight:700\">%2</span>")
-                        .arg(QGuiApplication::palette().color(role::text).name(), kind)};
-  if (!row.spoken()) {
-    facts << toQt(row.planDuree).toHtmlEscaped();
-    if (says(row.planCadence)) {
-      facts << toQt(row.planCadence).toHtmlEscaped() + QStringLiteral(" tr/min");
-    }
-    QStringList gears;
-    for (const std::string& gear : {row.planPlateau, row.planBraquet}) {
-      if (says(gear)) gears << toQt(gear).toHtmlEscaped();
-    }
-    if (!gears.isEmpty()) facts << gears.join(QStringLiteral(" × "));
+// What follows the kind of a row.
+QString MainView::factsOf(const model::PlanRow& row) {
+  if (row.spoken()) return {};
+  QStringList facts{{}, toQt(row.planDuree)};
+  if (says(row.planCadence)) facts << toQt(row.planCadence) + QStringLiteral(" tr/min");
+  QStringList gears;
+  for (const std::string& gear : {row.planPlateau, row.planBraquet}) {
+    if (says(gear)) gears << toQt(gear);
   }
+  if (!gears.isEmpty()) facts << gears.join(QStringLiteral(" × "));
   return facts.join(QStringLiteral(" · "));
 }
 
@@ -168,7 +163,10 @@ void MainView::refreshProfile() {
   if (next > 0) ui_->nextChip->show(model::effortFamily(state_.plan.rows[at(next)].planSequence));
   ui_->nextText->setVisible(!told);
   ui_->Label43->setSizePolicy(told ? QSizePolicy::Expanding : QSizePolicy::Preferred, QSizePolicy::Preferred);
-  ui_->nextText->setText(next > 0 ? describe(next) : QString());
+  const model::PlanRow& row = state_.plan.rows[at(next)];
+  ui_->nextText->setHead(next > 0 ? toQt(row.planSequence) : QString());
+  ui_->nextText->setText(next > 0 ? factsOf(row) : QString());
+  ui_->nextText->setAccessibleName(toQt(row.planSequence) + ui_->nextText->text());
 }
 
 void MainView::refreshCountdown() {
@@ -176,7 +174,11 @@ void MainView::refreshCountdown() {
   ui_->Label9->setShare(static_cast<double>(forms::countdownLeft(main_)) /
                         (length > 0 ? length : forms::usualCountdown));
   const bool planned = !ui_->countdownProfile->steps().empty();
-  ui_->firstText->setText(planned ? QStringLiteral("D'abord : ") + describe(1) : QString());
+  if (!planned) return ui_->firstText->clear();
+  const model::PlanRow& first = state_.plan.rows[1];
+  ui_->firstText->setText(QStringLiteral("D'abord : <span style=\"color:%1;font-weight:700\">%2</span>%3")
+                              .arg(QGuiApplication::palette().color(role::text).name(),
+                                   toQt(first.planSequence).toHtmlEscaped(), factsOf(first).toHtmlEscaped()));
 }
 
 }  // namespace desktop

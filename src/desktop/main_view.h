@@ -32,7 +32,7 @@ class MainView final : public FormView {
   void refreshProfile();
   void refreshCountdown();
   [[nodiscard]] bool riding() const { return state_.plan.started(); }
-  [[nodiscard]] QString describe(int number) const;
+  [[nodiscard]] static QString factsOf(const model::PlanRow& row);
   [[nodiscard]] int nextRow() const;
 
   forms::MainForm& main_;

@@ -14,6 +14,7 @@ Page::Page(const context::Context& context, voice::Voice& voice)
       calculator_(context),
       lines_(context),
       drafts_(context),
+      forecast_(context),
       cells_(context, calculator_),
       files_(context, voice, lines_, drafts_),
       listWatch_(context),

@@ -7,6 +7,7 @@
 #include "editor/history.h"
 #include "editor/lines.h"
 #include "editor/list_watch.h"
+#include "editor/ride_forecast.h"
 #include "editor/session_files.h"
 #include "heartrate/calculator.h"
 #include "voice/voice.h"
@@ -33,6 +34,7 @@ class Page {
   heartrate::Calculator calculator_;
   Lines lines_;
   Drafts drafts_;
+  RideForecast forecast_;
   CellEditor cells_;
   SessionFiles files_;
   ListWatch listWatch_;

@@ -45,6 +45,8 @@ struct CreerCycle : platform::Form {
   Button DraftResume{*this, "DraftResume", "Reprendre", {.in = &DraftBar}};
   Button DraftForget{*this, "DraftForget", "Oublier", {.in = &DraftBar}};
 
+  Label RealDuration{*this, "RealDuration", ""};  // how long the list really takes, its announcements told
+
   // The grid and what lies over it.
   Grid ListView1{*this, "ListView1"};                          // the session being composed
   ComboBox Combo1{*this, "Combo1", "", {.visible = false}};    // the cell editor
@@ -196,18 +198,20 @@ struct CreerCycle : platform::Form {
   MenuItem mnSortir{*this, "mnSortir", "Sortir", {.in = &mnMenu}};  // closes the editor
 
   // All that poll rest. Timer7 does not: each of its ticks changes what is seen, while it is on.
-  Timer Timer1{*this, "Timer1", 10};               // keeps the cell editor on its row
-  Timer Timer2{*this, "Timer2", 800};              // once: hides the refusal badge
-  Timer Timer3{*this, "Timer3", 10};               // keeps the duration panel inside the list
-  Timer Timer4{*this, "Timer4", 200};              // sums the durations
-  Timer Timer5{*this, "Timer5", 500, true};        // does nothing
-  Timer Timer6{*this, "Timer6", 1000, true};       // looks for unfinished rows
-  Timer Timer7{*this, "Timer7", 500};              // makes MyButton11 blink
-  Timer Timer8{*this, "Timer8", 600};              // swaps two help images; nothing turns it on
-  Timer Timer9{*this, "Timer9", 10, true};         // follows the pointer over the cells
-  Timer TimerUndoStep{*this, "TimerUndoStep", 1};  // once: ends a step of the history
-  Timer Timer10{*this, "Timer10", 500};            // watches the calculator
-  Timer TimerDraft{*this, "TimerDraft", 1000};     // once: keeps the list; in a ride, when that rests
+  Timer Timer1{*this, "Timer1", 10};                       // keeps the cell editor on its row
+  Timer Timer2{*this, "Timer2", 800};                      // once: hides the refusal badge
+  Timer Timer3{*this, "Timer3", 10};                       // keeps the duration panel inside the list
+  Timer Timer4{*this, "Timer4", 200};                      // sums the durations
+  Timer Timer5{*this, "Timer5", 500, true};                // does nothing
+  Timer Timer6{*this, "Timer6", 1000, true};               // looks for unfinished rows
+  Timer Timer7{*this, "Timer7", 500};                      // makes MyButton11 blink
+  Timer Timer8{*this, "Timer8", 600};                      // swaps two help images; nothing turns it on
+  Timer Timer9{*this, "Timer9", 10, true};                 // follows the pointer over the cells
+  Timer TimerUndoStep{*this, "TimerUndoStep", 1};          // once: ends a step of the history
+  Timer Timer10{*this, "Timer10", 500};                    // watches the calculator
+  Timer TimerDraft{*this, "TimerDraft", 1000};             // once: keeps the list; in a ride, when that rests
+  Timer TimerForecast{*this, "TimerForecast", 300, true};  // looks whether the list has come to rest
+  Timer TimerForecastSlice{*this, "TimerForecastSlice", 10};  // on while it is rehearsed
 };
 
 }  // namespace forms

@@ -51,6 +51,7 @@ struct MainForm : platform::Form {
   Label Label44{*this, "Label44", "", {.visible = false}};  // big heart-rate target, or the large messages
   Label Label40{*this, "Label40", "00:00:00", {.in = &Picture6}};  // time left of the whole run
   Label Label43{*this, "Label43", "", {.in = &Picture6}};          // a line of the ride panel
+  Label EndTime{*this, "EndTime", "", {.in = &Picture6}};          // when the ride will be over
 
   // At rest.
   Label Label18{*this, "Label18", "Prêt pour une Nouvelle Séance d'Entraînement"};  // status line
@@ -228,6 +229,7 @@ struct MainForm : platform::Form {
   Timer Timer8{*this, "Timer8", 100};         // once: opens the sound settings page for the editor
   Timer Timer9{*this, "Timer9", 6000};        // keeps the screen saver off
   Timer Timer10{*this, "Timer10", 1000};      // once: brings the ride panel back
+  Timer TimerEnd{*this, "TimerEnd", 10};      // on while a rehearsal goes on, or a pause puts the end off
 };
 
 }  // namespace forms

@@ -138,6 +138,7 @@ inline void showRideFields(MainForm& main) {
 }
 
 inline void hideRideFields(MainForm& main) {
+  main.EndTime.caption = "";
   hide(rideFields(main));
   hide({&main.Label12, &main.Label39, &main.Image2});
   hide(timeBoxes(main));

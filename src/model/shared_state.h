@@ -13,6 +13,7 @@
 #include "model/run_plan.h"
 #include "model/take.h"
 #include "model/time_value.h"
+#include "platform/clock.h"
 #include "platform/observable.h"
 
 namespace model {
@@ -51,6 +52,9 @@ struct SharedState {
 
   // The order to the music player: "oui" to go on, "non" to hold, empty when there is none.
   platform::Variable<std::string> musiqueSuit;
+
+  // By how much what is said before each ridden row of the list is longer than the row; 0: it is not.
+  std::vector<platform::Instant> tooShort;
 
   // The music's own state.
   std::string selectionEnCours;  // "oui" while a selection drives the music, else empty

@@ -1,5 +1,6 @@
 #include "rehearsal/timeline_recorder.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -38,6 +39,9 @@ void TimelineRecorder::end() {
   endHold();
   if (!timeline_.rows.empty()) timeline_.end = timeline_.rows.back().ends;
   if (!timeline_.sounds.empty()) timeline_.end = std::max(timeline_.end, timeline_.sounds.back().ends);
+  // The music plays on behind a ride.
+  std::erase_if(timeline_.music, [this](const auto& command) { return command.at > timeline_.end; });
+  std::erase_if(timeline_.holds, [this](const auto& hold) { return hold.begins > timeline_.end; });
   state_ = nullptr;
 }
 

@@ -10,8 +10,13 @@
 
 namespace runner {
 
-Advance::Advance(const context::Context& context, voice::Voice& voice, RideWaits& waits)
-    : context_(context), voice_(voice), waits_(waits), main_(context.screens.main), state_(context.state) {}
+Advance::Advance(const context::Context& context, voice::Voice& voice, RideWaits& waits, EndTime& endTime)
+    : context_(context),
+      voice_(voice),
+      waits_(waits),
+      endTime_(endTime),
+      main_(context.screens.main),
+      state_(context.state) {}
 
 void Advance::avancerSequence() {
   if (state_.nbSequences == 0) return;
@@ -33,6 +38,7 @@ void Advance::crossBoundary() {
   showPass();
   state_.ecouleSequence = 0;
   ++state_.plan.sequenceCourante;
+  endTime_.rowBegins();
   sayPass();
   showRow();
   waits_.pause();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "context/context.h"
+#include "runner/end_time.h"
 #include "runner/ride_waits.h"
 #include "voice/voice.h"
 
@@ -9,7 +10,7 @@ namespace runner {
 
 class Advance {
  public:
-  Advance(const context::Context& context, voice::Voice& voice, RideWaits& waits);
+  Advance(const context::Context& context, voice::Voice& voice, RideWaits& waits, EndTime& endTime);
 
   // Runs at each boundary. When it returns the chrono runs on the new sequence, or the run has ended.
   void avancerSequence();
@@ -36,6 +37,7 @@ class Advance {
   context::Context context_;
   voice::Voice& voice_;
   RideWaits& waits_;
+  EndTime& endTime_;
   forms::MainForm& main_;
   model::SharedState& state_;
   bool holdsTime_ = false;

@@ -8,10 +8,11 @@
 
 namespace runner {
 
-Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advance& advance)
+Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advance& advance, EndTime& endTime)
     : context_(context),
       voice_(voice),
       advance_(advance),
+      endTime_(endTime),
       main_(context.screens.main),
       state_(context.state) {
   main_.MyButton3.click.handle([this] { lancerCompteRebours(); });
@@ -42,6 +43,7 @@ void Countdown::lancerCompteRebours() {
     return;
   }
   replaceInvalidLength();
+  endTime_.countdownBegins();
   forms::offerPause(main_);
   main_.Label9.caption = main_.Combo5.text;
   main_.Timer2.enabled = true;
@@ -92,10 +94,12 @@ void Countdown::basculerPause() {
     // row after it.
     if (state_.dureeSequence != 0) main_.Timer1.enabled = false;
     main_.Timer2.enabled = false;
+    endTime_.pauseBegins();
     if (forms::voiceOn(main_)) voice_.dire("pausedemande.wav");
     forms::offerResume(main_);
   } else {
     voice_.dire("repriseentrainement.wav");
+    endTime_.pauseEnds();
     // While a boundary is still speaking, the chrono is left to it.
     main_.Timer1.enabled = !advance_.holdsTime();
     main_.Timer2.enabled = false;

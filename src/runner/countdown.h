@@ -9,7 +9,7 @@ namespace runner {
 
 class Countdown {
  public:
-  Countdown(const context::Context& context, voice::Voice& voice, Advance& advance);
+  Countdown(const context::Context& context, voice::Voice& voice, Advance& advance, EndTime& endTime);
 
  private:
   void lancerCompteRebours();
@@ -26,6 +26,7 @@ class Countdown {
   context::Context context_;
   voice::Voice& voice_;
   Advance& advance_;
+  EndTime& endTime_;
   forms::MainForm& main_;
   model::SharedState& state_;
 };

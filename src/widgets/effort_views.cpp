@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <utility>
 
@@ -19,6 +20,15 @@ namespace {
 constexpr double headroom = 14;  // above the bars, for the knob and the announcements' marks
 constexpr double slimmest = 2;   // px of a bar's width
 constexpr double knob = 5;       // radius of the present place's mark
+constexpr double warned = 4;     // and of that above a step whose announcements are too long
+
+QString tipOf(const ProfileStep& step) {
+  QString tip = toQt(step.kind) + QStringLiteral(" · ") + toQt(model::formatSeconds(step.seconds));
+  if (step.excess > 0) {
+    tip += QStringLiteral("\nLes annonces durent %1 s de plus que la séquence.").arg(step.excess);
+  }
+  return tip;
+}
 
 }  // namespace
 
@@ -160,7 +170,12 @@ void SessionProfile::layOut() {
   }
 }
 
+// The marks are wider than the bars of short steps, and it is about these that they warn.
 int SessionProfile::stepAt(const QPointF& point) const {
+  for (std::size_t i = 0; point.y() < dp(this, headroom) && i < bars_.size(); ++i) {
+    const double away = std::abs(point.x() - bars_[i].center().x());
+    if (steps_[i].excess > 0 && away <= dp(this, warned)) return static_cast<int>(i);
+  }
   for (std::size_t i = 0; i < bars_.size(); ++i) {
     if (point.x() >= bars_[i].left() && point.x() < bars_[i].right()) return static_cast<int>(i);
   }
@@ -183,10 +198,7 @@ bool SessionProfile::event(QEvent* event) {
   if (step < 0) {
     QToolTip::hideText();
   } else {
-    const ProfileStep& shown = steps_[static_cast<std::size_t>(step)];
-    QToolTip::showText(help->globalPos(),
-                       toQt(shown.kind) + QStringLiteral(" · ") + toQt(model::formatSeconds(shown.seconds)),
-                       this);
+    QToolTip::showText(help->globalPos(), tipOf(steps_[static_cast<std::size_t>(step)]), this);
   }
   return true;
 }
@@ -212,6 +224,11 @@ void SessionProfile::paintEvent(QPaintEvent*) {
           QPolygonF{{bar.left() - d, 1.0}, {bar.left() + d, 1.0}, {bar.left(), 1.0 + 1.6 * d}});
     }
     painter.setOpacity(1.0);
+    if (steps_[i].excess > 0) {
+      painter.setBrush(QGuiApplication::palette().color(role::warning));
+      painter.drawEllipse(QPointF(bar.center().x(), dp(this, warned + 1)), dp(this, warned),
+                          dp(this, warned));
+    }
     if (selectedRow_ > 0 && steps_[i].row == selectedRow_ && steps_[i].seconds > 0) {
       painter.setPen(QPen(QGuiApplication::palette().color(role::text), dp(this, 2)));
       painter.setBrush(Qt::NoBrush);

@@ -49,7 +49,8 @@ struct ProfileStep {
   std::string kind;
   int seconds = 0;
   std::string target;
-  int row = 0;  // of the list, selected by a press on the bar
+  int row = 0;     // of the list, selected by a press on the bar
+  int excess = 0;  // s by which its announcements are longer than itself; marked, and told in the tip
   bool operator==(const ProfileStep&) const = default;
 };
 

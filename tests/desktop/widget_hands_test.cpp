@@ -49,7 +49,7 @@ TEST(WidgetHands, WhatTheFormShowsAndTheWindowDoesNotIsAnError) {
   for (const auto& [control, make, why] : faults) {
     const std::string address = std::string("MainForm.") + control;
     make(true);
-    EXPECT_EQ(program.run("press " + address), "error: " + address + ": " + why + "\n");
+    EXPECT_EQ(program.attempt("press " + address), "error: " + address + ": " + why + "\n");
     EXPECT_FALSE(program.screens().editor.visible) << why;
     make(false);
   }

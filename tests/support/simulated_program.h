@@ -2,6 +2,7 @@
 #pragma once
 
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -38,8 +39,14 @@ class SimulatedProgram {
       : options_(options), session_(options_, "/d", out_, hands, &disk) {}
 
   [[nodiscard]] bool start() { return session_.program().start(); }
-  // Carries the commands out, a line each; what they printed.
+  // Carries the commands out, a line each; what they printed. Throws for a command that could not be.
   std::string run(const std::string& commands) {
+    std::string printed = attempt(commands);
+    if (("\n" + printed).find("\nerror: ") != std::string::npos) throw std::runtime_error(printed);
+    return printed;
+  }
+  // The same for commands that may be wrong.
+  std::string attempt(const std::string& commands) {
     out_.str({});
     std::istringstream lines(commands);
     for (std::string line; std::getline(lines, line);) session_.interpreter().execute(line);

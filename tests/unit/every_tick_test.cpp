@@ -55,8 +55,8 @@ class Twins {
   }
 
   void run(const std::string& command) {
-    const std::string expected = awake_.run(command) + awake_.run("journal") + stateOf(awake_);
-    ASSERT_EQ(rested_.run(command) + rested_.run("journal") + stateOf(rested_), expected);
+    const std::string expected = awake_.attempt(command) + awake_.run("journal") + stateOf(awake_);
+    ASSERT_EQ(rested_.attempt(command) + rested_.run("journal") + stateOf(rested_), expected);
   }
   [[nodiscard]] support::SimulatedProgram& rested() { return rested_; }
 
