@@ -3,8 +3,10 @@
 
 #include <fstream>
 
+#include "forms/whole_ride.h"
 #include "model/grid_rows.h"
 #include "model/session_file.h"
+#include "rehearsal/rehearsals.h"
 #include "support/simulated_program.h"
 
 namespace {
@@ -37,22 +39,23 @@ struct Composing : support::SimulatedProgram {
   }
 };
 
-// Twenty-four hours less a minute, in rows of five minutes, every announcement on.
-void rehearseADay(benchmark::State& state) {
+// Rows of five minutes for as many minutes as the argument, every announcement on: a beginning and an end as
+// the editor and the ride rehearse them, and nothing else.
+void rehearseARide(benchmark::State& state) {
+  support::SimulatedProgram program(support::settingsOn);
+  if (!program.start()) std::abort();
+  model::WholeRide ride{{}, forms::rideSettings(program.screens().main), {}};
+  const model::PlanRow row{"00:05:00", "80 à 90", "", "Plat", "17", "53", "-----", ""};
+  ride.order.sequences = static_cast<int>(state.range(0) / 5);
+  ride.order.plan.rows.resize(1 + static_cast<std::size_t>(ride.order.sequences), row);
+  rehearsal::Rehearsals rehearsals(program.memory, "/d");
   for (auto _ : state) {
-    support::SimulatedProgram program(support::settingsOn);
-    if (!program.start()) std::abort();
-    program.run("press MainForm.mnCreat");
-    fill(program.list(), 288);
-    for (int number = 2; number <= 288; ++number) {
-      program.list().setText(number, model::column::duration, "00:05:00");
-    }
-    program.run("cell CreerCycle.ListView1 1 10\nadvance 1\npress CreerCycle.MyButton5\nadvance 0.1");
-    program.run("press MainForm.MyButton3\nadvance 90000");
-    if (program.screens().main.MyButton1.caption != "Start") state.SkipWithError("the ride has not ended");
+    const model::Timeline timeline = rehearsals.whole(ride);
+    if (timeline.rows.size() != ride.order.plan.rows.size() - 1)
+      state.SkipWithError("the ride has not ended");
   }
 }
-BENCHMARK(rehearseADay)->Unit(benchmark::kMillisecond)->Iterations(2);
+BENCHMARK(rehearseARide)->Unit(benchmark::kMillisecond)->Arg(5)->Arg(60)->Arg(24 * 60);
 
 void loadALongSession(benchmark::State& state) {
   Composing program(longList + 1);
