@@ -5,6 +5,7 @@
 #include <functional>
 #include <utility>
 
+#include "forms/whole_ride.h"
 #include "platform/documents_folder.h"
 #include "widgets/qt_text.h"
 
@@ -43,6 +44,11 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
           &DesktopProgram::endWhenQuitting);
   windows_.window().onClose([this] { askToClose(); });
   obeyTheSystem();
+  // Its music begins when the countdown ends.
+  forms::Screens& screens = program_.screens();
+  screens.main.MyFrame2.watch([this, &screens](const platform::Component&, platform::Prop prop) {
+    if (prop == platform::Prop::Visible && !forms::rideMusic(screens).ticked.empty()) mpv_.prepare();
+  });
   windows_.saveTakesBy([this](const std::string& path) { mpv_.save("capture", path); });
 }
 

@@ -14,6 +14,22 @@ bool find(void* library, const char* name, Function& function) {
   return function != nullptr;
 }
 
+std::optional<MpvFunctions> load() {
+  // Never unloaded: some of the libraries behind it keep things of theirs in threads and at the program's
+  // end.
+  void* library = dlopen("libmpv.so.2", RTLD_LAZY | RTLD_LOCAL | RTLD_NODELETE);
+  if (library == nullptr) return std::nullopt;
+  MpvFunctions found;
+  const bool whole =
+      find(library, "mpv_create", found.create) && find(library, "mpv_initialize", found.initialize) &&
+      find(library, "mpv_terminate_destroy", found.destroy) &&
+      find(library, "mpv_set_option_string", found.setOption) &&
+      find(library, "mpv_get_property_async", found.askProperty) &&
+      find(library, "mpv_set_property_async", found.setProperty) &&
+      find(library, "mpv_command_async", found.command) && find(library, "mpv_wait_event", found.waitEvent);
+  return whole ? std::optional(found) : std::nullopt;
+}
+
 }  // namespace
 
 MpvEnds::~MpvEnds() {
@@ -36,22 +52,16 @@ void MpvEnds::end(const MpvFunctions& mpv, mpv_handle* handle) {
   }).detach();
 }
 
+void MpvLibrary::prepare() {
+  if (!functions_ && !loading_.valid()) loading_ = std::async(std::launch::async, load);
+}
+
 const MpvFunctions* MpvLibrary::functions() {
-  if (functions_) return &*functions_;
-  // Never unloaded: some of the libraries behind it keep things of theirs in threads and at the program's
-  // end.
-  void* library = dlopen("libmpv.so.2", RTLD_LAZY | RTLD_LOCAL | RTLD_NODELETE);
-  if (library == nullptr) return nullptr;
-  MpvFunctions found;
-  const bool whole =
-      find(library, "mpv_create", found.create) && find(library, "mpv_initialize", found.initialize) &&
-      find(library, "mpv_terminate_destroy", found.destroy) &&
-      find(library, "mpv_set_option_string", found.setOption) &&
-      find(library, "mpv_get_property_async", found.askProperty) &&
-      find(library, "mpv_set_property_async", found.setProperty) &&
-      find(library, "mpv_command_async", found.command) && find(library, "mpv_wait_event", found.waitEvent);
-  if (whole) functions_ = found;
-  return whole ? &*functions_ : nullptr;
+  if (!functions_) {
+    prepare();
+    functions_ = loading_.get();
+  }
+  return functions_ ? &*functions_ : nullptr;
 }
 
 }  // namespace devices

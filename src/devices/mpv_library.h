@@ -5,6 +5,7 @@
 #include <mpv/client.h>
 
 #include <condition_variable>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -46,10 +47,13 @@ class MpvEnds {
 
 class MpvLibrary {
  public:
+  // Loads the library on a thread of its own, so that the first piece need not wait for the disk.
+  void prepare();
   // Loads the library at the first call; null where it cannot be loaded. Valid as long as this object.
   [[nodiscard]] const MpvFunctions* functions();
 
  private:
+  std::future<std::optional<MpvFunctions>> loading_;
   std::optional<MpvFunctions> functions_;
 };
 

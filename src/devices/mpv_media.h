@@ -21,6 +21,8 @@ class MpvMedia final : public platform::MediaBackend {
   MpvMedia(PulseConnection& connection, PulseOutputLevel& level, platform::FileSystem& files)
       : connection_(connection), level_(level), files_(files) {}
 
+  // The player's library will soon be needed.
+  void prepare() { library_.prepare(); }
   void openFile(const std::string& alias, const std::string& path) override;
   void openRecorder(const std::string& alias) override;
   void close(const std::string& alias) override { devices_.erase(alias); }
