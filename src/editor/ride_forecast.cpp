@@ -62,6 +62,7 @@ void RideForecast::show() {
     if (row.pass == 1) context_.state.tooShort.push_back(row.excess());
   }
   editor_.RealDuration.caption = how + lengthText(timeline->ridden());
+  forecast_.drop();  // of a day's list it is megabytes
 }
 
 }  // namespace editor
