@@ -3,6 +3,7 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
+#include <QDebug>
 #include <utility>
 
 namespace desktop {
@@ -25,7 +26,10 @@ QDBusMessage saverCall(const QString& method, const QVariantList& arguments) {
 DbusScreenSaver::DbusScreenSaver(QDBusConnection bus) : bus_(std::move(bus)) {}
 
 QString DbusScreenSaver::owner() {
-  if (!bus_.isConnected()) return {};
+  if (!bus_.isConnected()) {
+    tellOfAbsence();
+    return {};
+  }
   if (absentSince_.isValid() && !absentSince_.hasExpired(absence)) return {};
   auto question = QDBusMessage::createMethodCall(
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
@@ -37,7 +41,13 @@ QString DbusScreenSaver::owner() {
     return answer.value();
   }
   absentSince_.start();
+  tellOfAbsence();
   return {};
+}
+
+void DbusScreenSaver::tellOfAbsence() {
+  if (std::exchange(told_, true)) return;
+  qWarning().noquote() << "Pas d'écran de veille à retenir : l'écran peut s'éteindre pendant une séance.";
 }
 
 bool DbusScreenSaver::active() {

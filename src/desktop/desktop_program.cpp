@@ -2,6 +2,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QDebug>
 #include <functional>
 #include <utility>
 
@@ -24,6 +25,10 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
               .onSpeaking =
                   [this](const platform::SoundClip* clip) {
                     windows_.speak(clip != nullptr ? toQt(clip->spoken) : QString());
+                  },
+              .onNoDevice =
+                  [] {
+                    qWarning().noquote() << "Pas de haut-parleur : la voix et la musique restent muettes.";
                   }}),
       dialogs_([this]() -> QWidget* { return &windows_.window(); }),
       shell_(dialogs_),

@@ -3,6 +3,7 @@
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusMetaType>
+#include <QDebug>
 
 namespace desktop {
 
@@ -22,10 +23,12 @@ const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
 }  // namespace
 
 DesktopWishes::DesktopWishes(const QDBusConnection& bus) {
-  if (bus.isConnected()) read(bus);
+  if (!bus.isConnected() || !read(bus)) {
+    qWarning().noquote() << "Pas de portail du bureau : couleurs et animations sont celles d'origine.";
+  }
 }
 
-void DesktopWishes::read(QDBusConnection bus) {
+bool DesktopWishes::read(QDBusConnection bus) {
   qDBusRegisterMetaType<QMap<QString, QVariantMap>>();
   qRegisterMetaType<QDBusVariant>();  // needed for the slot's type
   // QtDBus finds a slot only by its signature without blanks.
@@ -35,8 +38,9 @@ void DesktopWishes::read(QDBusConnection bus) {
   QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
   call << QStringList{appearance, gnome, kde};
   const QDBusMessage answer = bus.call(call, QDBus::Block, patience);
-  if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty()) return;
+  if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty()) return false;
   settings_ = qdbus_cast<QMap<QString, QVariantMap>>(answer.arguments().constFirst());
+  return true;
 }
 
 std::optional<ThemeMode> DesktopWishes::colours() const {

@@ -26,7 +26,8 @@ class DesktopWishes final : public QObject {
   void changeSetting(const QString& group, const QString& key, const QDBusVariant& value);
 
  private:
-  void read(QDBusConnection bus);
+  // False: no portal answers.
+  bool read(QDBusConnection bus);
 
   QMap<QString, QVariantMap> settings_;
 };

@@ -61,11 +61,14 @@ bool PulseOutputLevel::set(std::uint16_t left, std::uint16_t right) {
   const bool changed = !known_ || left != left_ || right != right_;
   if (!changed && now - askedAt_ < askInterval) return true;
   askedAt_ = now;
-  if (!connection_.ready()) return false;
+  const bool ready = connection_.ready();
   const PulseConnection::Lock lock(connection_);
   left_ = left;
   right_ = right;
-  known_ = finishAsking();  // the answer to an earlier request may have set some streams already
+  known_ = false;
+  if (!ready)
+    return !connection_.hanging();  // where no server is no stream is, and each new one gets the level
+  known_ = finishAsking();          // the answer to an earlier request may have set some streams already
   if (known_) asking_ = askForStreams();
   return known_;
 }

@@ -52,7 +52,9 @@ bool PulseSoundOutput::goOn() {
 }
 
 bool PulseSoundOutput::hasDevice() {
-  return connection_.hasLoudspeaker();
+  const bool found = connection_.hasLoudspeaker();
+  if (!found && hooks_.onNoDevice) std::exchange(hooks_.onNoDevice, {})();
+  return found;
 }
 
 void PulseSoundOutput::beep() {

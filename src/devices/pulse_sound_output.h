@@ -12,11 +12,12 @@
 
 namespace devices {
 
-// Called while a sound blocks the program. Each may be empty.
+// Called while a sound blocks the program, but for the last. Each may be empty.
 struct SoundHooks {
   std::function<void()> whileBlocking;                         // about every 20 ms: repaints
   std::function<bool()> giveUp;                                // true when the program ends: the sound stops
   std::function<void(const platform::SoundClip*)> onSpeaking;  // the prompt that begins; null when it ends
+  std::function<void()> onNoDevice;                            // once, when there is no loudspeaker
 };
 
 class PulseSoundOutput final : public platform::SoundOutput {

@@ -8,7 +8,8 @@ namespace platform {
 class OutputLevel {
  public:
   virtual ~OutputLevel() = default;
-  // 0 is silence, 0xFFFF full volume. False: the device is away or busy, and has to be told again.
+  // 0 is silence, 0xFFFF full volume. False: the device is busy, and has to be told again; one that
+  // comes later begins with the level.
   virtual bool set(std::uint16_t left, std::uint16_t right) = 0;
 };
 

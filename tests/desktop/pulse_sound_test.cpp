@@ -66,6 +66,7 @@ class PulseSound : public testing::Test {
   std::vector<std::string> spoken_;
   bool quitting_ = false;
   int repaints_ = 0;
+  int lacks_ = 0;
   std::function<void()> meanwhile_;
   PulseOutputLevel level_{connection_};
   PulseSoundOutput output_{
@@ -76,7 +77,8 @@ class PulseSound : public testing::Test {
          if (meanwhile_) meanwhile_();
        },
        [this] { return quitting_; },
-       [this](const platform::SoundClip* clip) { spoken_.emplace_back(clip ? clip->spoken : "-"); }}};
+       [this](const platform::SoundClip* clip) { spoken_.emplace_back(clip ? clip->spoken : "-"); },
+       [this] { ++lacks_; }}};
 };
 
 // Every sample of every prompt is heard, in order and with hardly a gap between them.
@@ -168,17 +170,18 @@ TEST_F(PulseSound, QuittingCutsAPrompt) {
   EXPECT_TRUE(holds(recording.samples(), decodeWav(bank("101"))));
 }
 
+double peak(const Samples& samples, std::size_t channel) {
+  int highest = 0;
+  for (std::size_t i = channel; i < samples.size(); i += 2) highest = std::max<int>(highest, samples[i]);
+  return highest;
+}
+
 TEST_F(PulseSound, ANewStreamHasTheListeningLevel) {
   Recording recording;
   level_.set(0x8000, 0x4000);
   play("101");
   const Samples heard = recording.samples();
   const Samples whole = decodeWav(bank("101"));
-  const auto peak = [](const Samples& samples, std::size_t channel) {
-    int highest = 0;
-    for (std::size_t i = channel; i < samples.size(); i += 2) highest = std::max<int>(highest, samples[i]);
-    return double(highest);
-  };
   EXPECT_NEAR(peak(heard, 0) / peak(whole, 0), 0.5, 0.01);
   EXPECT_NEAR(peak(heard, 1) / peak(whole, 1), 0.25, 0.01);
 }
@@ -198,9 +201,14 @@ TEST_F(PulseSound, WithoutAServerThereIsNoDeviceUntilOneComes) {
     attempts += before != connection_.context();
   }
   EXPECT_LT(attempts, 20);  // most questions make none
+  EXPECT_EQ(lacks_, 1);
+  EXPECT_TRUE(level_.set(0x8000, 0x8000));  // nobody need try again: a stream that comes begins with it
 
   setenv("PULSE_SERVER", server.c_str(), 1);
   EXPECT_TRUE(comes([&] { return output_.hasDevice(); }));
+  Recording recording;
+  play("101");
+  EXPECT_NEAR(peak(recording.samples(), 0) / peak(decodeWav(bank("101")), 0), 0.5, 0.01);
 }
 
 // A play returns even if the server takes no more sound, and the next server is found.
