@@ -21,6 +21,7 @@ Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advan
   main_.MyButton2.click.handle([this] { leaveFrame(); });
   main_.MyButton5.click.handle([this] { goToEditor(); });
   main_.MyButton9.click.handle([this] {
+    openFrame();
     main_.MyFrame2.visible = false;
     main_.Command7.enabled = true;
     main_.MyButton4.enabled = true;
@@ -37,7 +38,14 @@ Countdown::Countdown(const context::Context& context, voice::Voice& voice, Advan
   platform::once(main_.Timer6, [this] { main_.MyButton4.click(); });
 }
 
+// The frame stands there before the press that opens it has come, and the rider may be quicker: that press
+// would end what he has begun.
+void Countdown::openFrame() {
+  if (main_.Timer4.enabled) main_.MyButton1.click();
+}
+
 void Countdown::lancerCompteRebours() {
+  openFrame();
   if (state_.nbSequences == 0 && state_.dureeSequence == 0) {
     forms::showNothingToRide(main_);
     return;
@@ -110,6 +118,7 @@ void Countdown::basculerPause() {
 }
 
 void Countdown::leaveFrame() {
+  openFrame();
   main_.MyButton4.click();
   forms::hide(forms::timeBoxes(main_));
   voice_.dire("seanceAnnule.wav");

@@ -15,6 +15,7 @@ class Countdown {
   void lancerCompteRebours();
   void tickCompteRebours();
   void basculerPause();
+  void openFrame();
   void leaveFrame();
   void chooseLength();
   void chooseManualTime();

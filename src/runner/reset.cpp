@@ -42,6 +42,7 @@ void Reset::annulerSeance() {
 }
 
 void Reset::boutonStart() {
+  main_.Timer4.enabled = false;  // the hand-over's own press, where this one comes before it
   if (state_.nbSequences == 0) {
     startManualChrono();
     return;

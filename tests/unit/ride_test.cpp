@@ -95,6 +95,24 @@ TEST(Rides, AFaultInATickIsToldOnceAndTheProgramGoesOn) {
   EXPECT_EQ(program.status(), 0);
 }
 
+// The countdown frame stands there a moment before the press that opens it.
+TEST(Rides, BeginAlsoWhereTheRiderIsQuickerThanTheFrame) {
+  const struct {
+    const char* button;
+    bool frame, countdown;
+  } presses[] = {{"MyButton3", true, true}, {"MyButton2", false, false}, {"MyButton9", false, false}};
+  for (const auto& [button, frame, countdown] : presses) {
+    SimulatedProgram program(support::settingsOn);
+    ASSERT_TRUE(program.start());
+    const forms::MainForm& main = program.screens().main;
+    program.run(support::composeTwoRows("Plat", "10", "Sprint", "20") +
+                "advance 1\npress CreerCycle.MyButton5\npress MainForm." + button + "\nadvance 0.2");
+    EXPECT_EQ(main.MyFrame2.visible, frame) << button;
+    EXPECT_EQ(main.Timer2.enabled, countdown) << button;
+    EXPECT_EQ(main.MyButton1.caption, "Stop") << button;
+  }
+}
+
 // Between two rows no clock runs: the ride is under way all the same.
 TEST(Rides, AreUnderWayFromTheCountdownToTheCancel) {
   SimulatedProgram program(support::settingsOn);
