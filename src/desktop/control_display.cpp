@@ -79,9 +79,11 @@ void showCaption(const Control& control, QWidget& widget) {
       elsewhere == nullptr && has(widget, "text") && !widget.property("captionElsewhere").toBool();
   if (elsewhere != nullptr) elsewhere->setText(text);
   if (isTextShown) widget.setProperty("text", escaped(text, widget));
-  // A screen reader reads a label's text; its accessible name is kept, as it says what the text is about.
+  // A screen reader reads a label's text; its accessible name is kept, as it says what the text is about. So
+  // is that of a button which shows a mere sign.
   const bool onlyShows = isTextShown && !is<QAbstractButton>(widget);
-  if (!onlyShows && !text.trimmed().isEmpty()) widget.setAccessibleName(text.trimmed());
+  const bool tells = widgets::hasWords(text) || widget.accessibleName().isEmpty();
+  if (!onlyShows && tells && !text.trimmed().isEmpty()) widget.setAccessibleName(text.trimmed());
 }
 
 void showPicture(const Control& control, QWidget& widget) {

@@ -1,10 +1,12 @@
 #include "desktop/qt_dialogs.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <array>
+#include <utility>
 
 #include "platform/text.h"
 #include "widgets/qt_text.h"
@@ -71,6 +73,15 @@ QString typedPath(const QFileDialog& dialog) {
   return quoted ? dialog.directory().absoluteFilePath(edit->text()) : dialog.selectedFiles().value(0);
 }
 
+// Qt's own labels, which name their boxes to the eye alone.
+void nameBoxes(const QFileDialog& dialog) {
+  for (const auto& [label, box] :
+       {std::pair{"lookInLabel", "lookInCombo"}, std::pair{"fileTypeLabel", "fileTypeCombo"}}) {
+    auto* text = dialog.findChild<QLabel*>(QLatin1String(label));
+    if (text != nullptr) text->setBuddy(dialog.findChild<QWidget*>(QLatin1String(box)));
+  }
+}
+
 }  // namespace
 
 Answer QtDialogs::message(const platform::Message& message) {
@@ -122,6 +133,7 @@ std::vector<std::string> QtDialogs::chooseFiles(const platform::FileRequest& req
       break;
   }
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annuler"));
+  nameBoxes(dialog);
   if (QWidget* parent = parent_()) dialog.resize(parent->size() * 3 / 4);
   if (dialog.exec() != QDialog::Accepted) return {};
   if (request.purpose == platform::FilePurpose::Save) {

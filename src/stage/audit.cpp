@@ -237,13 +237,15 @@ class Audit {
     }
     const bool silent =
         qobject_cast<const QLabel*>(&widget) != nullptr || face->role() == QAccessible::Graphic;
-    if (!silent && face->text(QAccessible::Name).trimmed().isEmpty()) {
+    const QString name = face->text(QAccessible::Name);
+    const bool sign = qobject_cast<const QAbstractButton*>(&widget) != nullptr && !widgets::hasWords(name);
+    if (!silent && (sign || name.trimmed().isEmpty())) {
       fault(widget, QStringLiteral("has no accessible name"));
     }
     const QString text = widget.property("text").toString();
     const bool drawn =
         qobject_cast<const QLabel*>(&widget) == nullptr && face->role() == QAccessible::StaticText;
-    const QString told = face->text(QAccessible::Name) + face->text(QAccessible::Description);
+    const QString told = name + face->text(QAccessible::Description);
     if (drawn && !text.isEmpty() && told.count(text) != 1) {
       fault(widget, QStringLiteral("is not told once: ") + told);
     }

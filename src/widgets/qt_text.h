@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,11 @@ inline QString toQt(std::string_view text) {
 }
 inline std::string fromQt(const QString& text) {
   return text.toStdString();
+}
+
+// Whether a text can be read out: a sign such as "?" tells nothing by itself.
+inline bool hasWords(const QString& text) {
+  return std::any_of(text.begin(), text.end(), [](QChar sign) { return sign.isLetterOrNumber(); });
 }
 
 }  // namespace widgets

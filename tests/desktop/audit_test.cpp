@@ -60,6 +60,7 @@ TEST_F(AuditTest, EachFaultIsNamed) {
       {[&] { button(QRect(20, 20, 40, 60)); }, "Page.b1 cuts its text: Start"},
       {[&] { button(place).setFocusPolicy(Qt::NoFocus); }, "Page.b1 is out of the keyboard's reach"},
       {[&] { button(place, QString()); }, "Page.b1 has no accessible name"},
+      {[&] { button(place, QStringLiteral("?")); }, "Page.b1 has no accessible name"},
       {[&] { button(place).setStyleSheet(QStringLiteral("color: #444444;")); },
        "Page.b1 has a contrast of 2.2"},
       {[&] {

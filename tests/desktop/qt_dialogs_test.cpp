@@ -2,13 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTimer>
+
+#include "widgets/accessible_faces.h"
 
 namespace {
 
 TEST(QtDialogs, SaveUnderANameThatEndsInTheSuffix) {
+  widgets::installAccessibleFaces();
   desktop::QtDialogs dialogs([]() -> QWidget* { return nullptr; });
   for (const auto& [typed, saved] : {std::pair{"Sortie", "/tmp/Sortie.tq2"},
                                      {"Sortie 12.05", "/tmp/Sortie 12.05.tq2"},
@@ -17,6 +22,9 @@ TEST(QtDialogs, SaveUnderANameThatEndsInTheSuffix) {
                                      {"SORTIE.TQ2", "/tmp/SORTIE.TQ2"}}) {
     QTimer::singleShot(0, [name = typed] {
       QWidget* dialog = QApplication::activeModalWidget();
+      for (QComboBox* box : dialog->findChildren<QComboBox*>()) {
+        EXPECT_NE(QAccessible::queryAccessibleInterface(box)->text(QAccessible::Name), QString());
+      }
       dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QString::fromUtf8(name));
       QMetaObject::invokeMethod(dialog, "accept");
     });
