@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "rehearsal/wav_length.h"
+#include "platform/wav_form.h"
 
 namespace rehearsal {
 namespace {
@@ -117,8 +117,8 @@ std::optional<Milliseconds> mpegLength(platform::RandomFile& file) {
 }  // namespace
 
 std::optional<Milliseconds> mediaLength(platform::RandomFile& file) {
-  const std::optional<Milliseconds> wav = wavLength(file);
-  return wav ? wav : mpegLength(file);
+  const std::optional<platform::WavForm> wav = platform::wavForm(file);
+  return wav ? wav->length() : mpegLength(file);
 }
 
 }  // namespace rehearsal

@@ -4,9 +4,17 @@
 #include <utility>
 
 #include "platform/fault.h"
-#include "rehearsal/wav_length.h"
+#include "platform/wav_form.h"
 
 namespace rehearsal {
+namespace {
+
+std::optional<platform::Instant> lengthOf(const std::optional<platform::WavForm>& wav) {
+  if (!wav) return std::nullopt;
+  return wav->length();
+}
+
+}  // namespace
 
 std::string pathInside(const std::string& folder, const std::string& path) {
   const std::filesystem::path whole = std::filesystem::path(path).lexically_normal();
@@ -26,7 +34,7 @@ void SimulatedSound::letPass(std::optional<platform::Instant> length) {
 void SimulatedSound::play(const platform::SoundClip& clip) {
   if (!hasDevice()) return;
   journal_.write("prompt", {std::to_string(clip.number), clip.name});
-  letPass(wavLength(clip.wav));
+  letPass(lengthOf(platform::wavForm(clip.wav)));
 }
 
 void SimulatedSound::playFile(const std::string& path) {
@@ -35,7 +43,7 @@ void SimulatedSound::playFile(const std::string& path) {
   if (mode_ != SoundMode::Timed) return;
   std::optional<platform::Instant> length;  // none: the beep takes no time
   try {
-    length = wavLength(*files_.open(path, platform::OpenMode::Read));
+    length = lengthOf(platform::wavForm(*files_.open(path, platform::OpenMode::Read)));
   } catch (const platform::FileFault&) {
   }
   letPass(length);

@@ -1,15 +1,15 @@
-#include "rehearsal/wav_length.h"
+#include "platform/wav_form.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
 
-namespace rehearsal {
+namespace platform {
 namespace {
 
 // A recording in memory, read as a file is.
-class MemoryFile final : public platform::RandomFile {
+class MemoryFile final : public RandomFile {
  public:
   explicit MemoryFile(std::span<const unsigned char> bytes) : bytes_(bytes) {}
   std::size_t readAt(std::uint64_t offset, std::span<char> into) override {
@@ -27,7 +27,7 @@ class MemoryFile final : public platform::RandomFile {
   std::span<const unsigned char> bytes_;
 };
 
-std::uint32_t little(platform::RandomFile& file, std::uint64_t at, std::size_t size) {
+std::uint32_t little(RandomFile& file, std::uint64_t at, std::size_t size) {
   std::array<char, 4> bytes{};
   file.readAt(at, std::span(bytes).first(size));
   std::uint32_t value = 0;
@@ -37,7 +37,7 @@ std::uint32_t little(platform::RandomFile& file, std::uint64_t at, std::size_t s
   return value;
 }
 
-bool reads(platform::RandomFile& file, std::uint64_t at, std::string_view mark) {
+bool reads(RandomFile& file, std::uint64_t at, std::string_view mark) {
   std::array<char, 4> bytes{};
   return file.readAt(at, bytes) == bytes.size() && std::string_view(bytes.data(), bytes.size()) == mark;
 }
@@ -53,7 +53,7 @@ struct Chunks {
   Chunk data;
 };
 
-Chunks chunksOf(platform::RandomFile& wav) {
+Chunks chunksOf(RandomFile& wav) {
   constexpr int enough = 1000;  // a recording has a handful
   Chunks chunks;
   const std::uint64_t end = wav.size();
@@ -68,8 +68,20 @@ Chunks chunksOf(platform::RandomFile& wav) {
   return chunks;
 }
 
+// The codes that the header tells a coding by.
+constexpr std::uint32_t pcm = 1;
+constexpr std::uint32_t msAdpcm = 2;
+constexpr std::uint32_t floating = 3;
+constexpr std::uint32_t extensible = 0xFFFE;  // samples of any width, with a longer header
+
+WavForm::Coding codingOf(std::uint32_t code) {
+  if (code == pcm) return WavForm::Coding::Integers;
+  if (code == floating) return WavForm::Coding::Floats;
+  return code == msAdpcm ? WavForm::Coding::MsAdpcm : WavForm::Coding::Other;
+}
+
 // Each block begins with a header that holds two samples of each channel; a nibble is a sample.
-std::uint64_t adpcmFrames(platform::RandomFile& wav, const Chunks& chunks, std::uint64_t channels,
+std::uint64_t adpcmFrames(RandomFile& wav, const Chunks& chunks, std::uint64_t channels,
                           std::uint64_t blockSize) {
   if (chunks.fact.size >= 4) return little(wav, chunks.fact.at, 4);
   const std::uint64_t header = 7 * channels;
@@ -82,28 +94,36 @@ std::uint64_t adpcmFrames(platform::RandomFile& wav, const Chunks& chunks, std::
 
 }  // namespace
 
-std::optional<std::chrono::milliseconds> wavLength(platform::RandomFile& wav) {
-  constexpr std::uint32_t pcm = 1;
-  constexpr std::uint32_t msAdpcm = 2;
-  constexpr std::uint32_t floating = 3;
-  constexpr std::uint32_t extensible = 0xFFFE;  // samples of any width, with a longer header
-  if (!reads(wav, 0, "RIFF") || !reads(wav, 8, "WAVE")) return std::nullopt;
-  const Chunks chunks = chunksOf(wav);
-  if (chunks.format.size < 16) return std::nullopt;
-  const std::uint32_t coding = little(wav, chunks.format.at, 2);
-  const std::uint32_t channels = little(wav, chunks.format.at + 2, 2);
-  const std::uint32_t rate = little(wav, chunks.format.at + 4, 4);
-  const std::uint32_t blockSize = little(wav, chunks.format.at + 12, 2);
-  if (channels == 0 || rate == 0 || blockSize == 0) return std::nullopt;
-  if (coding != pcm && coding != floating && coding != extensible && coding != msAdpcm) return std::nullopt;
-  const std::uint64_t frames =
-      coding == msAdpcm ? adpcmFrames(wav, chunks, channels, blockSize) : chunks.data.size / blockSize;
+std::chrono::milliseconds WavForm::length() const {
   return std::chrono::milliseconds((frames * 1000 + rate / 2) / rate);
 }
 
-std::optional<std::chrono::milliseconds> wavLength(std::span<const unsigned char> wav) {
-  MemoryFile file(wav);
-  return wavLength(file);
+std::optional<WavForm> wavForm(RandomFile& wav) {
+  constexpr std::uint64_t codeOfExtension = 24;
+  if (!reads(wav, 0, "RIFF") || !reads(wav, 8, "WAVE")) return std::nullopt;
+  const Chunks chunks = chunksOf(wav);
+  const Chunk& format = chunks.format;
+  if (format.size < 16) return std::nullopt;
+  const std::uint32_t code = little(wav, format.at, 2);
+  if (code != pcm && code != floating && code != extensible && code != msAdpcm) return std::nullopt;
+  WavForm form;
+  const bool extends = code == extensible && format.size >= codeOfExtension + 2;
+  form.coding = codingOf(extends ? little(wav, format.at + codeOfExtension, 2) : code);
+  form.channels = little(wav, format.at + 2, 2);
+  form.rate = little(wav, format.at + 4, 4);
+  form.blockSize = little(wav, format.at + 12, 2);
+  form.bits = little(wav, format.at + 14, 2);
+  if (form.channels == 0 || form.rate == 0 || form.blockSize == 0) return std::nullopt;
+  form.dataAt = chunks.data.at;
+  form.dataSize = chunks.data.size;
+  form.frames = code == msAdpcm ? adpcmFrames(wav, chunks, form.channels, form.blockSize)
+                                : form.dataSize / form.blockSize;
+  return form;
 }
 
-}  // namespace rehearsal
+std::optional<WavForm> wavForm(std::span<const unsigned char> wav) {
+  MemoryFile file(wav);
+  return wavForm(file);
+}
+
+}  // namespace platform
