@@ -31,9 +31,11 @@ class ScratchFolder {
     fs::create_directory(path_ / "chronodat");
     session_ = path_ / "chronodat" / sessionFile.filename();
     fs::copy_file(sessionFile, session_);
-    // The announcements that a session names lie beside the folder of sessions.
-    const fs::path announcements = fs::absolute(sessionFile).parent_path().parent_path() / "annonces";
-    if (fs::is_directory(announcements)) fs::create_directory_symlink(announcements, path_ / "annonces");
+    // The announcements that a session names, and the rider's own voice, lie beside the folder of sessions.
+    for (const char* name : {"annonces", "voix"}) {
+      const fs::path folder = fs::absolute(sessionFile).parent_path().parent_path() / name;
+      if (fs::is_directory(folder)) fs::create_directory_symlink(folder, path_ / name);
+    }
   }
   ~ScratchFolder() {
     std::error_code ignored;

@@ -17,8 +17,9 @@ struct WavForm {
   std::uint32_t channels = 0;
   std::uint32_t rate = 0;       // frames a second
   std::uint32_t blockSize = 0;  // bytes of a frame; of a block of frames where they are packed
-  std::uint32_t bits = 0;       // of a sample
-  std::uint64_t dataAt = 0;     // where the samples lie, and how many bytes of them there really are
+  std::uint32_t blockFrames = 1;
+  std::uint32_t bits = 0;    // of a sample
+  std::uint64_t dataAt = 0;  // where the samples lie, and how many bytes of them there really are
   std::uint64_t dataSize = 0;
   std::uint64_t frames = 0;
 

@@ -1,7 +1,8 @@
-// A disk in memory for a program that must not touch the rider's: of his, only the announcements and the
-// music are there, to be read.
+// A disk in memory for a program that must not touch the rider's: of his, only the announcements, the
+// music and his own voice are there, to be read.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -14,7 +15,7 @@ class ScratchFiles final : public platform::FileSystem {
  public:
   // `folder` is the program's, without a separator at its end.
   ScratchFiles(platform::FileSystem& riders, const std::string& folder)
-      : riders_(riders), shared_{folder + "/annonces/", folder + "/ambiances/"} {}
+      : riders_(riders), shared_{folder + "/annonces/", folder + "/ambiances/", folder + "/voix/"} {}
 
   [[nodiscard]] bool exists(const std::string& path) const override {
     return memory_.exists(path) || (isShared(path) && riders_.exists(path));
@@ -35,12 +36,13 @@ class ScratchFiles final : public platform::FileSystem {
 
  private:
   [[nodiscard]] bool isShared(const std::string& path) const {
-    return path.starts_with(shared_[0]) || path.starts_with(shared_[1]);
+    return std::any_of(shared_.begin(), shared_.end(),
+                       [&](const std::string& folder) { return path.starts_with(folder); });
   }
 
   MemoryFileSystem memory_;
   platform::FileSystem& riders_;
-  std::array<std::string, 2> shared_;
+  std::array<std::string, 3> shared_;
 };
 
 }  // namespace rehearsal

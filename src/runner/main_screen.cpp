@@ -24,6 +24,7 @@ MainScreen::MainScreen(const context::Context& context, voice::Voice& voice, Set
 
 void MainScreen::demarrerProgramme() {
   makeFolders();
+  voice_.ownVoice().lookIn(state_.dossierProgramme + "voix/");
   fillLists();
   main_.MyFrame1.caption = "Ventoria";
   state_.dureeSequence = model::timeValue("00:00:00");
@@ -36,6 +37,14 @@ void MainScreen::demarrerProgramme() {
   context_.screens.volume.load();
   context_.screens.announcements.load();
   context_.screens.player.load();
+  tellOfOwnVoice();
+}
+
+void MainScreen::tellOfOwnVoice() {
+  const std::string complaint = voice_.ownVoice().complaint();
+  if (complaint.empty()) return;
+  context_.outside.dialogs.message(
+      {platform::MessageKind::Exclamation, platform::MessageButtons::Ok, "Votre Propre Voix...", complaint});
 }
 
 void MainScreen::makeFolders() {

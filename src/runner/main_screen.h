@@ -21,6 +21,7 @@ class MainScreen {
   void quitterProgramme();
   void makeFolders();
   void fillLists();
+  void tellOfOwnVoice();
   void connectMenus();
   void connectHoverHelp();
   void openEditor();

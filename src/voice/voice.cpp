@@ -16,7 +16,7 @@ void Voice::jouerSon() {
   if (loop_.quitting() || !sound_.hasDevice()) return;
   const auto* name = std::get_if<std::string>(&state_.sonDemande);
   if (name != nullptr && (name->empty() || *name == "seq0.wav")) return;
-  if (name == nullptr) sonOctets_ = promptByNumber(std::get<int>(state_.sonDemande));
+  if (name == nullptr) sonOctets_ = ownVoice_.prompt(std::get<int>(state_.sonDemande));
   if (sonOctets_ == nullptr) return;
   const platform::EventLoop::Blocking blocking(loop_);
   sound_.play(*sonOctets_);

@@ -6,6 +6,7 @@
 #include "context/context.h"
 #include "forms/lect_mci_words.h"
 #include "forms/sound_settings_words.h"
+#include "voice/own_voice.h"
 
 namespace voice {
 
@@ -16,8 +17,11 @@ class Voice {
         loop_(context.loop),
         sound_(context.outside.sound),
         main_(context.screens.main),
-        player_(context.screens.player) {}
+        player_(context.screens.player),
+        ownVoice_(context.outside.files) {}
 
+  // The recordings of the rider's own that are said for prompts of the bank.
+  [[nodiscard]] OwnVoice& ownVoice() { return ownVoice_; }
   // Plays a personal announcement from the announcements' folder, without checking settings or file.
   void jouerAnnonce(const std::string& fileName);
   // Serves events for `seconds`, counted from the present time of day rounded to the whole second: it lasts
@@ -47,6 +51,7 @@ class Voice {
   platform::SoundOutput& sound_;
   const forms::MainForm& main_;
   const forms::LectMCI& player_;
+  OwnVoice ownVoice_;
   const platform::SoundClip* sonOctets_ = nullptr;  // the sound played last
 };
 
