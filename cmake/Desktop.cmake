@@ -13,6 +13,10 @@ target_include_directories(ventoria_devices SYSTEM PUBLIC ${MPV_INCLUDEDIR})
 # The adapters of one library speak of the same things by the same names.
 set_target_properties(ventoria_devices PROPERTIES UNITY_BUILD OFF)
 
+# The console records with the same devices; where they are missing it says so.
+target_link_libraries(ventoria-console PRIVATE ventoria_devices)
+target_compile_definitions(ventoria-console PRIVATE VENTORIA_DEVICES)
+
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
 

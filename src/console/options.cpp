@@ -77,7 +77,7 @@ struct KnownOption {
   void (*apply)(Options& options, const std::string& value);
 };
 
-constexpr std::array<KnownOption, 8> table{{
+constexpr std::array<KnownOption, 9> table{{
     {"--folder", [](Options& o, const std::string& value) { o.folder = value; }},
     {"--clock",
      [](Options& o, const std::string& value) {
@@ -95,6 +95,7 @@ constexpr std::array<KnownOption, 8> table{{
     {"--volume", [](Options& o, const std::string& value) { o.volume = parseVolume(value); }},
     {"--ride", [](Options& o, const std::string& value) { o.ride = value; }},
     {"--timeline", [](Options& o, const std::string& value) { o.timeline = value; }},
+    {"--record-voice", [](Options& o, const std::string& value) { o.recordVoice = value; }},
     {"--speed", [](Options& o, const std::string& value) { o.speed = parseSpeed(value); }},
 }};
 
@@ -135,7 +136,8 @@ std::string usage() {
   return "usage: ventoria-console [--folder DIR] [--clock simulated|real] [--now \"2026-01-31 12:00:00.000\"]\n"
          "                        [--sound none|instant|timed] [--volume N|none] [--every-tick] [SCRIPT]\n"
          "       ventoria-console --ride FILE [--speed N]\n"
-         "       ventoria-console --timeline FILE [--folder DIR]\n";
+         "       ventoria-console --timeline FILE [--folder DIR]\n"
+         "       ventoria-console --record-voice DIR\n";
 }
 
 }  // namespace console

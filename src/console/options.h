@@ -20,8 +20,9 @@ struct Options {
   std::string script;  // empty: standard input
   std::string ride;    // a session file to ride at the terminal
   double speed = 1;
-  std::string timeline;    // a session file whose timeline is to be printed
-  bool everyTick = false;  // no timer rests: for a comparison
+  std::string timeline;     // a session file whose timeline is to be printed
+  std::string recordVoice;  // the folder that somebody records the prompts into
+  bool everyTick = false;   // no timer rests: for a comparison
   bool help = false;
 };
 

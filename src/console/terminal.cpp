@@ -1,5 +1,6 @@
 #include "console/terminal.h"
 
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <termios.h>
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 namespace console {
@@ -26,10 +28,12 @@ struct Terminal::Saved {
   termios mode{};
 };
 
-Terminal::Terminal() : redraws_(isatty(STDOUT_FILENO) != 0) {
+Terminal::Terminal(Input input) : input_(input), redraws_(isatty(STDOUT_FILENO) != 0) {
   struct sigaction note {};
   note.sa_handler = &recordSignal;  // without SA_RESTART, so that a wait ends
   for (const int number : endingSignals) sigaction(number, &note, nullptr);
+  // Closed from the start, it may become any file that is opened next.
+  if (input_ == Input::Anything && fcntl(STDIN_FILENO, F_GETFD) < 0) signalled = 1;  // NOLINT(*-vararg)
   auto saved = std::make_unique<Saved>();
   if (tcgetattr(STDIN_FILENO, &saved->mode) != 0) return;
   termios keys = saved->mode;
@@ -56,12 +60,14 @@ int Terminal::width() const {
 void Terminal::wait(std::chrono::milliseconds time) {
   if (interrupted()) time = std::min(time, std::chrono::milliseconds(20));
   pollfd input{STDIN_FILENO, POLLIN, 0};
-  const int ready = poll(&input, saved_ ? 1 : 0, static_cast<int>(std::max<long>(0, time.count())));
+  const int ready = poll(&input, saved_ || input_ == Input::Anything ? 1 : 0,
+                         static_cast<int>(std::max<long>(0, time.count())));
   if (ready <= 0) return;
   std::array<char, 64> bytes{};
   const ssize_t count = read(STDIN_FILENO, bytes.data(), bytes.size());
   if (count > 0) keys_.insert(keys_.end(), bytes.begin(), bytes.begin() + count);
-  if (count == 0) signalled = 1;  // the terminal has gone
+  const bool failed = count < 0 && errno != EINTR && input_ == Input::Anything;
+  if (count == 0 || failed) signalled = 1;  // the terminal has gone
 }
 
 char Terminal::key() {

@@ -15,9 +15,7 @@
 namespace voice {
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto longestRecording = 15s;
+constexpr std::chrono::seconds longestRecording{longestSeconds};
 constexpr std::uint64_t largestFile = 64 << 20;  // bytes; 15 s at the highest rate are less
 
 // The number that the name of a recording begins with; none for a file that is none of them, such as a note.
@@ -53,7 +51,7 @@ void OwnVoice::lookIn(std::string folder) {
   said_.clear();
   try {
     if (!files_.exists(folder_)) return;
-    for (const std::string& name : files_.list(folder_)) {
+    for (const std::string& name : files_.list(folder_.substr(0, folder_.size() - 1))) {
       const std::optional<int> number = numberOf(name);
       if (!number) continue;
       std::vector<std::string>& names = names_[*number];
@@ -108,7 +106,7 @@ std::string OwnVoice::complaint() const {
     if (told.contains(verdict)) lines += "\n" + std::string(reason) + " : " + told[verdict] + ".";
   }
   if (lines.empty()) return {};
-  return "Dans le dossier « " + folder_ +
+  return "Dans le dossier « " + folder_.substr(0, folder_.size() - 1) +
          " », ces fichiers ne peuvent pas servir ; la voix de Ventoria parle à leur place." + lines;
 }
 

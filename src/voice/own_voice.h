@@ -11,6 +11,8 @@
 
 namespace voice {
 
+inline constexpr int longestSeconds = 15;  // of a recording
+
 class OwnVoice {
  public:
   explicit OwnVoice(platform::FileSystem& files) : files_(files) {}
@@ -39,9 +41,9 @@ class OwnVoice {
 
   platform::FileSystem& files_;
   std::string folder_;
-  std::string unlisted_;                                 // why the folder could not be listed
-  std::map<int, std::vector<std::string>> names_;        // by number, the best one first
-  std::map<int, std::optional<Kept>> said_;              // none: none of its files can be said
+  std::string unlisted_;                           // why the folder could not be listed
+  std::map<int, std::vector<std::string>> names_;  // by number, the best one first
+  std::map<int, std::optional<Kept>> said_;        // none: none of its files can be said
 };
 
 }  // namespace voice

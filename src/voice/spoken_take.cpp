@@ -56,13 +56,14 @@ std::vector<Stretch> loudStretches(const std::vector<double>& powers) {
   constexpr double steady = 6;          // dB: what varies less is a noise
   if (powers.empty()) return {};
   std::vector<double> sorted = powers;
-  const auto quiet = sorted.begin() + static_cast<long>(sorted.size() / 10);
+  const auto quiet = sorted.begin() + static_cast<long>(sorted.size() / 20);
   std::nth_element(sorted.begin(), quiet, sorted.end());
   const double noise = *quiet;
   const double loudest = *std::max_element(powers.begin(), powers.end());
   if (loudest <= noise * powerRatio(steady)) return {};
-  const double threshold = std::min(std::max(noise * powerRatio(overNoise), loudest * powerRatio(underLoudest)),
-                                    loudest * powerRatio(certain));
+  const double threshold =
+      std::min(std::max(noise * powerRatio(overNoise), loudest * powerRatio(underLoudest)),
+               loudest * powerRatio(certain));
   std::vector<Stretch> stretches;
   for (std::size_t i = 0; i < powers.size(); ++i) {
     if (powers[i] < threshold) continue;

@@ -18,8 +18,8 @@ inline constexpr double silentBelow = -50.0;  // a recording whose peak is lower
 // The level of those pieces (20 ms is usual, given in samples) that lie within 25 dB of the loudest one.
 [[nodiscard]] double activeLevel(std::span<const float> samples, std::size_t piece);
 
-// The speech of a take of one channel, from 40 ms before to 80 ms behind it, at the level of the bank. What is
-// short and stands alone, such as the click of a key, is no speech. Empty where nothing was said.
+// The speech of a take of one channel, from 40 ms before to 80 ms behind it, at the level of the bank. What
+// is short and stands alone, such as the click of a key, is no speech. Empty where nothing was said.
 [[nodiscard]] std::vector<float> asPrompt(std::span<const float> take, int samplesPerSecond);
 
 }  // namespace voice

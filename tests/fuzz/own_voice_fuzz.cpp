@@ -1,4 +1,5 @@
-// Any bytes as a recording of the rider's own voice: said as they are and for no longer than allowed, or told.
+// Any bytes as a recording of the rider's own voice: said as they are and for no longer than allowed, or
+// told.
 #include <algorithm>
 
 #include "fuzz/check.h"

@@ -46,13 +46,14 @@ TEST(ConsoleTextTest, RefusesWordsThatAreNoNumbers) {
 TEST(ConsoleOptionsTest, UnderstandsTheCommandLine) {
   const auto options =
       console::parseOptions({"--folder", "/x", "--clock=real", "--now", "2026-01-31 23:59:58.250", "--sound",
-                             "timed", "--volume", "none", "s.txt"});
+                             "timed", "--volume", "none", "--record-voice", "v", "s.txt"});
   EXPECT_EQ(options.folder, "/x");
   EXPECT_TRUE(options.realClock);
   const platform::LocalTime day{std::chrono::local_days{std::chrono::year{2026} / 1 / 31}};
   EXPECT_EQ(options.start - day, 24h - 1750ms);
   EXPECT_EQ(options.sound, SoundMode::Timed);
   EXPECT_EQ(options.volume, std::nullopt);
+  EXPECT_EQ(options.recordVoice, "v");
   EXPECT_EQ(options.script, "s.txt");
   for (const char* bad :
        {"--folder", "--folder=", "--nope", "a|b", "--sound|loud", "--volume|101", "--volume|-1",

@@ -1,4 +1,6 @@
 // The rider's own voice: which recordings are said instead of the bank's, and how a take becomes one.
+#include "voice/own_voice.h"
+
 #include <gmock/gmock.h>
 
 #include <bit>
@@ -11,7 +13,6 @@
 #include "rehearsal/session_ride.h"
 #include "support/session_bytes.h"
 #include "support/simulated_program.h"
-#include "voice/own_voice.h"
 #include "voice/sound_bank.h"
 #include "voice/spoken_take.h"
 #include "voice/wav_samples.h"
@@ -40,9 +41,9 @@ std::string made(const Made& m) {
   std::string data;
   for (int i = 0; i < std::lround(m.seconds * m.rate); ++i) {
     const double wave = voice::amplitudeOf(m.level) * std::sin(2 * std::numbers::pi * 300 * i / m.rate);
-    const auto whole = static_cast<std::uint64_t>(
-        std::llround(wave * std::exp2(m.bits - 1) * (1 - 1e-9)) + (m.bits == 8 ? 128 : 0));
-    const std::uint64_t sample = m.code != 3     ? whole
+    const auto whole = static_cast<std::uint64_t>(std::llround(wave * std::exp2(m.bits - 1) * (1 - 1e-9)) +
+                                                  (m.bits == 8 ? 128 : 0));
+    const std::uint64_t sample = m.code != 3    ? whole
                                  : m.bits == 32 ? std::bit_cast<std::uint32_t>(static_cast<float>(wave))
                                                 : std::bit_cast<std::uint64_t>(wave);
     for (unsigned c = 0; c < m.channels; ++c) data += number(sample, m.bits / 8);
@@ -50,9 +51,11 @@ std::string made(const Made& m) {
   const unsigned frame = m.channels * m.bits / 8;
   std::string form = number(m.code, 2) + number(m.channels, 2) + number(m.rate, 4) +
                      number(std::uint64_t{m.rate} * frame, 4) + number(frame, 2) + number(m.bits, 2);
-  if (m.code == 0xFFFE) form += number(22, 2) + number(m.bits, 2) + number(0, 4) + number(1, 6) + number(0x800010, 4) + number(0x719B3800AA00, 6);
-  return "RIFF" + number(28 + form.size() + data.size(), 4) + "WAVEfmt " + number(form.size(), 4) + form + "data" +
-         number(data.size(), 4) + data;
+  if (m.code == 0xFFFE)
+    form += number(22, 2) + number(m.bits, 2) + number(0, 4) + number(1, 6) + number(0x800010, 4) +
+            number(0x719B3800AA00, 6);
+  return "RIFF" + number(28 + form.size() + data.size(), 4) + "WAVEfmt " + number(form.size(), 4) + form +
+         "data" + number(data.size(), 4) + data;
 }
 
 std::string text(std::span<const unsigned char> bytes) {
@@ -79,22 +82,22 @@ TEST(OwnVoiceTest, WhatCanBeHeardIsSaidAndAllElseIsToldAndTheBankSpeaks) {
     EXPECT_THAT(complaint, HasSubstr(told.empty() ? "" : "\n" + told + " : 118 à ma façon.WAV."));
   };
   const std::string noSound = "Pas un son WAV";
-  for (const Made& m : std::initializer_list<Made>{
-           {"bytes", 1, 8, 1, 11025, 1, -20, ""},
-           {"usual", 1, 16, 2, 44100, 1, -48, ""},
-           {"studio", 1, 24, 2, 96000, 1, -48, ""},
-           {"wide", 1, 32, 1, 8000, 1, -48, ""},
-           {"floats", 3, 32, 2, 48000, 1, -48, ""},
-           {"doubles", 3, 64, 1, 48000, 1, -48, ""},
-           {"longer header", 0xFFFE, 24, 2, 48000, 1, -48, ""},
-           {"just short enough", 1, 16, 1, 22050, 15, -20, ""},
-           {"too long", 1, 16, 1, 22050, 15.01, -20, "Plus de 15 secondes"},
-           {"nothing", 1, 16, 1, 22050, 0, -20, "Silence"},
-           {"silent bytes", 1, 8, 1, 11025, 1, -90, "Silence"},
-           {"faint", 1, 16, 2, 44100, 1, -52, "Silence"},
-           {"faint floats", 3, 32, 2, 44100, 1, -52, "Silence"},
-           {"six channels", 1, 16, 6, 48000, 1, -20, "Pas un son WAV"},
-           {"telephone", 7, 8, 1, 8000, 1, -20, "Pas un son WAV"}})
+  for (const Made& m :
+       std::initializer_list<Made>{{"bytes", 1, 8, 1, 11025, 1, -20, ""},
+                                   {"usual", 1, 16, 2, 44100, 1, -48, ""},
+                                   {"studio", 1, 24, 2, 96000, 1, -48, ""},
+                                   {"wide", 1, 32, 1, 8000, 1, -48, ""},
+                                   {"floats", 3, 32, 2, 48000, 1, -48, ""},
+                                   {"doubles", 3, 64, 1, 48000, 1, -48, ""},
+                                   {"longer header", 0xFFFE, 24, 2, 48000, 1, -48, ""},
+                                   {"just short enough", 1, 16, 1, 22050, 15, -20, ""},
+                                   {"too long", 1, 16, 1, 22050, 15.01, -20, "Plus de 15 secondes"},
+                                   {"nothing", 1, 16, 1, 22050, 0, -20, "Silence"},
+                                   {"silent bytes", 1, 8, 1, 11025, 1, -90, "Silence"},
+                                   {"faint", 1, 16, 2, 44100, 1, -52, "Silence"},
+                                   {"faint floats", 3, 32, 2, 44100, 1, -52, "Silence"},
+                                   {"six channels", 1, 16, 6, 48000, 1, -20, "Pas un son WAV"},
+                                   {"telephone", 7, 8, 1, 8000, 1, -20, "Pas un son WAV"}})
     check(m.what, made(m), m.told);
   check("packed", text(voice::promptByNumber(196)->wav), "");
   check("empty", "", noSound);
@@ -108,7 +111,8 @@ TEST(OwnVoiceTest, WhatCanBeHeardIsSaidAndAllElseIsToldAndTheBankSpeaks) {
   memory.put("/v/118 à ma façon.WAV", threeSeconds);
   own.lookIn("/v/");
   EXPECT_TRUE(own.has(118));
-  EXPECT_THAT(own.complaint(), AllOf(HasSubstr("Aucune annonce de ce numéro : 999.wav."), Not(HasSubstr("118"))));
+  EXPECT_THAT(own.complaint(),
+              AllOf(HasSubstr("Aucune annonce de ce numéro : 999.wav."), Not(HasSubstr("118"))));
   EXPECT_EQ(own.prompt(999), nullptr);
 
   // What vanishes is the bank's again, unless it has been said before.
@@ -126,24 +130,28 @@ TEST(OwnVoiceTest, WhatCanBeHeardIsSaidAndAllElseIsToldAndTheBankSpeaks) {
   EXPECT_EQ(own.prompt(118), voice::promptByNumber(118));
   disk.failFrom(support::FaultyFileSystem::Call::List, 1);
   own.lookIn("/v/");
-  EXPECT_THAT(own.complaint(), HasSubstr("Impossible de lire le dossier « /v/ » : accès refusé."));
+  EXPECT_THAT(own.complaint(), HasSubstr("Impossible de lire le dossier « /v » : accès refusé."));
 }
 
 // Prompt 199 is the one that this start says twice, 191 the one that a countdown begins with.
 TEST(OwnVoiceTest, TheProgramSaysThemAndARehearsalTakesAsLong) {
   support::SimulatedProgram program(support::settingsOn, std::chrono::hours(12), rehearsal::SoundMode::Timed);
   program.memory.folders.insert("/d/voix");
-  for (const char* name : {"199", "191"}) program.memory.put("/d/voix/" + std::string(name) + ".wav", threeSeconds);
+  for (const char* name : {"199", "191"})
+    program.memory.put("/d/voix/" + std::string(name) + ".wav", threeSeconds);
   program.memory.put("/d/voix/200.wav", "x");
   ASSERT_TRUE(program.start());
   EXPECT_EQ(program.loop().clock().now(), std::chrono::seconds(6));
-  EXPECT_THAT(program.run("journal"), AllOf(HasSubstr("0.000\tprompt\t199"), HasSubstr("6.000\tdialog\tmessage\tVotre"),
-                                            HasSubstr("200.wav")));
+  EXPECT_THAT(program.run("journal"),
+              AllOf(HasSubstr("0.000\tprompt\t199"), HasSubstr("6.000\tdialog\tmessage\tVotre"),
+                    HasSubstr("200.wav")));
   EXPECT_THAT(program.run("press MainForm.mnsons\ntick MainForm.Check2 0\nadvance 5\njournal dialog"), "");
 
   program.memory.put("/s.tq2", support::session(1, 1));
-  const model::Timeline ride = rehearsal::Rehearsals(program.memory, "/d").whole(
-      {rehearsal::orderOf(program.memory, "/s.tq2"), rehearsal::settingsIn(program.memory, "/d"), {}});
+  const model::Timeline ride = rehearsal::Rehearsals(program.memory, "/d")
+                                   .whole({rehearsal::orderOf(program.memory, "/s.tq2"),
+                                           rehearsal::settingsIn(program.memory, "/d"),
+                                           {}});
   const auto start = std::find_if(ride.sounds.begin(), ride.sounds.end(),
                                   [](const model::TimedSound& sound) { return sound.prompt == 191; });
   ASSERT_NE(start, ride.sounds.end());
@@ -162,11 +170,13 @@ double levelOf(const std::vector<float>& samples, unsigned samplesPerSecond) {
 TEST(SpokenTakeTest, EveryPromptOfTheBankIsAsLoudAsTakesAreMade) {
   for (const platform::SoundClip& prompt : voice::prompts()) {
     const auto form = platform::wavForm(prompt.wav);
-    EXPECT_NEAR(levelOf(samplesOf(prompt), form->rate * form->channels), voice::bankLevel, 0.5) << prompt.number;
+    EXPECT_NEAR(levelOf(samplesOf(prompt), form->rate * form->channels), voice::bankLevel, 0.5)
+        << prompt.number;
   }
 }
 
-// A prompt of the bank is spoken over a room's noise, between the clicks of the key that begins and ends the take.
+// A prompt of the bank is spoken over a room's noise, between the clicks of the key that begins and ends the
+// take.
 struct Room {
   const char* what;
   double gain, noise;  // dB, dBFS
@@ -191,7 +201,8 @@ TEST_P(Takes, AreCutToTheSpeechAndMadeAsLoudAsTheBank) {
       take[static_cast<std::size_t>(second * rate) + static_cast<std::size_t>(i)] += 0.3F * noise(random);
   }
   for (float& sample : take)
-    sample = std::clamp(sample + static_cast<float>(voice::amplitudeOf(room.noise)) * noise(random), -1.0F, 1.0F);
+    sample =
+        std::clamp(sample + static_cast<float>(voice::amplitudeOf(room.noise)) * noise(random), -1.0F, 1.0F);
 
   const std::vector<float> prompt = voice::asPrompt(take, rate);
   // The bank's own prompt has the same margins.
