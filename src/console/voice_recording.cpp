@@ -53,9 +53,9 @@ VoiceRecording::VoiceRecording(platform::FileSystem& files, platform::Studio& st
 
 int VoiceRecording::recorded() const {
   const auto prompts = voice::prompts();
-  return static_cast<int>(std::count_if(prompts.begin(), prompts.end(), [this](const platform::SoundClip& clip) {
-    return own_.has(clip.number);
-  }));
+  return static_cast<int>(
+      std::count_if(prompts.begin(), prompts.end(),
+                    [this](const platform::SoundClip& clip) { return own_.has(clip.number); }));
 }
 
 void VoiceRecording::tellProgress() {
@@ -68,14 +68,16 @@ void VoiceRecording::run() {
   files_.makeFolder(folder_.substr(0, folder_.size() - 1));
   platform::removeLeftovers(files_, folder_);
   tellProgress();
-  out_ << "Parlez à une main du micro, toujours aussi fort. Ctrl+C arrête à tout moment : rien de gardé n'est "
-          "perdu.\n";
+  out_
+      << "Parlez à une main du micro, toujours aussi fort. Ctrl+C arrête à tout moment : rien de gardé n'est "
+         "perdu.\n";
   std::size_t place = 0;
   for (const platform::SoundClip& clip : voice::prompts()) {
     ++place;
     if (own_.has(clip.number)) continue;
     out_ << '\n'
-         << place << '/' << voice::prompts().size() << "  n° " << clip.number << "  « " << clip.spoken << " »\n";
+         << place << '/' << voice::prompts().size() << "  n° " << clip.number << "  « " << clip.spoken
+         << " »\n";
     if (!speak(clip)) break;
   }
   out_ << '\n';
@@ -121,7 +123,8 @@ std::optional<std::vector<char>> VoiceRecording::take() {
     out_ << "  Rien n'a été entendu. Le micro est-il coupé, ou trop loin ?\n";
     return std::nullopt;
   }
-  out_ << "  " << seconds(prompt.size()) << (overdriven(samples) ? ", mais trop fort : reculez du micro.\n" : "\n");
+  out_ << "  " << seconds(prompt.size())
+       << (overdriven(samples) ? ", mais trop fort : reculez du micro.\n" : "\n");
   if (prompt.size() > voice::longestSeconds * static_cast<std::size_t>(format.samplesPerSecond)) {
     out_ << "  C'est plus de " << voice::longestSeconds << " secondes : trop long.\n";
     return std::nullopt;

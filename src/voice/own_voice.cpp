@@ -42,6 +42,19 @@ bool isSilent(platform::RandomFile& file, const platform::WavForm& form) {
   return true;
 }
 
+// The names with commas, as far as there is room for them.
+std::string listed(const std::vector<std::string>& names, std::size_t& room) {
+  std::string list;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const std::string name = (i == 0 ? "" : ", ") + names[i];
+    if (name.size() > room)
+      return list + (i == 0 ? "" : " et ") + std::to_string(names.size() - i) + " autres";
+    room -= name.size();
+    list += name;
+  }
+  return list;
+}
+
 }  // namespace
 
 void OwnVoice::lookIn(std::string folder) {
@@ -94,16 +107,17 @@ std::string OwnVoice::complaint() const {
        {Verdict::Unreadable, "Illisible"},
        {Verdict::NoSuchPrompt, "Aucune annonce de ce numéro"}}};
   if (!unlisted_.empty()) return unlisted_ + "\nLa voix de Ventoria parle à sa place.";
-  std::map<Verdict, std::string> told;
+  std::map<Verdict, std::vector<std::string>> told;
   for (const auto& [number, names] : names_) {
     if (has(number)) continue;
     const bool known = promptByNumber(number) != nullptr;
-    std::string& list = told[known ? verdictOn(names.front()) : Verdict::NoSuchPrompt];
-    list += (list.empty() ? "" : ", ") + names.front();
+    told[known ? verdictOn(names.front()) : Verdict::NoSuchPrompt].push_back(names.front());
   }
+  std::size_t room = 1500;  // bytes: each prompt of the bank once, by its plain name
   std::string lines;
   for (const auto& [verdict, reason] : reasons) {
-    if (told.contains(verdict)) lines += "\n" + std::string(reason) + " : " + told[verdict] + ".";
+    if (told.contains(verdict))
+      lines += "\n" + std::string(reason) + " : " + listed(told[verdict], room) + ".";
   }
   if (lines.empty()) return {};
   return "Dans le dossier « " + folder_.substr(0, folder_.size() - 1) +

@@ -115,6 +115,13 @@ TEST(OwnVoiceTest, WhatCanBeHeardIsSaidAndAllElseIsToldAndTheBankSpeaks) {
               AllOf(HasSubstr("Aucune annonce de ce numéro : 999.wav."), Not(HasSubstr("118"))));
   EXPECT_EQ(own.prompt(999), nullptr);
 
+  // A folder of music is told in a message that still fits a screen.
+  for (int track = 1; track < 100; ++track)
+    memory.put("/v/" + std::to_string(track) + std::string(40, ' '), "x");
+  own.lookIn("/v/");
+  EXPECT_LT(own.complaint().size(), 1800U);
+  EXPECT_THAT(own.complaint(), HasSubstr(" et 66 autres."));
+
   // What vanishes is the bank's again, unless it has been said before.
   memory.put("/v/119.wav", threeSeconds);
   own.lookIn("/v/");

@@ -1,10 +1,11 @@
 // Who speaks the prompts himself: what he presses, what he is told, what is kept.
+#include "console/voice_recording.h"
+
 #include <gmock/gmock.h>
 
 #include <cmath>
 #include <sstream>
 
-#include "console/voice_recording.h"
 #include "platform/fault.h"
 #include "rehearsal/memory_file_system.h"
 #include "support/faulty_file_system.h"
