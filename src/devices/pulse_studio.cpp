@@ -12,7 +12,7 @@ constexpr std::chrono::milliseconds wakingUp{2000};  // of a microphone that the
 }  // namespace
 
 PulseStudio::PulseStudio(std::function<bool()> giveUp)
-    : giveUp_(std::move(giveUp)), output_(connection_, level_, {{}, giveUp_, {}}) {}
+    : giveUp_(std::move(giveUp)), output_(connection_, level_, {{}, giveUp_, {}, {}}) {}
 
 bool PulseStudio::record(int samplesPerSecond) {
   output_.settle();  // else the microphone hears the end of it
