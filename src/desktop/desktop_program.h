@@ -8,6 +8,7 @@
 #include "desktop/dbus_screen_saver.h"
 #include "desktop/end_signals.h"
 #include "desktop/loop_alarm.h"
+#include "desktop/media_control.h"
 #include "desktop/qt_clock.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_printer.h"
@@ -62,6 +63,7 @@ class DesktopProgram final : public QObject {
   app::Program program_;
   Windows windows_;
   LoopAlarm alarm_{program_.loop()};
+  MediaControl mediaControl_{program_, [this] { wake(); }};
   EndSignals endSignals_;
   bool closing_ = false;
   bool inputHeld_ = false;

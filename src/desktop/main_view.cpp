@@ -1,6 +1,7 @@
 #include "desktop/main_view.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <cmath>
 
 #include "desktop/covered_parts.h"
 #include "desktop/keyboard_focus.h"
@@ -100,11 +101,22 @@ void MainView::refreshRide() {
   ui_->kindChip->setVisible(main_.Label11.visible);
   ui_->kindChip->show(family, main_.Label11.visible);
   ui_->sequenceBar->setVisible(riding());
-  ui_->sequenceBar->show(family, state_.dureeSequence > 0 ? state_.ecouleSequence / state_.dureeSequence : 0);
+  ui_->sequenceBar->show(barFamily(family),
+                         state_.dureeSequence > 0 ? state_.ecouleSequence / state_.dureeSequence : 0);
   // The label holds a message outside a ride; during a ride it says in its card that there is no target.
   const bool message = forms::showsMessage(main_) && !riding();
   ui_->banner->setText(message ? toQt(main_.Label44.caption.get()) : QString());
   ui_->banner->setVisible(message);
+}
+
+// In its last seconds the bar wears the colour of what comes next: every other second, or steadily where the
+// desktop asks for calm.
+model::EffortFamily MainView::barFamily(model::EffortFamily present) const {
+  constexpr long announced = 10;  // s
+  const long left = std::lround(state_.restantSequence * model::secondsADay);
+  const int next = riding() && left > 0 && left <= announced ? nextRow() : 0;
+  const bool lit = left % 2 == 0 || !QApplication::isEffectEnabled(Qt::UI_General);
+  return next > 0 && lit ? model::effortFamily(state_.plan.rows[at(next)].planSequence) : present;
 }
 
 void MainView::refreshCards() {

@@ -31,6 +31,7 @@ class MainView final : public FormView {
   void refreshCards();
   void refreshProfile();
   void refreshCountdown();
+  [[nodiscard]] model::EffortFamily barFamily(model::EffortFamily present) const;
   [[nodiscard]] bool riding() const { return state_.plan.started(); }
   [[nodiscard]] static QString factsOf(const model::PlanRow& row);
   [[nodiscard]] int nextRow() const;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QShortcut>
 #include <functional>
 #include <utility>
@@ -33,6 +34,23 @@ void Shortcuts::addToMain(QWidget& page) {
   add(page, Qt::Key_Space, [this] { pauseOrPress(); });
   add(page, Qt::Key_Escape, [this] { offerToCancel(); });
   add(page, Qt::Key_F11, [this] { fillScreen(); });
+  for (const Qt::Key key : {Qt::Key_MediaPlay, Qt::Key_MediaPause, Qt::Key_MediaTogglePlayPause})
+    add(page, key, [this] { pause(); });
+  add(page, Qt::Key_MediaStop, [this] { offerToCancel(); });
+  if (auto* chrono = page.findChild<QWidget*>(QStringLiteral("chrono"))) chrono->installEventFilter(this);
+}
+
+// A target for a finger, as large as the digits.
+bool Shortcuts::eventFilter(QObject* watched, QEvent* event) {
+  const bool pressed = event->type() == QEvent::MouseButtonRelease &&
+                       static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+  if (!pressed || !riding()) return QObject::eventFilter(watched, event);
+  binder_.run([this] { pause(); });
+  return true;
+}
+
+void Shortcuts::pause() {
+  if (riding()) press(main_.Command7);
 }
 
 void Shortcuts::addToEditor(QWidget& page) {

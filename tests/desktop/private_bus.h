@@ -22,7 +22,7 @@ class PrivateBus {
   ~PrivateBus() {
     thread_.quit();
     thread_.wait();
-    for (const char* name : {"service", "rider"}) QDBusConnection::disconnectFromBus(name);
+    for (const char* name : {"service", "rider", "client"}) QDBusConnection::disconnectFromBus(name);
     daemon_.kill();
     daemon_.waitForFinished();
   }
@@ -33,7 +33,9 @@ class PrivateBus {
     EXPECT_TRUE(bus.registerVirtualObject(path, &object_) && bus.registerService(name));
     return bus;
   }
-  QDBusConnection rider() { return QDBusConnection::connectToBus(address_, "rider"); }
+  QDBusConnection rider() { return connect("rider"); }
+  // `name` is "rider" or "client".
+  QDBusConnection connect(const char* name) { return QDBusConnection::connectToBus(address_, name); }
 
  private:
   struct Object final : QDBusVirtualObject {
