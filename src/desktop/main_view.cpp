@@ -1,6 +1,8 @@
 #include "desktop/main_view.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QWindow>
 #include <cmath>
 
 #include "desktop/covered_parts.h"
@@ -59,6 +61,9 @@ MainView::MainView(forms::MainForm& form, const model::SharedState& state, QWidg
   ui_->banner->raise();
   ui_->banner->setAutoFillBackground(true);
   ui_->firstText->setTextFormat(Qt::RichText);
+  headerStays_.setSingleShot(true);
+  headerStays_.setInterval(std::chrono::seconds(3));
+  connect(&headerStays_, &QTimer::timeout, this, &MainView::refreshSoon);
   followAll(form);
   speak({});
 }
@@ -71,7 +76,9 @@ void MainView::speak(const QString& text) {
 }
 
 void MainView::draw() {
+  followWindow();
   refreshPages();
+  refreshRoom();
   refreshRide();
   refreshCards();
   refreshProfile();
@@ -94,6 +101,57 @@ void MainView::refreshPages() {
   const bool startable = main_.MyButton1.enabled && forms::startOffered(main_);
   setLook(*ui_->MyButton1, startable ? QStringLiteral("primary") : QString());
   setLook(*ui_->MyButton5, main_.MyButton1.enabled ? QString() : QStringLiteral("primary"));
+}
+
+void MainView::followWindow() {
+  page_.window()->installEventFilter(this);  // only once, however often
+  if (QWindow* handle = page_.window()->windowHandle()) handle->installEventFilter(this);
+}
+
+bool MainView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == page_.window() && event->type() == QEvent::WindowStateChange) refreshSoon();
+  if (watched == page_.window()->windowHandle() && event->type() == QEvent::MouseMove &&
+      page_.window()->isFullScreen()) {
+    headerStays_.start();
+    if (!ui_->header->isVisible()) refreshSoon();
+  }
+  return FormView::eventFilter(watched, event);
+}
+
+// A ride that fills the screen is read from far away: hours that are nil leave their room, the header folds
+// away until the pointer moves, and what comes next grows.
+void MainView::refreshRoom() {
+  const bool large = page_.window()->isFullScreen() && riding();
+  const bool folded = large && !headerStays_.isActive();
+  if (folded) handFocusToPage(*ui_->header);
+  ui_->header->setVisible(!folded);
+  const bool hours = !large || main_.Label4.caption != "00";
+  ui_->Label4->setVisible(hours && main_.Label4.visible);
+  ui_->Label1->setVisible(hours && main_.Label1.visible);
+  for (QWidget* hour : std::initializer_list<QWidget*>{ui_->Label4, ui_->Label1}) {
+    QSizePolicy policy = hour->sizePolicy();
+    if (policy.retainSizeWhenHidden() == large) {
+      policy.setRetainSizeWhenHidden(!large);
+      hour->setSizePolicy(policy);
+    }
+  }
+  ui_->Label5->setLeading(!hours);
+  const int size = large ? largestDigits(hours) : 0;
+  for (widgets::ChronoDigits* digits : {ui_->Label4, ui_->Label5, ui_->Label6}) digits->setSize(size);
+  setLook(*ui_->nextText, large ? QStringLiteral("nextlarge") : QStringLiteral("next"));
+}
+
+// All of one size, for the width and the height that they have together.
+int MainView::largestDigits(bool hours) const {
+  constexpr int sample = 100;
+  QSize taken(0, 0);
+  for (const widgets::ChronoDigits* digits : {ui_->Label4, ui_->Label5, ui_->Label6}) {
+    if (digits == ui_->Label4 && !hours) continue;
+    const QSize each = digits->sizeAt(sample);
+    taken = QSize(taken.width() + each.width(), each.height());
+  }
+  const int height = ui_->chrono->height() - 2 * ui_->Label2->height();
+  return sample * std::min(ui_->chrono->width() * 100 / taken.width(), height * 100 / taken.height()) / 100;
 }
 
 void MainView::refreshRide() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QTimer>
 #include <memory>
 #include <vector>
 
@@ -24,9 +25,15 @@ class MainView final : public FormView {
   ~MainView() override;
   void speak(const QString& text) override;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void draw() override;
   void refreshPages();
+  void refreshRoom();
+  [[nodiscard]] int largestDigits(bool hours) const;
+  void followWindow();
   void refreshRide();
   void refreshCards();
   void refreshProfile();
@@ -39,6 +46,7 @@ class MainView final : public FormView {
   forms::MainForm& main_;
   const model::SharedState& state_;
   std::unique_ptr<Ui::MainForm> ui_;
+  QTimer headerStays_;  // in full screen, after the pointer has moved
 };
 
 }  // namespace desktop

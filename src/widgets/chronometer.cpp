@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "widgets/accessible_faces.h"
 #include "widgets/theme.h"
@@ -31,21 +32,37 @@ void ChronoDigits::setText(const QString& text) {
   update();
 }
 
+void ChronoDigits::setLeading(bool leading) {
+  if (std::exchange(leading_, leading) == leading) return;
+  updateGeometry();
+  update();
+}
+
+void ChronoDigits::setSize(int size) {
+  if (std::exchange(size_, size) == size) return;
+  updateGeometry();
+  update();
+}
+
 QSize ChronoDigits::sizeHint() const {
-  const QFont font = numberFont(this, digitSize);
+  return sizeAt(size_ > 0 ? size_ : digitSize);
+}
+
+QSize ChronoDigits::sizeAt(int size) const {
+  const QFont font = numberFont(this, size);
   const double colon = leading_ ? 0 : font.pixelSize() * colonWidth;
   return {textWidth(font, QStringLiteral("00")) + static_cast<int>(colon),
           static_cast<int>(font.pixelSize() * digitsHeight)};
 }
 
 QSize ChronoDigits::minimumSizeHint() const {
-  return sizeHint() / 3;
+  return sizeAt(digitSize) / 3;
 }
 
 void ChronoDigits::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  QFont font = numberFont(this, digitSize);
+  QFont font = numberFont(this, size_ > 0 ? size_ : digitSize);
   const QSize hint = sizeHint();
   const double shrink = std::min(
       {1.0, static_cast<double>(width()) / hint.width(), static_cast<double>(height()) / hint.height()});

@@ -15,6 +15,10 @@ class ChronoDigits final : public QWidget {
   explicit ChronoDigits(QWidget* parent = nullptr);
   [[nodiscard]] QString text() const { return text_; }
   void setText(const QString& text);
+  void setLeading(bool leading);
+  // The size of the font, px at a scale of 1; 0: the usual one. Digits shrink where they have less room.
+  void setSize(int size);
+  [[nodiscard]] QSize sizeAt(int size) const;
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -24,6 +28,7 @@ class ChronoDigits final : public QWidget {
  private:
   QString text_ = QStringLiteral("00");
   bool leading_ = false;
+  int size_ = 0;
 };
 
 // The seconds left before the start, in a ring that empties.
