@@ -70,9 +70,10 @@ class MediaRoot final : public QDBusAbstractAdaptor {
   [[nodiscard]] static QString desktopEntry() { return QStringLiteral("ventoria"); }
   [[nodiscard]] static QStringList none() { return {}; }
 
- public slots:
+ public slots:  // NOLINTBEGIN(readability-identifier-naming): the bus's own names
   void Raise() { control_.raise(); }
   void Quit() {}  // not from afar: a ride would be lost
+                  // NOLINTEND(readability-identifier-naming)
 
  private:
   MediaControl& control_;
@@ -107,7 +108,7 @@ class MediaPlayer final : public QDBusAbstractAdaptor {
   [[nodiscard]] static bool always() { return true; }
   [[nodiscard]] static bool never() { return false; }
 
- public slots:
+ public slots:  // NOLINTBEGIN(readability-identifier-naming): the bus's own names
   void PlayPause() { control_.pauseOrResume(); }
   void Play() { control_.resume(); }
   void Pause() { control_.pause(); }
@@ -117,6 +118,7 @@ class MediaPlayer final : public QDBusAbstractAdaptor {
   void Seek(qlonglong) {}
   void SetPosition(const QDBusObjectPath&, qlonglong) {}
   void OpenUri(const QString&) {}
+  // NOLINTEND(readability-identifier-naming)
 
  private:
   MediaControl& control_;
