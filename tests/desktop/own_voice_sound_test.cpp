@@ -42,10 +42,9 @@ struct Speaker final : console::Answers {
     if (number != "191" && number != "199") return 's';
     if (all.substr(all.rfind('\n')).find("J'écoute") == std::string::npos) return '\n';
     const std::string other = number == "191" ? "118" : "196";
-    const std::string command =
-        "paplay --device=test_mic --latency-msec=20 --volume=20000 " VENTORIA_SOURCE_DIR
-        "/assets/voice/bank/" +
-        other + ".wav && sleep 0.4";
+    const std::string command = "paplay --device=test_mic --volume=20000 " VENTORIA_SOURCE_DIR
+                                "/assets/voice/bank/" +
+                                other + ".wav && sleep 0.4";
     EXPECT_EQ(std::system(command.c_str()), 0);  // NOLINT(cert-env33-c)
     return '\n';
   }
