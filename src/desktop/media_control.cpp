@@ -23,10 +23,10 @@ qlonglong microseconds(model::TimeValue days) {
 
 // Free for another program of ours: each has a name of its own then.
 QString registerOn(QDBusConnection& bus) {
-  const QString name = QStringLiteral("org.mpris.MediaPlayer2.ventoria");
+  QString name = QStringLiteral("org.mpris.MediaPlayer2.ventoria");
   if (bus.registerService(name)) return name;
-  const QString own = name + QStringLiteral(".instance%1").arg(QCoreApplication::applicationPid());
-  return bus.registerService(own) ? own : QString();
+  name += QStringLiteral(".instance%1").arg(QCoreApplication::applicationPid());
+  return bus.registerService(name) ? name : QString();
 }
 
 }  // namespace
