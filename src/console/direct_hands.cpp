@@ -1,5 +1,7 @@
 #include "console/direct_hands.h"
 
+#include <algorithm>
+
 namespace console {
 
 using platform::CheckBox;
@@ -69,7 +71,17 @@ void DirectHands::checkRow(platform::Grid& grid, int row, bool on) {
   grid.tickRow(row, on);
 }
 
+void DirectHands::select(platform::Grid& grid, const std::vector<int>& rows) {
+  if (rows.size() == 1) return grid.select(rows.front());
+  grid.selectRows(rows, rows.back());
+}
+
 void DirectHands::key(platform::Control& target, const std::string& key) {
+  if (auto* grid = dynamic_cast<platform::Grid*>(&target)) {
+    const int step = key == "Shift+Up" ? -1 : key == "Shift+Down" ? 1 : 0;
+    if (step == 0) return grid->keyPressed(key);
+    return grid->extendSelection(std::clamp(grid->selectedRow() + step, 1, grid->rowCount()));
+  }
   if (auto* files = dynamic_cast<FileList*>(&target)) {
     files->key(key);
     return;

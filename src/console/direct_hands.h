@@ -17,6 +17,7 @@ class DirectHands final : public RiderHands {
   void cell(platform::Grid& grid, int row, int column, platform::MouseButton button) override;
   void hoverCell(platform::Grid& grid, int row, int column) override;
   void checkRow(platform::Grid& grid, int row, bool on) override;
+  void select(platform::Grid& grid, const std::vector<int>& rows) override;
   void key(platform::Control& target, const std::string& key) override;
   void leave(platform::ComboBox& box) override;
 };

@@ -99,7 +99,7 @@ class Ride {
         voice_(screen_, devices_.sound),
         dialogs_(screen_, scratch_.session()),
         program_({clock_, voice_, dialogs_, files_, devices_.screenSaver, devices_.mediaCommands,
-                  devices_.level, devices_.shell, devices_.volume, devices_.printer},
+                  devices_.level, devices_.shell, devices_.volume, devices_.printer, devices_.clipboard},
                  {scratch_.folder(), VENTORIA_VERSION, {}}),
         refreshPeriod_(static_cast<int>(100 * speed)) {
     devices_.sound.attach(loop_);

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 
 #include "console/inspection.h"
 #include "console/names.h"
 #include "console/reach.h"
 #include "platform/form.h"
+#include "platform/text.h"
 
 namespace console {
 namespace {
@@ -34,11 +36,29 @@ CellPlace cellOf(const platform::Grid& grid, Arguments& arguments) {
   return place;
 }
 
+// "3", "3-7", "3,5,9-11": in their order.
+std::vector<int> rowsOf(const platform::Grid& grid, const std::string& list) {
+  std::set<int> rows;
+  for (const std::string& part : platform::split(list, ',')) {
+    const std::vector<std::string> ends = platform::split(part, '-');
+    if (ends.size() > 2) throw CommandError("\"" + part + "\" is no run of rows");
+    Arguments first(ends.front());
+    Arguments last(ends.back());
+    const int from = first.number("row");
+    const int to = last.number("row");
+    if (from < 1 || to > grid.rowCount() || from > to) {
+      throw CommandError(grid.name() + " has no rows " + part);
+    }
+    for (int row = from; row <= to; ++row) rows.insert(row);
+  }
+  return {rows.begin(), rows.end()};
+}
+
 }  // namespace
 
 void RiderCommands::enrol(CommandTable& table) {
   using Member = void (RiderCommands::*)(Arguments&);
-  static constexpr std::array<std::pair<const char*, Member>, 11> commands{{
+  static constexpr std::array<std::pair<const char*, Member>, 12> commands{{
       {"press", &RiderCommands::press},
       {"double", &RiderCommands::doublePress},
       {"hover", &RiderCommands::hover},
@@ -50,6 +70,7 @@ void RiderCommands::enrol(CommandTable& table) {
       {"hovercell", &RiderCommands::hoverCell},
       {"checkrow", &RiderCommands::checkRow},
       {"key", &RiderCommands::key},
+      {"select", &RiderCommands::select},
   }};
   for (const auto& [name, member] : commands) {
     table[name] = [this, run = member](Arguments& arguments) { (this->*run)(arguments); };
@@ -203,11 +224,24 @@ void RiderCommands::checkRow(Arguments& arguments) {
   touch(grid, [&] { hands_.checkRow(grid, row, on); });
 }
 
+void RiderCommands::select(Arguments& arguments) {
+  platform::Grid& grid = findGrid(screens_, arguments.word("FORM.CONTROL"));
+  reach(grid);
+  const std::vector<int> rows = rowsOf(grid, arguments.word("rows"));
+  arguments.end();
+  if (rows.size() > 1 && !grid.takesSeveral()) throw CommandError(grid.name() + " selects one row alone");
+  touch(grid, [&] { hands_.select(grid, rows); });
+}
+
 void RiderCommands::key(Arguments& arguments) {
   platform::Control& target = control(arguments, "key", {});
   const std::string key = arguments.word("key");
   arguments.end();
-  static const std::vector<std::string> keys{"Enter", "F5", "F8", "F9", "F10"};
+  static const std::vector<std::string> everywhere{"Enter", "F5", "F8", "F9", "F10"};
+  static const std::vector<std::string> onLists{
+      "Enter",  "F5",     "F8",     "F9",         "F10",    "Ctrl+A",   "Ctrl+C",   "Ctrl+X",
+      "Ctrl+V", "Ctrl+D", "Ctrl+R", "Ctrl+Enter", "Alt+Up", "Alt+Down", "Shift+Up", "Shift+Down"};
+  const auto& keys = target.kind() == ControlKind::Grid ? onLists : everywhere;
   if (std::find(keys.begin(), keys.end(), key) == keys.end()) {
     throw CommandError("no key " + key + platform::nearNames(key, keys));
   }

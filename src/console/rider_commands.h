@@ -36,6 +36,7 @@ class RiderCommands {
   void hoverCell(Arguments& arguments);
   void checkRow(Arguments& arguments);
   void key(Arguments& arguments);
+  void select(Arguments& arguments);
 
   platform::Control& control(Arguments& arguments, std::string_view command,
                              std::initializer_list<platform::ControlKind> kinds);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/controls.h"
 #include "platform/grid.h"
@@ -25,6 +26,8 @@ class RiderHands {
   virtual void cell(platform::Grid& grid, int row, int column, platform::MouseButton button) = 0;
   virtual void hoverCell(platform::Grid& grid, int row, int column) = 0;
   virtual void checkRow(platform::Grid& grid, int row, bool on) = 0;
+  // One row or several, the last of which is then in hand.
+  virtual void select(platform::Grid& grid, const std::vector<int>& rows) = 0;
   virtual void key(platform::Control& target, const std::string& key) = 0;
   // The keyboard leaves a drop-down list that was typed or picked in.
   virtual void leave(platform::ComboBox& box) = 0;

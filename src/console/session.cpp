@@ -25,7 +25,7 @@ Session::Session(const Options& options, const std::string& folder, std::ostream
                 options.everyTick ? platform::EventLoop::Ticks::Every
                                   : platform::EventLoop::Ticks::RestWhereIdle}),
       interpreter_({program_.screens(), program_.state(), program_.loop(), devices_.journal, devices_.dialogs,
-                    devices_.machine},
+                    devices_.machine, devices_.clipboard},
                    hands != nullptr ? *hands : directHands_, out) {
   devices_.sound.attach(program_.loop());
   if (hands == nullptr) watchPopUps(program_.screens(), interpreter_);

@@ -30,7 +30,7 @@ platform::Instant timeToCome(Arguments& arguments) {
 
 void TestCommands::enrol(CommandTable& table) {
   using Member = void (TestCommands::*)(Arguments&);
-  static constexpr std::array<std::pair<const char*, Member>, 21> commands{{
+  static constexpr std::array<std::pair<const char*, Member>, 23> commands{{
       {"answer", &TestCommands::answer},
       {"call", &TestCommands::call},
       {"set", &TestCommands::set},
@@ -51,6 +51,8 @@ void TestCommands::enrol(CommandTable& table) {
       {"journal", &TestCommands::journal},
       {"expect", &TestCommands::expect},
       {"expectvar", &TestCommands::expectVar},
+      {"clipboard", &TestCommands::clipboard},
+      {"selection", &TestCommands::selection},
       {"echo", &TestCommands::echo},
   }};
   for (const auto& [name, member] : commands) {
@@ -125,6 +127,18 @@ void TestCommands::mute(Arguments& arguments) {
   if (!world_.machine.volume) throw CommandError("there is no volume device");
   world_.machine.muted = on;
   world_.machine.volumeChanges.wakeTimers();
+}
+
+void TestCommands::clipboard(Arguments& arguments) {
+  world_.clipboard.fill(arguments.text());
+}
+
+void TestCommands::selection(Arguments& arguments) {
+  const platform::Grid& grid = findGrid(world_.screens, arguments.word("FORM.CONTROL"));
+  arguments.end();
+  std::string rows;
+  for (const int row : grid.selectedRows()) rows += (rows.empty() ? "" : ",") + std::to_string(row);
+  out_ << rows << '\t' << grid.selectedRow() << '\n';
 }
 
 void TestCommands::microphone(Arguments& arguments) {

@@ -8,6 +8,7 @@
 #include "console/rider_commands.h"
 #include "rehearsal/journal.h"
 #include "rehearsal/scripted_dialogs.h"
+#include "rehearsal/simulated_clipboard.h"
 #include "rehearsal/simulated_clock.h"
 #include "rehearsal/simulated_machine.h"
 
@@ -22,6 +23,7 @@ class TestCommands {
     rehearsal::Journal& journal;
     rehearsal::ScriptedDialogs& dialogs;
     rehearsal::SimulatedMachine& machine;
+    rehearsal::SimulatedClipboard& clipboard;
   };
 
   TestCommands(const World& world, const RiderCommands& rider, std::ostream& out)
@@ -52,6 +54,8 @@ class TestCommands {
   void journal(Arguments& arguments);
   void expect(Arguments& arguments);
   void expectVar(Arguments& arguments);
+  void clipboard(Arguments& arguments);
+  void selection(Arguments& arguments);
   void echo(Arguments& arguments);
 
   [[nodiscard]] rehearsal::SimulatedClock& simulatedClock();

@@ -40,7 +40,8 @@ DesktopProgram::DesktopProgram(const std::string& folder, ThemeMode system, Appe
               }),
       printer_(dialogs_, [this] { repaintBlocking(); }),
       rehearsals_(files_, folder),
-      program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_, volume_, printer_},
+      program_({clock_, sound_, dialogs_, files_, screenSaver_, media_, level_, shell_, volume_, printer_,
+                clipboard_},
                {folder, VENTORIA_VERSION, {}, platform::documentsFolder(), &rehearsals_}),
       windows_(program_, system, choice) {
   // Long handlers call this from time to time, so that the rider can press the button that ends them.

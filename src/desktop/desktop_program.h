@@ -9,6 +9,7 @@
 #include "desktop/end_signals.h"
 #include "desktop/loop_alarm.h"
 #include "desktop/media_control.h"
+#include "desktop/qt_clipboard.h"
 #include "desktop/qt_clock.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_printer.h"
@@ -59,6 +60,7 @@ class DesktopProgram final : public QObject {
   QtShell shell_;
   devices::PulseEndpointVolume volume_;
   QtPrinter printer_;
+  QtClipboard clipboard_;
   rehearsal::Rehearsals rehearsals_;
   app::Program program_;
   Windows windows_;

@@ -68,7 +68,7 @@ void FormMenus::tie(const platform::Form& form, QWidget& page) {
       menu->setObjectName(toQt(item->name()));
       menus_.insert(item, menu);
       tieEntry(*item, *menu->menuAction());
-      if (root) tieOpeners(*item, *menu, page);
+      tieOpeners(*item, *menu, page);
     } else if (!root) {
       QAction* action = menus_.value(item->parent())->addAction(QString());
       action->setObjectName(toQt(item->name()));

@@ -1,6 +1,7 @@
 #include "desktop/qt_dialogs.h"
 
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -142,6 +143,19 @@ std::vector<std::string> QtDialogs::chooseFiles(const platform::FileRequest& req
   std::vector<std::string> paths;
   for (const QString& path : dialog.selectedFiles()) paths.push_back(fromQt(path));
   return paths;
+}
+
+std::optional<int> QtDialogs::askNumber(const platform::NumberRequest& request) {
+  QInputDialog dialog(parent_());
+  dialog.setInputMode(QInputDialog::IntInput);
+  dialog.setWindowTitle(toQt(request.title));
+  dialog.setLabelText(toQt(request.text));
+  dialog.setIntRange(request.least, request.most);
+  dialog.setIntValue(request.proposed);
+  dialog.setOkButtonText(QStringLiteral("OK"));
+  dialog.setCancelButtonText(QStringLiteral("Annuler"));
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.intValue();
 }
 
 }  // namespace desktop

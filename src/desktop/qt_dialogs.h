@@ -15,6 +15,7 @@ class QtDialogs final : public platform::Dialogs {
 
   platform::Answer message(const platform::Message& message) override;
   std::vector<std::string> chooseFiles(const platform::FileRequest& request) override;
+  std::optional<int> askNumber(const platform::NumberRequest& request) override;
 
  private:
   std::function<QWidget*()> parent_;

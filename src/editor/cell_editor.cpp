@@ -233,7 +233,12 @@ void CellEditor::presserCellule(platform::MouseButton button) {
   if (button == platform::MouseButton::Right) endEditing();
   const bool menu = button == platform::MouseButton::Right && onDelete;
   editor_.mnSupprimer.enabled = menu;
-  if (menu) editor_.mnSupprimer.popUp();
+  if (menu) {
+    grid_.select(grid_.pointedRow());  // one of several selected rows, too, is deleted alone
+    editor_.mnSupprimer.popUp();
+  } else if (button == platform::MouseButton::Right && grid_.pointedRow() > 0) {
+    editor_.mnRows.popUp();
+  }
 }
 
 void CellEditor::validerChoix() {

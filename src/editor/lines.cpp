@@ -120,11 +120,15 @@ bool Lines::lastRowClosed() const {
   return last <= 1 || grid_.text(last, column::duration) != model::noDuration;
 }
 
-void Lines::ajouterSequence() {
+void Lines::prepareOwnRows() {
   preambule();
   recalerColonnes(editor_);
   editor_.Label7.caption = "00:00:00";
   editor_.Label9.caption = "Ajouter une Séquence d'Entraînement";
+}
+
+void Lines::ajouterSequence() {
+  prepareOwnRows();
   if (announcementMissing()) {
     editor_.Label24.visible = false;
     editor_.Label23.caption =
@@ -142,7 +146,6 @@ void Lines::ajouterSequence() {
   grid_.focus();
 }
 
-// A name that came from a file is lost as soon as a row is added by hand.
 void Lines::forgetNameForOwnRows() {
   int compteLignes = 0;
   for (int row = 2; row <= grid_.rowCount(); ++row) {
@@ -160,10 +163,7 @@ void Lines::appendBlankRow(const platform::CellStyle& style) {
 }
 
 void Lines::ajouterSequenceVariante() {
-  preambule();
-  recalerColonnes(editor_);
-  editor_.Label7.caption = "00:00:00";
-  editor_.Label9.caption = "Ajouter une Séquence d'Entraînement";
+  prepareOwnRows();
   const bool spoken = grid_.text(grid_.rowCount(), column::sequence) == model::vocalAnnouncement;
   if (!spoken && model::lastRowUnfinished(grid_)) {
     refuseAddition();
@@ -204,12 +204,15 @@ void Lines::supprimerLigne() {
     showRefusal("La Première ligne ne peut pas être Supprimée...!", "Suppression de Ligne...");
     return;
   }
-  const int row = grid_.selectedRow();
-  grid_.removeRow(row);
+  removeRows({grid_.selectedRow()});
+}
+
+void Lines::removeRows(const std::vector<int>& rows) {
+  for (auto row = rows.rbegin(); row != rows.rend(); ++row) grid_.removeRow(*row);
   if (grid_.text(grid_.rowCount(), column::sessionName).starts_with(model::noMeaning)) {
     grid_.removeRow(grid_.rowCount());
   }
-  grid_.select(std::min(row, grid_.rowCount()));
+  grid_.select(std::min(rows.front(), grid_.rowCount()));
   grid_.reveal(grid_.selectedRow());
   grid_.focus();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "context/context.h"
 
@@ -16,6 +17,12 @@ class Lines {
   void creerSeance();
   // MyButton4 while its caption adds rows and not sessions.
   void ajouterSequenceVariante();
+  // What comes before rows of the rider's own are added, whichever way.
+  void prepareOwnRows();
+  // A name that came from a file is lost as soon as a row is added by hand.
+  void forgetNameForOwnRows();
+  // Rows in their order; none of them the first.
+  void removeRows(const std::vector<int>& rows);
 
  private:
   void viderListe();
@@ -29,7 +36,6 @@ class Lines {
   void refuseAddition();
   [[nodiscard]] bool announcementMissing() const;
   [[nodiscard]] bool lastRowClosed() const;
-  void forgetNameForOwnRows();
   void appendBlankRow(const platform::CellStyle& style);
 
   context::Context context_;

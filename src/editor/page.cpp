@@ -13,6 +13,7 @@ Page::Page(const context::Context& context, voice::Voice& voice)
       editor_(context.screens.editor),
       calculator_(context),
       lines_(context),
+      rows_(context, lines_),
       drafts_(context),
       forecast_(context),
       cells_(context, calculator_),

@@ -8,6 +8,7 @@
 #include "editor/lines.h"
 #include "editor/list_watch.h"
 #include "editor/ride_forecast.h"
+#include "editor/row_commands.h"
 #include "editor/session_files.h"
 #include "heartrate/calculator.h"
 #include "voice/voice.h"
@@ -33,6 +34,7 @@ class Page {
   forms::CreerCycle& editor_;
   heartrate::Calculator calculator_;
   Lines lines_;
+  RowCommands rows_;
   Drafts drafts_;
   RideForecast forecast_;
   CellEditor cells_;

@@ -195,6 +195,15 @@ struct CreerCycle : platform::Form {
   MenuItem mnImprim{*this, "mnImprim", "Imprimer la Liste", {.in = &mnMenu}};
   MenuItem mnUndo{*this, "mnUndo", "Annuler la Modification", {.in = &mnMenu, .enabled = false}};
   MenuItem mnRedo{*this, "mnRedo", "Rétablir la Modification", {.in = &mnMenu, .enabled = false}};
+  MenuItem mnRows{
+      *this, "mnRows", "Lignes", {.in = &mnMenu}};  // of the selected rows; also a pop-up of the list
+  MenuItem mnCopyRows{*this, "mnCopyRows", "Copier", {.in = &mnRows}};
+  MenuItem mnCutRows{*this, "mnCutRows", "Couper", {.in = &mnRows}};
+  MenuItem mnPasteRows{*this, "mnPasteRows", "Coller", {.in = &mnRows}};
+  MenuItem mnDuplicateRows{*this, "mnDuplicateRows", "Dupliquer", {.in = &mnRows}};
+  MenuItem mnMoveRowsUp{*this, "mnMoveRowsUp", "Monter", {.in = &mnRows}};
+  MenuItem mnMoveRowsDown{*this, "mnMoveRowsDown", "Descendre", {.in = &mnRows}};
+  MenuItem mnRepeatRows{*this, "mnRepeatRows", "Répéter ces lignes…", {.in = &mnRows}};
   MenuItem mnSortir{*this, "mnSortir", "Sortir", {.in = &mnMenu}};  // closes the editor
 
   // All that poll rest. Timer7 does not: each of its ticks changes what is seen, while it is on.

@@ -1,5 +1,6 @@
 #include "model/grid_rows.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "model/time_value.h"
@@ -120,6 +121,26 @@ bool hasDuration(const platform::Grid& grid, int row) {
   const std::string& duration = grid.text(row, column::duration);
   const std::optional<int> seconds = parseSeconds(duration);
   return seconds && formatSeconds(*seconds) == duration;
+}
+
+bool takesValue(const platform::Grid& grid, int row, int col) {
+  if (row < 1 || row > grid.rowCount() || col < column::sequence || col > grid.columnCount()) return false;
+  if (col == column::deleteMark || grid.text(row, col).starts_with("--")) return false;
+  return row > 1 || (col != column::duration && col != column::heartRate);
+}
+
+int nextValueColumn(const platform::Grid& grid, int row, int col, int step) {
+  for (int c = col + step; c >= 1 && c <= grid.columnCount(); c += step) {
+    if (takesValue(grid, row, c)) return c;
+  }
+  return 0;
+}
+
+bool isBlankRow(const platform::Grid& grid, int row) {
+  if (row < 2 || row > grid.rowCount()) return false;
+  const std::vector<std::string> blank = handMadeRow(0, {});
+  const platform::Grid::Cells& cells = *grid.cells(row);
+  return std::equal(cells.begin() + column::cycleName, cells.end(), blank.begin() + column::cycleName);
 }
 
 }  // namespace model

@@ -70,5 +70,11 @@ struct SequenceTexts {
 // Whether the row's duration can be ridden: eight characters as the boxes of the duration write them, or the
 // dashes of a spoken row.
 [[nodiscard]] bool hasDuration(const platform::Grid& grid, int row);
+// Whether the cell has a meaning on its row, so that a value can be chosen for it.
+[[nodiscard]] bool takesValue(const platform::Grid& grid, int row, int column);
+// The nearest such cell of the row to the right (`step` 1) or to the left (-1); 0 where there is none.
+[[nodiscard]] int nextValueColumn(const platform::Grid& grid, int row, int column, int step);
+// A row made by hand in which nothing has been chosen yet.
+[[nodiscard]] bool isBlankRow(const platform::Grid& grid, int row);
 
 }  // namespace model

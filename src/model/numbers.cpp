@@ -65,6 +65,15 @@ std::string formatBpm(double value) {
   return rounded == 0 ? std::string() : plainNumber(rounded);
 }
 
+std::optional<int> lineBeginningWith(const std::vector<std::string>& lines, std::string_view typed) {
+  const std::string wanted = platform::folded(typed);
+  const auto found = std::find_if(lines.begin(), lines.end(), [&](const std::string& line) {
+    return platform::folded(line).starts_with(wanted);
+  });
+  if (found == lines.end()) return std::nullopt;
+  return static_cast<int>(found - lines.begin());
+}
+
 std::optional<std::string> lineFor(const std::vector<std::string>& lines, const std::string& typed) {
   for (const std::string& line : lines) {
     if (line == typed || (typed.size() == 1 && line == "0" + typed)) return line;

@@ -19,6 +19,9 @@ namespace model {
 [[nodiscard]] std::string plainNumber(double value);
 // The format "###" of heart rates: rounded to a whole number, halves away from zero; empty for 0.
 [[nodiscard]] std::string formatBpm(double value);
+// The first line that begins with what was typed, letters' case and accents aside; none where no line does.
+[[nodiscard]] std::optional<int> lineBeginningWith(const std::vector<std::string>& lines,
+                                                   std::string_view typed);
 // The line of a list that equals what was typed; a typed "7" also finds "07". None where there is no such
 // line.
 [[nodiscard]] std::optional<std::string> lineFor(const std::vector<std::string>& lines,

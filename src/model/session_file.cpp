@@ -143,6 +143,11 @@ void refuseTooLong(int sequences, int passes) {
 
 }  // namespace
 
+void requireRoom(const platform::Grid& grille, int more) {
+  const SessionHeader header{0, lenientInteger(grille.text(1, column::times)), {}};
+  refuseTooLong(sequencesIn(grille) + more, passesOf(header));
+}
+
 void ecrireSeance(platform::FileSystem& files, const std::string& chemin, const platform::Grid& grille) {
   platform::WholeFile file(files, chemin, platform::WholeFile::Start::OldBytes);
   writeSession(file, grille);

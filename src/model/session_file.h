@@ -18,7 +18,10 @@ struct SessionHeader {
   [[nodiscard]] bool present() const { return annonce == "ver2"; }
 };
 
-// All of these throw platform::FileFault where the file cannot be read or written.
+// All that follow throw platform::FileFault where the file cannot be read or written.
+
+// Throws platform::Fault where the list, with so many sequences more, would be longer than a reader takes.
+void requireRoom(const platform::Grid& grille, int more);
 
 // Writes every sequence row of the grid over what stands at `chemin`, the header last; all of it or nothing.
 // Throws platform::Fault for a list that would be too long to be read again.

@@ -64,4 +64,17 @@ std::string formatSeconds(long long seconds) {
   return text.data();
 }
 
+std::optional<std::string> durationOfDigits(std::string_view digits) {
+  constexpr std::size_t most = 6;
+  if (digits.empty() || digits.size() > most) return std::nullopt;
+  int number = 0;
+  for (const char digit : digits) {
+    if (digit < '0' || digit > '9') return std::nullopt;
+    number = number * 10 + (digit - '0');
+  }
+  const int seconds = number / 10000 * 3600 + number / 100 % 100 * 60 + number % 100;
+  if (seconds >= secondsADay) return std::nullopt;
+  return formatSeconds(seconds);
+}
+
 }  // namespace model

@@ -24,6 +24,9 @@ inline constexpr int secondsADay = 86400;
 [[nodiscard]] std::string formatTime(TimeValue days);
 // Whole seconds of a time text, or none; quicker than parseTime for sums over many rows.
 [[nodiscard]] std::optional<int> parseSeconds(std::string_view text);
+// What digits typed one after another come to as a duration filled from its right end: "530" is 00:05:30, and
+// "90", more seconds than a minute has, 00:01:30. None where that is no duration of less than a day.
+[[nodiscard]] std::optional<std::string> durationOfDigits(std::string_view digits);
 // "hh:nn:ss" of a number of seconds, whole days dropped.
 [[nodiscard]] std::string formatSeconds(long long seconds);
 

@@ -1,6 +1,7 @@
 // Modal questions to the rider: message boxes and file choosers.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,14 @@ struct FileRequest {
   std::string proposedName;  // for Save
 };
 
+struct NumberRequest {
+  std::string title;
+  std::string text;
+  int least = 0;
+  int most = 0;
+  int proposed = 0;
+};
+
 // ".tq2" of "words|*.tq2;*.b|words|*.c"; empty where the first pattern fits any ending.
 [[nodiscard]] std::string suffixOf(const std::string& filter);
 // The name that a save dialog saves under: the filter's suffix is added unless the name ends in it already,
@@ -41,6 +50,8 @@ class Dialogs {
   // The chosen absolute paths; none when the rider cancelled. Save gives one path, which ends in the filter's
   // suffix; asking before overwriting is the caller's business.
   virtual std::vector<std::string> chooseFiles(const FileRequest& request) = 0;
+  // A whole number within the bounds; none when the rider cancelled, or where nobody can be asked.
+  virtual std::optional<int> askNumber(const NumberRequest&) { return std::nullopt; }
 };
 
 }  // namespace platform

@@ -44,17 +44,21 @@ void Grid::addRow(Cells cells) {
 void Grid::insertRow(int row, Cells cells) {
   const int place = std::clamp(row, 1, rowCount() + 1);
   cells.resize(columns_.size());
-  Row fresh{std::make_shared<Cells>(std::move(cells)), std::vector<CellStyle>(columns_.size()), false};
+  Row fresh{std::make_shared<Cells>(std::move(cells)), std::vector<CellStyle>(columns_.size()), false, false};
   rows_.insert(rows_.begin() + (place - 1), std::move(fresh));
   if (selected_ >= place) ++selected_;
+  if (anchor_ >= place) ++anchor_;
   notifyWatchers({What::RowInserted, place, 0});
 }
 
 void Grid::removeRow(int row) {
   if (row < 1 || row > rowCount()) return;
+  mark(row, false);
   rows_.erase(rows_.begin() + (row - 1));
-  if (selected_ == row) selected_ = 0;
-  if (selected_ > row) --selected_;
+  for (int* kept : {&selected_, &anchor_}) {
+    if (*kept == row) *kept = 0;
+    if (*kept > row) --*kept;
+  }
   if (pointedRow_ > rowCount()) pointedRow_ = 0;
   notifyWatchers({What::RowRemoved, row, 0});
 }
@@ -62,6 +66,8 @@ void Grid::removeRow(int row) {
 void Grid::clearRows() {
   rows_.clear();
   selected_ = 0;
+  anchor_ = 0;
+  marked_ = 0;
   pointedRow_ = 0;
   notifyWatchers({What::Cleared});
 }
@@ -121,9 +127,79 @@ void Grid::tickRow(int row, bool on) {
 
 void Grid::select(int row) {
   const int wanted = row >= 1 && row <= rowCount() ? row : 0;
-  if (selected_ == wanted) return;
-  selected_ = wanted;
-  notifyWatchers({What::Selection, wanted, 0});
+  anchor_ = wanted;
+  if (selected_ == wanted && marked_ == 0) return;
+  unmarkAll();
+  takeInHand(wanted);
+}
+
+void Grid::takeInHand(int row) {
+  selected_ = row;
+  notifyWatchers({What::Selection, row, 0});
+}
+
+void Grid::mark(int row, bool on) {
+  if (rows_[at(row)].marked == on) return;
+  rows_[at(row)].marked = on;
+  marked_ += on ? 1 : -1;
+}
+
+void Grid::unmarkAll() {
+  if (marked_ == 0) return;
+  for (Row& row : rows_) row.marked = false;
+  marked_ = 0;
+}
+
+// What was one selected row becomes the first of several.
+void Grid::markSelected() {
+  if (marked_ == 0 && selected_ != 0) mark(selected_, true);
+}
+
+bool Grid::isSelected(int row) const {
+  return marked_ == 0 ? row == selected_ && row != 0 : holds(row, 1) && rows_[at(row)].marked;
+}
+
+std::vector<int> Grid::selectedRows() const {
+  std::vector<int> selected;
+  if (marked_ == 0 && selected_ != 0) selected.push_back(selected_);
+  for (int row = 1; marked_ > 0 && row <= rowCount(); ++row) {
+    if (rows_[at(row)].marked) selected.push_back(row);
+  }
+  return selected;
+}
+
+void Grid::selectRows(const std::vector<int>& rows, int inHand) {
+  unmarkAll();
+  for (const int row : rows) {
+    if (holds(row, 1)) mark(row, true);
+  }
+  if (marked_ == 1 && isSelected(inHand)) unmarkAll();
+  anchor_ = rows.empty() ? 0 : rows.front();
+  takeInHand(holds(inHand, 1) ? inHand : 0);
+}
+
+void Grid::extendSelection(int row) {
+  if (!holds(row, 1)) return;
+  const int from = anchor_ == 0 ? row : anchor_;
+  std::vector<int> rows;
+  for (int each = std::min(from, row); each <= std::max(from, row); ++each) rows.push_back(each);
+  selectRows(rows, row);
+  anchor_ = from;
+}
+
+void Grid::toggleSelected(int row) {
+  if (!holds(row, 1)) return;
+  markSelected();
+  const bool out = rows_[at(row)].marked && marked_ > 1;
+  mark(row, !out);
+  anchor_ = row;
+  takeInHand(row);
+}
+
+void Grid::carryTo(int row) {
+  if (!holds(row, 1)) return;
+  markSelected();
+  takeInHand(row);
 }
 
 void Grid::setVisibleRows(int first, int last) {
@@ -145,7 +221,11 @@ void Grid::pressAt(int row, int column, MouseButton button) {
   pointAt(row, column);
   pressed(button);
   if (pointedRow_ == 0) return;
-  select(pointedRow_);
+  if (button == MouseButton::Right && severalSelected() && isSelected(pointedRow_)) {
+    takeInHand(pointedRow_);
+  } else {
+    select(pointedRow_);
+  }
   if (button == MouseButton::Left) click();
 }
 

@@ -82,7 +82,18 @@ class Grid final : public Control {
 
   // The selected row, or 0 for none. It moves with its row when others are inserted or removed.
   [[nodiscard]] int selectedRow() const { return selected_; }
-  void select(int row);
+  void select(int row);  // this row alone
+  // Where the rider has selected several rows, those are marked, and the selected row is the one of them, or
+  // beside them, that he has in hand.
+  [[nodiscard]] bool isSelected(int row) const;
+  [[nodiscard]] std::vector<int> selectedRows() const;  // in their order
+  // Whether the list is one of which several can be selected at all.
+  [[nodiscard]] bool takesSeveral() const { return keyPressed.handled(); }
+  [[nodiscard]] bool severalSelected() const { return marked_ > 0; }
+  void selectRows(const std::vector<int>& rows, int inHand);
+  void extendSelection(int row);  // from where the selection began up to this row
+  void toggleSelected(int row);   // this row is added, or taken out
+  void carryTo(int row);          // takes another row in hand, and leaves what is selected
   // Scrolls so that the row shows, or gives the list the keyboard's focus: told to the front.
   void reveal(int row) { notifyWatchers({GridChange::What::Reveal, row, 0}); }
   void focus() { notifyWatchers({GridChange::What::Focus}); }
@@ -95,13 +106,17 @@ class Grid final : public Control {
   [[nodiscard]] bool rowShows(int row) const { return row >= firstVisible_ && row <= lastVisible_; }
 
   // The mouse. pointAt moves the pointer; pressAt is a whole press of a button on a cell: the pointer moves,
-  // `pressed` is raised, the row is selected, and the left button raises the click.
+  // `pressed` is raised, the row is selected, and the left button raises the click. The right one leaves
+  // several selected rows as they are where it is pressed on one of them.
   void pointAt(int row, int column);
   void pressAt(int row, int column, MouseButton button);
   Event<> pointerMoved;
   Event<MouseButton> pressed;
   Event<int> rowTicked;
   Event<int> headerClicked;
+  // Keys that the list leaves to the logic, by name ("Ctrl+C"); and the selected rows dropped before a row.
+  Event<std::string> keyPressed;
+  Event<int> rowsDropped;
 
   void watchGrid(GridWatcher watcher) { watchers_.push_back(std::move(watcher)); }
   // For timers: any change of columns, rows, cells or selection, of the pointer's place and of what shows.
@@ -112,16 +127,23 @@ class Grid final : public Control {
     std::shared_ptr<Cells> cells;  // copied before a change, where somebody else holds them
     std::vector<CellStyle> styles;
     bool checked = false;
+    bool marked = false;  // one of several selected rows
   };
   [[nodiscard]] static std::size_t at(int number) { return static_cast<std::size_t>(number - 1); }
   [[nodiscard]] bool holds(int row, int column) const;
   static Cells& ownCells(Row& row);
+  void mark(int row, bool on);
+  void unmarkAll();
+  void markSelected();
+  void takeInHand(int row);
   void notifyWatchers(const GridChange& change);
 
   std::vector<GridColumn> columns_;
   std::vector<Row> rows_;
   std::vector<GridWatcher> watchers_;
   int selected_ = 0;
+  int marked_ = 0;  // how many rows
+  int anchor_ = 0;  // where the selection began
   int pointedRow_ = 0;
   int pointedColumn_ = 0;
   int firstVisible_ = 1;

@@ -1,6 +1,7 @@
 // All that the logic may reach outside the forms, handed in as one.
 #pragma once
 
+#include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/endpoint_volume.h"
@@ -25,6 +26,7 @@ struct Outside {
   Shell& shell;
   EndpointVolume& volume;
   Printer& printer;
+  Clipboard& clipboard;
 };
 
 }  // namespace platform

@@ -3,6 +3,9 @@
 #include <algorithm>
 
 namespace platform {
+
+using namespace std::string_view_literals;
+
 namespace {
 
 // Where the character that begins at `at` ends: behind a whole UTF-8 sequence, or behind one byte that is not
@@ -89,6 +92,20 @@ std::string lowerAscii(std::string_view text) {
   std::transform(lower.begin(), lower.end(), lower.begin(),
                  [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
   return lower;
+}
+
+std::string folded(std::string_view text) {
+  // By the second byte of "à" to "ÿ", from 0xA0 on; capitals lie 0x20 before.
+  constexpr std::string_view plain = "aaaaaa\0ceeeeiiii\0nooooo\0ouuuuy\0y"sv;
+  std::string all;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const auto next = static_cast<unsigned char>(at + 1 < text.size() ? text[at + 1] : 0);
+    const bool accented = text[at] == '\xC3' && next >= 0x80 && next <= 0xBF;
+    const char bare = accented ? plain[(next | 0x20U) - 0xA0U] : '\0';
+    all += bare != '\0' ? bare : text[at];
+    if (bare != '\0') ++at;
+  }
+  return lowerAscii(all);
 }
 
 bool matchesPatterns(std::string_view name, std::string_view patterns) {

@@ -22,6 +22,8 @@ namespace platform {
 [[nodiscard]] std::string zeroPadded(long long number, std::size_t digits);
 // ASCII letters to lower case; everything else as it stands.
 [[nodiscard]] std::string lowerAscii(std::string_view text);
+// For comparing what was typed with French words: letters to lower case and without their accents.
+[[nodiscard]] std::string folded(std::string_view text);
 // Whether a file name fits a list of patterns such as "*.mp3;*.wma", letters' case aside.
 [[nodiscard]] bool matchesPatterns(std::string_view name, std::string_view patterns);
 

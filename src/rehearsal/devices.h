@@ -8,6 +8,7 @@
 #include "platform/outside.h"
 #include "rehearsal/journal.h"
 #include "rehearsal/scripted_dialogs.h"
+#include "rehearsal/simulated_clipboard.h"
 #include "rehearsal/simulated_endpoint_volume.h"
 #include "rehearsal/simulated_machine.h"
 #include "rehearsal/simulated_media.h"
@@ -26,7 +27,8 @@ struct Devices {
       : clock(itsClock), files(itsFiles), sound(mode, files, folder, journal), machine(volumePercent) {}
 
   [[nodiscard]] platform::Outside outside() {
-    return {clock, sound, dialogs, files, screenSaver, journaledMedia, level, shell, volume, printer};
+    return {clock, sound, dialogs, files,   screenSaver, journaledMedia,
+            level, shell, volume,  printer, clipboard};
   }
 
   platform::Clock& clock;
@@ -43,6 +45,7 @@ struct Devices {
   SimulatedShell shell{journal};
   SimulatedEndpointVolume volume{machine, journal};
   SimulatedPrinter printer{journal};
+  SimulatedClipboard clipboard{journal};
 };
 
 }  // namespace rehearsal

@@ -13,8 +13,8 @@ std::string secondsText(platform::Instant instant) {
 }
 
 const std::vector<std::string>& Journal::kinds() {
-  static const std::vector<std::string> all{"prompt", "file",  "media",  "level", "dialog",
-                                            "shell",  "saver", "master", "print", "fault"};
+  static const std::vector<std::string> all{"prompt", "file",   "media", "level", "dialog",   "shell",
+                                            "saver",  "master", "print", "fault", "clipboard"};
   return all;
 }
 

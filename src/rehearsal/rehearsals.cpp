@@ -47,7 +47,7 @@ Ride::Ride(platform::FileSystem& files, const std::string& folder, const model::
     : files_(files, folder),
       devices_(clock_, files_, folder, SoundMode::Timed),
       program_({clock_, sound_, devices_.dialogs, files_, devices_.screenSaver, media_, devices_.level,
-                devices_.shell, devices_.volume, devices_.printer},
+                devices_.shell, devices_.volume, devices_.printer, devices_.clipboard},
                {folder, {}, [this](const std::string&) { failed_ = true; }}) {
   devices_.journal.keepNothing();
   devices_.sound.attach(program_.loop());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <filesystem>
 #include <utility>
 
@@ -75,6 +76,21 @@ Answer ScriptedDialogs::message(const platform::Message& message) {
       [&](const std::string& word) { return offeredWord(word, message.buttons) != nullptr; }, message.title);
   journal_.write("dialog", {"message", message.title, message.text, answer});
   return offeredWord(answer, message.buttons)->answer;
+}
+
+std::optional<int> ScriptedDialogs::askNumber(const platform::NumberRequest& request) {
+  const auto numberOf = [&](const std::string& word) -> std::optional<int> {
+    if (word == "ok") return request.proposed;
+    int number = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    const bool whole = error == std::errc{} && end == word.data() + word.size();
+    if (!whole || number < request.least || number > request.most) return std::nullopt;
+    return number;
+  };
+  const std::string answer = next(
+      "cancel", [&](const std::string& word) { return word == "cancel" || numberOf(word); }, request.title);
+  journal_.write("dialog", {"number", request.title, request.text, answer});
+  return numberOf(answer);
 }
 
 std::vector<std::string> ScriptedDialogs::chooseFiles(const platform::FileRequest& request) {

@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/dialogs.h"
@@ -15,13 +16,15 @@ class ScriptedDialogs final : public platform::Dialogs {
  public:
   explicit ScriptedDialogs(Journal& journal) : journal_(journal) {}
 
-  // "ok", "cancel", "yes", "no", or for a file dialog one or several paths parted by '|'.
+  // "ok", "cancel", "yes", "no", or for a file dialog one or several paths parted by '|';
+  // for a number its digits.
   void queue(std::string answer) { answers_.push_back(std::move(answer)); }
   // Called with a text about an answer that did not suit its dialog and was dropped.
   void onMisfit(std::function<void(const std::string&)> told) { misfit_ = std::move(told); }
 
   platform::Answer message(const platform::Message& message) override;
   std::vector<std::string> chooseFiles(const platform::FileRequest& request) override;
+  std::optional<int> askNumber(const platform::NumberRequest& request) override;
 
  private:
   std::string next(const std::string& otherwise, const std::function<bool(const std::string&)>& fits,

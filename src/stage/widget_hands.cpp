@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
@@ -14,6 +15,7 @@
 #include "console/arguments.h"
 #include "desktop/covered_parts.h"
 #include "desktop/unseen_controls.h"
+#include "model/grid_rows.h"
 #include "widgets/check_list.h"
 #include "widgets/grid_table.h"
 #include "widgets/qt_text.h"
@@ -32,14 +34,15 @@ void settle() {
 }
 
 void mouse(QWidget& widget, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
-           Qt::MouseButtons down) {
-  QMouseEvent event(type, QPointF(at), QPointF(widget.mapToGlobal(at)), button, down, Qt::NoModifier);
+           Qt::MouseButtons down, Qt::KeyboardModifiers held = Qt::NoModifier) {
+  QMouseEvent event(type, QPointF(at), QPointF(widget.mapToGlobal(at)), button, down, held);
   QApplication::sendEvent(&widget, &event);
 }
 
-void click(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
-  mouse(widget, QEvent::MouseButtonPress, at, button, button);
-  mouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+void click(QWidget& widget, const QPoint& at, Qt::MouseButton button = Qt::LeftButton,
+           Qt::KeyboardModifiers held = Qt::NoModifier) {
+  mouse(widget, QEvent::MouseButtonPress, at, button, button, held);
+  mouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton, held);
 }
 
 // A press anywhere else would close them, too.
@@ -63,16 +66,18 @@ void move(QWidget& widget, const QPoint& at) {
   mouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
 }
 
-void stroke(QWidget& widget, int code, const QString& text = {}) {
-  QKeyEvent down(QEvent::KeyPress, code, Qt::NoModifier, text);
+void stroke(QWidget& widget, int code, const QString& text = {},
+            Qt::KeyboardModifiers held = Qt::NoModifier) {
+  QKeyEvent down(QEvent::KeyPress, code, held, text);
   QApplication::sendEvent(&widget, &down);
-  QKeyEvent up(QEvent::KeyRelease, code, Qt::NoModifier, text);
+  QKeyEvent up(QEvent::KeyRelease, code, held, text);
   QApplication::sendEvent(&widget, &up);
 }
 
-int keyCode(const std::string& key) {
-  if (key == "Enter") return Qt::Key_Return;
-  return key.starts_with("F") ? Qt::Key_F1 + std::stoi(key.substr(1)) - 1 : 0;
+// "Enter", "F5", "Ctrl+C": as Qt's own names are written.
+QKeyCombination keyOf(const std::string& key) {
+  return QKeySequence::fromString(toQt(key).replace(QLatin1String("Enter"), QLatin1String("Return")),
+                                  QKeySequence::PortableText)[0];
 }
 
 [[noreturn]] void miss(const platform::Component& component, const std::string& why) {
@@ -305,13 +310,31 @@ void WidgetHands::checkRow(platform::Grid& grid, int row, bool on) {
   settle();
 }
 
+// The first row by the arrow keys, since a click would open a cell; the others by the mouse.
+void WidgetHands::select(platform::Grid& grid, const std::vector<int>& rows) {
+  auto* table = reach<GridTable>(grid);
+  if (table == nullptr) {
+    logic_.select(grid, rows);
+    return;
+  }
+  table->setFocus();
+  stroke(*table, Qt::Key_Home);
+  for (int row = 1; row < rows.front(); ++row) stroke(*table, Qt::Key_Down);
+  for (std::size_t i = 1; i < rows.size(); ++i) {
+    const auto at = reachCell(*table, rows[i], model::column::sequence);
+    if (at) click(*table->viewport(), *at, Qt::LeftButton, Qt::ControlModifier);
+  }
+  settle();
+}
+
 void WidgetHands::key(platform::Control& target, const std::string& key) {
   auto* widget = reach<QWidget>(target);
   if (widget == nullptr) {
     logic_.key(target, key);
     return;
   }
-  stroke(*widget, keyCode(key));
+  const QKeyCombination combination = keyOf(key);
+  stroke(*widget, combination.key(), {}, combination.keyboardModifiers());
   settle();
 }
 

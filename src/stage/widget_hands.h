@@ -32,6 +32,7 @@ class WidgetHands final : public console::RiderHands {
   void cell(platform::Grid& grid, int row, int column, platform::MouseButton button) override;
   void hoverCell(platform::Grid& grid, int row, int column) override;
   void checkRow(platform::Grid& grid, int row, bool on) override;
+  void select(platform::Grid& grid, const std::vector<int>& rows) override;
   void key(platform::Control& target, const std::string& key) override;
   void leave(platform::ComboBox& box) override;
 

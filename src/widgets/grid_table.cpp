@@ -80,11 +80,15 @@ class CellPainter final : public QStyledItemDelegate {
 
 void paintCellGround(QPainter& painter, const QRect& cell, const GridTable& table, int row, int column) {
   const QPalette palette = QGuiApplication::palette();
-  const bool selected = row == table.grid()->selectedRow();
+  const bool inHand = row == table.grid()->selectedRow();
+  const bool selected = table.grid()->isSelected(row);
   if (selected) painter.fillRect(cell, mixed(palette.color(role::card), palette.color(role::accent), 0.16));
   painter.setPen(palette.color(role::line));
   painter.drawLine(cell.bottomLeft(), cell.bottomRight());
-  if (!selected || !table.hasFocus() || column != table.pressedColumn()) return;
+  if (selected && table.grid()->severalSelected() && cell.left() <= 0) {
+    painter.fillRect(cell.x(), cell.y(), dp(&table, 4), cell.height(), palette.color(role::accent));
+  }
+  if (!inHand || !table.hasFocus() || column != table.pressedColumn()) return;
   painter.setPen(QPen(palette.color(role::accent), 2));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(cell.adjusted(1, 1, -2, -2));
@@ -114,6 +118,10 @@ void GridTable::showGrid(platform::Grid& grid, Runner run) {
   grid_ = &grid;
   run_ = std::move(run);
   model_ = new GridModel(grid, this);
+  if (grid.takesSeveral()) {
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+  }
   setModel(model_);
   connect(model_, &GridModel::columnsChanged, this, &GridTable::layColumns);
   connect(model_, &GridModel::contentChanged, this, &GridTable::reportVisibleRows);
@@ -123,6 +131,7 @@ void GridTable::showGrid(platform::Grid& grid, Runner run) {
     refreshRow(selectedRow_);
     selectedRow_ = row;
     refreshRow(row);
+    tellSelection();
     emit layoutMoved();
   });
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
@@ -169,110 +178,6 @@ GridTable::Cell GridTable::cellAt(const QPoint& point) const {
   return {rowAt(point.y()) + 1, std::max(0, columnAt(point.x()) + 1)};
 }
 
-void GridTable::press(int row, int column, platform::MouseButton button) {
-  pressedRow_ = row;
-  cursorColumn_ = column;
-  run_([this, row, column, button] { grid_->pressAt(row, column, button); });
-  emit layoutMoved();
-}
-
-void GridTable::pressRight(int row, int column) {
-  const int kept = cursorColumn_;
-  press(row, column, platform::MouseButton::Right);
-  cursorColumn_ = kept;
-  refreshRow(row);
-}
-
-void GridTable::mousePressEvent(QMouseEvent* event) {
-  if (grid_ == nullptr) return;
-  model_->flush();
-  const Cell cell = cellAt(event->position().toPoint());
-  setFocus(Qt::MouseFocusReason);
-  press(cell.row, cell.column,
-        event->button() == Qt::RightButton ? platform::MouseButton::Right : platform::MouseButton::Left);
-}
-
-void GridTable::point(const QPoint& at) {
-  if (grid_ == nullptr) return;
-  const Cell cell = cellAt(at);
-  run_([this, cell] { grid_->pointAt(cell.row, cell.column); });
-  emit layoutMoved();
-}
-
-void GridTable::mouseMoveEvent(QMouseEvent* event) {
-  point(event->position().toPoint());
-}
-
-// Scrolling brings another cell under the pointer.
-void GridTable::wheelEvent(QWheelEvent* event) {
-  QTableView::wheelEvent(event);
-  point(event->position().toPoint());
-}
-
-void GridTable::keyPressEvent(QKeyEvent* event) {
-  if (grid_ == nullptr || grid_->rowCount() == 0) {
-    event->ignore();
-    return;
-  }
-  const int row = std::max(1, grid_->selectedRow());
-  const auto go = [&](int to) {
-    const int wanted = std::clamp(to, 1, grid_->rowCount());
-    run_([this, wanted] { grid_->select(wanted); });
-    model_->flush();
-    showRow(wanted);
-  };
-  const auto sideways = [&](int step) {
-    for (int c = cursorColumn_ + step; c >= 1 && c <= grid_->columnCount(); c += step) {
-      if (grid_->column(c).width == 0) continue;
-      cursorColumn_ = c;
-      break;
-    }
-    refreshRow(row);
-  };
-  const int page = std::max(1, viewport()->height() / std::max(1, rowHeight(0)) - 1);
-  switch (event->key()) {
-    case Qt::Key_Up:
-      go(row - 1);
-      break;
-    case Qt::Key_Down:
-      go(row + 1);
-      break;
-    case Qt::Key_PageUp:
-      go(row - page);
-      break;
-    case Qt::Key_PageDown:
-      go(row + page);
-      break;
-    case Qt::Key_Home:
-      go(1);
-      break;
-    case Qt::Key_End:
-      go(grid_->rowCount());
-      break;
-    case Qt::Key_Left:
-      sideways(-1);
-      break;
-    case Qt::Key_Right:
-      sideways(1);
-      break;
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_F2:
-      press(row, cursorColumn_, platform::MouseButton::Left);
-      emit cellOpened();
-      break;
-    case Qt::Key_Delete:
-      emit deletionAsked(row);
-      break;
-    case Qt::Key_Menu:
-      press(row, cursorColumn_, platform::MouseButton::Right);
-      break;
-    default:
-      event->ignore();
-  }
-}
-
 // Scrolls by a column that no list hides, since Qt does not scroll to a hidden cell.
 void GridTable::showRow(int row) {
   scrollTo(model_->index(row - 1, std::min(2, model_->columnCount() - 1)));
@@ -299,6 +204,34 @@ void GridTable::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
   reportVisibleRows();
   emit layoutMoved();
+}
+
+// Qt's own selection, which nothing here draws, is what screen readers read.
+void GridTable::tellSelection() {
+  const bool several = grid_->severalSelected();
+  if (several || several_) viewport()->update();
+  several_ = several;
+  if (!grid_->takesSeveral()) return;
+  QItemSelection told;
+  const std::vector<int> rows = grid_->selectedRows();
+  for (std::size_t first = 0, next = 0; first < rows.size(); first = next) {
+    next = first + 1;
+    while (next < rows.size() && rows[next] == rows[next - 1] + 1) ++next;
+    told.select(model_->index(rows[first] - 1, 0),
+                model_->index(rows[next - 1] - 1, grid_->columnCount() - 1));
+  }
+  if (told != selectionModel()->selection()) {
+    selectionModel()->select(told, QItemSelectionModel::ClearAndSelect);
+  }
+}
+
+void GridTable::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!drag_.active()) return;
+  QPainter painter(viewport());
+  const int thick = dp(this, 4);
+  painter.fillRect(0, drag_.lineY() - thick / 2, viewport()->width(), thick,
+                   QGuiApplication::palette().color(role::accent));
 }
 
 bool GridTable::viewportEvent(QEvent* event) {

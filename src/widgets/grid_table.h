@@ -6,6 +6,7 @@
 
 #include "platform/grid.h"
 #include "widgets/grid_model.h"
+#include "widgets/row_drag.h"
 
 namespace widgets {
 
@@ -30,6 +31,14 @@ class GridTable : public QTableView {
   void rescale();
   // `tip` gives the tool tip of a column's header.
   void setHeaderTip(std::function<QString(int column)> tip) { headerTip_ = std::move(tip); }
+  // Asked first about each key; true if it was used.
+  void setTyping(std::function<bool(QKeyEvent&)> typing) { typing_ = std::move(typing); }
+  // Asked where the Tab key goes; true if it stays in the list.
+  void setTabbing(std::function<bool(bool forward)> tabbing) { tabbing_ = std::move(tabbing); }
+  // Moves the keyboard to a cell of the row in hand.
+  void goToColumn(int column);
+  // Presses the keyboard's cell, as a click does.
+  void pressCell();
 
  signals:
   void layoutMoved();
@@ -40,10 +49,12 @@ class GridTable : public QTableView {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool forward) override;
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   bool viewportEvent(QEvent* event) override;
@@ -63,6 +74,11 @@ class GridTable : public QTableView {
  private:
   void press(int row, int column, platform::MouseButton button);
   void point(const QPoint& at);
+  void goTo(int row, Qt::KeyboardModifiers held);
+  void goSideways(int step);
+  [[nodiscard]] bool pressNamed(const QKeyEvent& event);
+  [[nodiscard]] bool selectByMouse(const Cell& cell, Qt::KeyboardModifiers held);
+  void tellSelection();
   void layColumns();
   void reportVisibleRows();
   void refreshRow(int row);
@@ -75,6 +91,11 @@ class GridTable : public QTableView {
   int pressedRow_ = 0;
   int cursorColumn_ = 4;
   int selectedRow_ = 0;
+  bool several_ = false;  // rows were selected when last looked at
+  std::function<bool(QKeyEvent&)> typing_;
+  std::function<bool(bool)> tabbing_;
+  RowDrag drag_{*this};
+  Cell heldBack_{0, 0};  // pressed on one of several selected rows, which a drag would move
 };
 
 // Draws the ground of a cell: the selected row's tint, the line below, the frame of the keyboard's cell.

@@ -15,8 +15,8 @@ namespace {
 constexpr auto& advices = model::volumeAdvices;
 
 // In the order of model::Loudness.
-constexpr std::array<QPalette::ColorRole, advices.size()> colours{role::wrong, role::warning, role::good,
-                                                                  role::warning};
+constexpr std::array<QPalette::ColorRole, advices.size()> bandColours{role::wrong, role::warning, role::good,
+                                                                      role::warning};
 
 }  // namespace
 
@@ -49,7 +49,7 @@ void VolumeGauge::paintEvent(QPaintEvent*) {
   for (std::size_t i = 0; i < advices.size(); ++i) {
     const double from = x(advices.at(i).from);
     const double to = x(i + 1 < advices.size() ? advices.at(i + 1).from : 100);
-    const QColor colour = palette.color(colours.at(static_cast<std::size_t>(advices.at(i).loudness)));
+    const QColor colour = palette.color(bandColours.at(static_cast<std::size_t>(advices.at(i).loudness)));
     // Only the part of the scale that holds the volume is bright.
     const bool here = &advices.at(i) == &model::adviceFor(percent_);
     painter.fillRect(QRectF(from, groove.top(), to - from - dp(this, 2), high),

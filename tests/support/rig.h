@@ -63,7 +63,13 @@ struct Rig {
   RecordedShell shell;
   RecordedVolume volume;
   RecordedPrinter printer;
-  platform::Outside outside{clock, sound, dialogs, disk, saver, media, level, shell, volume, printer};
+  struct : platform::Clipboard {
+    std::string held;
+    std::string text() override { return held; }
+    void setText(const std::string& text) override { held = text; }
+  } clipboard;
+  platform::Outside outside{clock, sound, dialogs, disk,    saver,    media,
+                            level, shell, volume,  printer, clipboard};
   context::Context context{screens, state, loop, outside};
 };
 

@@ -47,9 +47,11 @@ class InterpreterTest : public testing::Test {
   rehearsal::Journal journal_{clock_};
   rehearsal::ScriptedDialogs dialogs_{journal_};
   rehearsal::SimulatedMachine machine_;
+  rehearsal::SimulatedClipboard clipboard_{journal_};
   console::DirectHands hands_;
   std::ostringstream out_;
-  console::Interpreter interpreter_{{screens_, state_, loop_, journal_, dialogs_, machine_}, hands_, out_};
+  console::Interpreter interpreter_{
+      {screens_, state_, loop_, journal_, dialogs_, machine_, clipboard_}, hands_, out_};
   int status_ = 0;
 };
 
