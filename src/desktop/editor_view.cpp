@@ -10,6 +10,7 @@
 #include <array>
 #include <utility>
 
+#include "desktop/cell_typing.h"
 #include "forms/creer_cycle_words.h"
 #include "model/grid_rows.h"
 #include "model/time_value.h"
@@ -100,6 +101,8 @@ void EditorView::whenBound() {
                                                        ui_->Combo13, ui_->Picture2, &page_}) {
     over->installEventFilter(this);
   }
+  new CellTyping(editor_, *ui_->ListView1, {*ui_->Combo1, *ui_->Combo2, *ui_->Combo4}, binder_,
+                 [this] { refresh(); });
   for (QComboBox* box : {ui_->Combo2, ui_->Combo3, ui_->Combo4}) {
     connect(box->lineEdit(), &QLineEdit::returnPressed, this, &EditorView::leaveCellEditor);
   }
