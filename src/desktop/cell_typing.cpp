@@ -62,8 +62,8 @@ CellTyping::CellTyping(forms::CreerCycle& editor, widgets::GridTable& table, con
       refresh_(std::move(refresh)) {
   table_.setTyping([this](const QKeyEvent& event) { return onTableKey(event); });
   table_.setTabbing([this](bool forward) { return onTab(forward); });
-  for (QObject* watched : std::initializer_list<QObject*>{boxes_.list.view(), &boxes_.list, &boxes_.hours,
-                                                          &boxes_.seconds}) {
+  for (QObject* watched :
+       std::initializer_list<QObject*>{boxes_.list.view(), &boxes_.list, &boxes_.hours, &boxes_.seconds}) {
     watched->installEventFilter(this);
   }
 }
@@ -158,7 +158,8 @@ void CellTyping::openList(const std::string& text) {
   });
 }
 
-// Of the kinds only those of the list can be found; elsewhere what no line begins with is the rider's own value.
+// Of the kinds only those of the list can be found; elsewhere what no line begins with is the rider's own
+// value.
 void CellTyping::search(const std::string& text) {
   const std::optional<int> line = model::lineBeginningWith(editor_.Combo1.lines(), typed_ + text);
   if (!line && kindOpen()) return;

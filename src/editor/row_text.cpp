@@ -102,6 +102,8 @@ class LineReader {
   static std::optional<std::string> valueOf(platform::Grid::Cells& row, int col, const std::string& text) {
     if (at(row, col) == model::noMeaning || !canBeTyped(text)) return std::nullopt;
     if (col != column::duration) return text;
+    // "10:00" could be minutes or hours.
+    if (std::ranges::count(text, ':') != 2) return std::nullopt;
     const std::optional<int> seconds = model::parseSeconds(text);
     if (!seconds) return std::nullopt;
     return model::formatSeconds(*seconds);

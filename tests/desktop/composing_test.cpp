@@ -67,9 +67,10 @@ class ComposingTest : public testing::Test {
   rehearsal::MemoryFileSystem memory_;
   rehearsal::Devices devices_{clock_, memory_, "/d", rehearsal::SoundMode::Instant};
   desktop::QtDialogs dialogs_{[]() -> QWidget* { return nullptr; }};
-  app::Program program_{{clock_, devices_.sound, dialogs_, memory_, devices_.screenSaver, devices_.journaledMedia,
-                         devices_.level, devices_.shell, devices_.volume, devices_.printer, devices_.clipboard},
-                        {"/d", "1.0.0", {}}};
+  app::Program program_{
+      {clock_, devices_.sound, dialogs_, memory_, devices_.screenSaver, devices_.journaledMedia,
+       devices_.level, devices_.shell, devices_.volume, devices_.printer, devices_.clipboard},
+      {"/d", "1.0.0", {}}};
   std::optional<desktop::Windows> windows_;
   widgets::GridTable* table_ = nullptr;
   int presses_ = 0;
@@ -110,9 +111,10 @@ TEST_F(ComposingTest, ASeriesTakesFewerThanTwentyFivePresses) {
 class RowHandsTest : public WindowsTestBase {
  protected:
   RowHandsTest() {
-    program_.run("press MainForm.mnCreat\nselect CreerCycle.ListView1 2\nclipboard Assis\\t\\t\\t\\t1:00\\nSprint\\t97\\t"
-                 "\\t\\t0:30\\nAnnonce Vocale\\nForce\\t\\t\\t\\t0:20\\nRepos\\t\\t\\t\\t0:10\npress CreerCycle.mnPasteRows\n"
-                 "select CreerCycle.ListView1 3");
+    program_.run(
+        "press MainForm.mnCreat\nselect CreerCycle.ListView1 2\nclipboard Assis\\t\\t\\t\\t0:01:00\\nSprint\\t97\\t"
+        "\\t\\t0:00:30\\nAnnonce Vocale\\nForce\\t\\t\\t\\t0:00:20\\nRepos\\t\\t\\t\\t0:00:10\npress CreerCycle.mnPasteRows\n"
+        "select CreerCycle.ListView1 3");
     windows_->window().activateWindow();
     settle();
     table_.setFocus();
@@ -127,7 +129,8 @@ class RowHandsTest : public WindowsTestBase {
     QTest::mousePress(table_.viewport(), Qt::LeftButton, {}, start);
     for (const QPoint& at : {start + QPoint(1, 2), end.center(),
                              QPoint(end.center().x(), lowerHalf ? end.bottom() - 2 : end.top() + 2)}) {
-      QMouseEvent move(QEvent::MouseMove, at, table_.viewport()->mapToGlobal(at), Qt::NoButton, Qt::LeftButton, {});
+      QMouseEvent move(QEvent::MouseMove, at, table_.viewport()->mapToGlobal(at), Qt::NoButton,
+                       Qt::LeftButton, {});
       QApplication::sendEvent(table_.viewport(), &move);
     }
   }
@@ -151,7 +154,8 @@ class RowHandsTest : public WindowsTestBase {
   }
   std::string kinds() {
     std::string all;
-    for (int row = 2; row <= grid_.rowCount(); ++row) all += grid_.text(row, column::sequence).substr(0, 2) + " ";
+    for (int row = 2; row <= grid_.rowCount(); ++row)
+      all += grid_.text(row, column::sequence).substr(0, 2) + " ";
     return all;
   }
 

@@ -17,8 +17,8 @@ TEST(RowText, TakesWhatCanBeTypedAndNamesTheRest) {
   for (const auto& [text, rows, refused] : {std::tuple{std::string("Sprint\r\nRepos\rPlat"), 3U, 0U},
                                             {"\n \t \n\t\t\n", 0U, 0U},
                                             {"-----\t-----\n----------------\n", 0U, 1U},
-                                            {"Repos\t\t\t\t1:30", 1U, 0U},
-                                            {"Repos\t\t\t\t90", 1U, 1U},
+                                            {"Repos\t\t\t\t0:01:30", 1U, 0U},
+                                            {"Repos\t\t\t\t10:00", 1U, 1U},
                                             {wide + "\t" + wide, 0U, 2U},
                                             {std::string("Rep\0os", 6) + "\t60", 1U, 1U},
                                             {std::string(100'000, '\t') + "x\n", 0U, 1U},
@@ -64,7 +64,7 @@ class RowCommandsTest : public testing::Test, protected support::SimulatedProgra
 
 TEST_F(RowCommandsTest, AListTakesNoMoreThanAFileCanHold) {
   std::string many;
-  for (int i = 0; i < 14'399; ++i) many += "Plat\\t\\t\\t\\t1:00\\n";
+  for (int i = 0; i < 14'399; ++i) many += "Plat\\t\\t\\t\\t0:01:00\\n";
   run("clipboard " + many + "\nselect CreerCycle.ListView1 2\npress CreerCycle.mnPasteRows");
   EXPECT_EQ(list().rowCount(), 14'402);
   run("advance 1\npress CreerCycle.mnPasteRows");
